@@ -1,0 +1,22 @@
+#include "app/cli/registry.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("medistock"));
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+
+    medistock::cli::Registry registry;
+    medistock::cli::addCoreCommands(registry);
+
+    const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
+    out.flush();
+    err.flush();
+    return status;
+}

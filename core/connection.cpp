@@ -1,0 +1,298 @@
+#include "core/connection.h"
+
+#include "core/dberror.h"
+
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <atomic>
+
+namespace medistock::core {
+
+namespace {
+
+std::atomic<int> connectionCounter { 0 };
+
+QString errorText(const QSqlError &error)
+{
+    QString text = error.databaseText().trimmed();
+    if (text.isEmpty())
+        text = error.text().trimmed();
+    return QStringLiteral("数据库错误：") + text;
+}
+
+[[noreturn]] void fail(const QSqlError &error, const QString &sql)
+{
+    Q_UNUSED(sql);
+    throw DbError(errorText(error));
+}
+
+} // namespace
+
+// A checked-out prepared statement: binds, executes and gives the query back to the cache when it
+// goes out of scope, finished, so that no open read cursor holds a table.
+class Connection::Statement
+{
+public:
+    Statement(QSqlQuery *query, bool *busy, bool owned)
+        : m_query(query)
+        , m_busy(busy)
+        , m_owned(owned)
+    {
+    }
+    Statement(Statement &&other) noexcept
+        : m_query(std::exchange(other.m_query, nullptr))
+        , m_busy(std::exchange(other.m_busy, nullptr))
+        , m_owned(other.m_owned)
+    {
+    }
+    ~Statement()
+    {
+        if (!m_query)
+            return;
+        m_query->finish();
+        if (m_owned)
+            delete m_query;
+        else
+            *m_busy = false;
+    }
+    QSqlQuery &query() { return *m_query; }
+
+private:
+    QSqlQuery *m_query;
+    bool *m_busy;
+    bool m_owned;
+};
+
+Connection::Connection(QSqlDatabase db, Dialect dialect, QString path)
+    : m_db(std::move(db))
+    , m_connectionName(m_db.connectionName())
+    , m_dialect(dialect)
+    , m_path(std::move(path))
+{
+}
+
+Connection::~Connection()
+{
+    if (m_depth > 0) {
+        m_depth = 1;
+        rollbackWrite();
+    }
+    qDeleteAll(m_cache);
+    m_cache.clear();
+    m_db.close();
+    m_db = QSqlDatabase();
+    QSqlDatabase::removeDatabase(m_connectionName);
+}
+
+std::unique_ptr<Connection> Connection::openSqlite(const QString &path)
+{
+    const QString name = QStringLiteral("medistock-%1").arg(++connectionCounter);
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+    db.setDatabaseName(path);
+    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=15000"));
+    if (!db.open()) {
+        const QString text = errorText(db.lastError());
+        db = QSqlDatabase();
+        QSqlDatabase::removeDatabase(name);
+        throw DbError(text);
+    }
+    std::unique_ptr<Connection> connection(new Connection(db, Dialect::Sqlite, path));
+    // WAL lets several copies of the program read while one writes; the cache keeps the ledger
+    // indexes in memory on large account sets.
+    connection->execDirect(QStringLiteral("pragma journal_mode=wal"));
+    connection->execDirect(QStringLiteral("pragma cache_size=-65536"));
+    connection->execDirect(QStringLiteral("pragma temp_store=memory"));
+    return connection;
+}
+
+std::unique_ptr<Connection> Connection::openPostgres(const PostgresOptions &options)
+{
+    const QString name = QStringLiteral("medistock-%1").arg(++connectionCounter);
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name);
+    db.setHostName(options.host);
+    db.setPort(options.port);
+    db.setDatabaseName(options.database);
+    db.setUserName(options.user);
+    db.setPassword(options.password);
+    if (!db.open()) {
+        const QString text = errorText(db.lastError());
+        db = QSqlDatabase();
+        QSqlDatabase::removeDatabase(name);
+        throw DbError(text);
+    }
+    return std::unique_ptr<Connection>(new Connection(db, Dialect::Postgres, QString()));
+}
+
+void Connection::execDirect(const QString &sql)
+{
+    QSqlQuery query(m_db);
+    if (!query.exec(sql))
+        fail(query.lastError(), sql);
+    query.finish();
+}
+
+Connection::Statement Connection::take(const QString &sql, const QVariantList &params)
+{
+    QSqlQuery *query = nullptr;
+    bool *busy = nullptr;
+    bool owned = false;
+    auto cached = m_cache.find(sql);
+    if (cached == m_cache.end()) {
+        query = new QSqlQuery(m_db);
+        query->setForwardOnly(true);
+        if (!query->prepare(sql)) {
+            const QSqlError error = query->lastError();
+            delete query;
+            fail(error, sql);
+        }
+        m_cache.insert(sql, query);
+        busy = &m_busy[sql];
+    } else if (m_busy[sql]) {
+        query = new QSqlQuery(m_db);
+        query->setForwardOnly(true);
+        owned = true;
+        if (!query->prepare(sql)) {
+            const QSqlError error = query->lastError();
+            delete query;
+            fail(error, sql);
+        }
+    } else {
+        query = cached.value();
+        busy = &m_busy[sql];
+    }
+    if (busy)
+        *busy = true;
+    Statement statement(query, busy, owned);
+    for (int i = 0; i < params.size(); ++i)
+        query->bindValue(i, params.at(i));
+    if (!query->exec())
+        fail(query->lastError(), sql);
+    return statement;
+}
+
+int Connection::exec(const QString &sql, const QVariantList &params)
+{
+    Statement statement = take(sql, params);
+    return statement.query().numRowsAffected();
+}
+
+qint64 Connection::insert(const QString &sql, const QVariantList &params)
+{
+    Statement statement = take(sql, params);
+    return statement.query().lastInsertId().toLongLong();
+}
+
+QVariant Connection::firstValue(const QString &sql, const QVariantList &params)
+{
+    Statement statement = take(sql, params);
+    if (!statement.query().next())
+        return QVariant();
+    return statement.query().value(0);
+}
+
+QString Connection::firstText(const QString &sql, const QVariantList &params)
+{
+    const QVariant value = firstValue(sql, params);
+    return value.isNull() ? QString() : value.toString();
+}
+
+bool Connection::exists(const QString &sql, const QVariantList &params)
+{
+    Statement statement = take(sql, params);
+    return statement.query().next();
+}
+
+QSqlRecord Connection::firstRow(const QString &sql, const QVariantList &params)
+{
+    Statement statement = take(sql, params);
+    if (!statement.query().next())
+        return QSqlRecord();
+    return statement.query().record();
+}
+
+QList<QSqlRecord> Connection::rows(const QString &sql, const QVariantList &params)
+{
+    Statement statement = take(sql, params);
+    QList<QSqlRecord> result;
+    while (statement.query().next())
+        result.append(statement.query().record());
+    return result;
+}
+
+void Connection::forEach(const QString &sql, const QVariantList &params,
+                         const std::function<void(const QSqlQuery &)> &row)
+{
+    Statement statement = take(sql, params);
+    while (statement.query().next())
+        row(statement.query());
+}
+
+bool Connection::tableExists(const QString &table)
+{
+    if (m_dialect == Dialect::Sqlite)
+        return exists(QStringLiteral("select 1 from sqlite_master where type='table' and name=?"),
+                      { table });
+    return exists(QStringLiteral("select 1 from information_schema.tables where table_name=?"),
+                  { table });
+}
+
+QStringList Connection::columnNames(const QString &table)
+{
+    QStringList names;
+    const QSqlRecord record = m_db.record(table);
+    for (int i = 0; i < record.count(); ++i)
+        names.append(record.fieldName(i));
+    return names;
+}
+
+void Connection::beginWrite()
+{
+    if (m_depth == 0) {
+        execDirect(beginWriteSql(m_dialect));
+        m_rollbackOnly = false;
+    }
+    ++m_depth;
+}
+
+void Connection::commitWrite()
+{
+    if (m_depth == 0)
+        return;
+    if (m_depth > 1) {
+        --m_depth;
+        return;
+    }
+    if (m_rollbackOnly) {
+        rollbackWrite();
+        throw DbError(QStringLiteral("数据库错误：事务中有操作未完成，全部改动已撤销"));
+    }
+    try {
+        execDirect(QStringLiteral("commit"));
+    } catch (const DbError &) {
+        rollbackWrite();
+        throw;
+    }
+    m_depth = 0;
+}
+
+void Connection::rollbackWrite() noexcept
+{
+    if (m_depth == 0)
+        return;
+    if (m_depth > 1) {
+        // An inner step gave up: the outermost transaction may no longer commit.
+        --m_depth;
+        m_rollbackOnly = true;
+        return;
+    }
+    m_depth = 0;
+    m_rollbackOnly = false;
+    for (QSqlQuery *query : std::as_const(m_cache))
+        query->finish();
+    QSqlQuery query(m_db);
+    query.exec(QStringLiteral("rollback"));
+}
+
+} // namespace medistock::core

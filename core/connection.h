@@ -1,0 +1,93 @@
+#pragma once
+
+#include "core/dialect.h"
+
+#include <QHash>
+#include <QList>
+#include <QSqlDatabase>
+#include <QSqlRecord>
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+
+class QSqlQuery;
+
+namespace medistock::core {
+
+// One open database. Every value goes in as a bound parameter ("?" placeholders, in order);
+// statements are prepared once and reused. Errors throw DbError (core/dberror.h).
+class Connection
+{
+public:
+    struct PostgresOptions
+    {
+        QString host;
+        int port = 5432;
+        QString database;
+        QString user;
+        QString password;
+    };
+
+    // Opens (creating if missing) an SQLite file in WAL mode with a busy timeout.
+    static std::unique_ptr<Connection> openSqlite(const QString &path);
+    static std::unique_ptr<Connection> openPostgres(const PostgresOptions &options);
+
+    ~Connection();
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    Dialect dialect() const { return m_dialect; }
+    // The SQLite file's path; empty on PostgreSQL.
+    const QString &filePath() const { return m_path; }
+
+    // Runs a statement; returns the number of rows it changed.
+    int exec(const QString &sql, const QVariantList &params = {});
+    // Runs an insert; returns the id of the new row.
+    qint64 insert(const QString &sql, const QVariantList &params = {});
+    // The shared query routine: the first column of the first row as text, empty when none.
+    QString firstText(const QString &sql, const QVariantList &params = {});
+    // The first column of the first row; an invalid QVariant when there is no row.
+    QVariant firstValue(const QString &sql, const QVariantList &params = {});
+    bool exists(const QString &sql, const QVariantList &params = {});
+    // The first row; an empty record when there is none.
+    QSqlRecord firstRow(const QString &sql, const QVariantList &params = {});
+    QList<QSqlRecord> rows(const QString &sql, const QVariantList &params = {});
+    // Streams the rows to a callback that reads columns by position (q.value(0) ...).
+    void forEach(const QString &sql, const QVariantList &params,
+                 const std::function<void(const QSqlQuery &)> &row);
+
+    // Runs a statement without parameters and without keeping it prepared (DDL, pragmas).
+    void execDirect(const QString &sql);
+
+    // Table and column names of the connected database.
+    bool tableExists(const QString &table);
+    QStringList columnNames(const QString &table);
+
+    // Used by Transaction: nested guards join the outermost one.
+    void beginWrite();
+    void commitWrite();
+    void rollbackWrite() noexcept;
+    bool inTransaction() const { return m_depth > 0; }
+
+    // For read-only models of list screens; statements still go through this class.
+    QSqlDatabase database() const { return m_db; }
+
+private:
+    Connection(QSqlDatabase db, Dialect dialect, QString path);
+    class Statement;
+    // A prepared statement from the cache, or a fresh one when the cached one is in use.
+    Statement take(const QString &sql, const QVariantList &params);
+
+    QSqlDatabase m_db;
+    QString m_connectionName;
+    Dialect m_dialect;
+    QString m_path;
+    QHash<QString, QSqlQuery *> m_cache;
+    QHash<QString, bool> m_busy;
+    int m_depth = 0;
+    bool m_rollbackOnly = false;
+};
+
+} // namespace medistock::core

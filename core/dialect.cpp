@@ -1,0 +1,26 @@
+#include "core/dialect.h"
+
+namespace medistock::core {
+
+QString columnTypeSql(Dialect dialect, const QString &declaredType)
+{
+    const QString type = declaredType.trimmed().toLower();
+    if (type == QLatin1String("counter"))
+        return dialect == Dialect::Sqlite ? QStringLiteral("integer primary key autoincrement")
+                                          : QStringLiteral("serial primary key");
+    if (dialect == Dialect::Sqlite)
+        return declaredType + QStringLiteral(" null");
+    // PostgreSQL has no nvarchar and its bit is a bit string; flags are written as 0 and 1.
+    if (type.startsWith(QLatin1String("nvarchar")))
+        return type.mid(1) + QStringLiteral(" null");
+    if (type == QLatin1String("bit"))
+        return QStringLiteral("smallint null");
+    return type + QStringLiteral(" null");
+}
+
+QString beginWriteSql(Dialect dialect)
+{
+    return dialect == Dialect::Sqlite ? QStringLiteral("begin immediate") : QStringLiteral("begin");
+}
+
+} // namespace medistock::core

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace medistock::core {
+
+// The SQL engines the account sets can live on. Statements are written in the SQL both accept;
+// the few places where they differ ask these helpers.
+enum class Dialect { Sqlite, Postgres };
+
+// The column declaration for a type as the schema writes it ("Counter", "nvarchar(64)", "bit" ...).
+// SQLite keeps the declared type as written; PostgreSQL gets its nearest equivalent.
+QString columnTypeSql(Dialect dialect, const QString &declaredType);
+
+// The statement that opens a write transaction, taking the write lock at once on SQLite.
+QString beginWriteSql(Dialect dialect);
+
+} // namespace medistock::core

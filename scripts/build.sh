@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Configures and builds Medistock in build/ (warnings are errors): the targets named, or all.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMEDISTOCK_WERROR=ON >/dev/null
+targets=()
+for target in "$@"; do
+    targets+=(--target "$target")
+done
+cmake --build build --parallel "$(nproc)" "${targets[@]}"

@@ -1,0 +1,82 @@
+#include "tests/support/accountset.h"
+
+#include "core/datafolder.h"
+
+#include <QDir>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+namespace medistock::test {
+
+void AccountSetTest::SetUp()
+{
+    ASSERT_TRUE(m_dir.isValid());
+    const auto report = core::initDataFolder(m_dir.path(), seedContext());
+    ASSERT_TRUE(report.ok()) << report.message().toStdString();
+    m_connection = core::Connection::openSqlite(path());
+}
+
+void AccountSetTest::TearDown()
+{
+    m_connection.reset();
+}
+
+QString AccountSetTest::path() const
+{
+    return QDir(m_dir.path()).filePath(core::masterFileName());
+}
+
+core::SeedContext AccountSetTest::seedContext() const
+{
+    return { clock.today(), { QStringLiteral("康宁大药房"), QStringLiteral("康宁"), QStringLiteral("0571-88886666") } };
+}
+
+void AccountSetTest::reopen()
+{
+    m_connection.reset();
+    m_connection = core::Connection::openSqlite(path());
+}
+
+QStringList dumpTable(core::Connection &connection, const QString &table)
+{
+    QStringList lines;
+    connection.forEach(QStringLiteral("select * from ") + table + QStringLiteral(" order by 1"), {},
+                       [&](const QSqlQuery &query) {
+                           const QSqlRecord record = query.record();
+                           QStringList values;
+                           for (int i = 0; i < record.count(); ++i) {
+                               const QVariant value = query.value(i);
+                               values.append(value.isNull() ? QStringLiteral("<null>")
+                                                            : value.toString());
+                           }
+                           lines.append(values.join(QLatin1Char('|')));
+                       });
+    return lines;
+}
+
+int rowCount(core::Connection &connection, const QString &table)
+{
+    return connection.firstValue(QStringLiteral("select count(*) from ") + table).toInt();
+}
+
+QString dumpDatabase(core::Connection &connection, const QStringList &skipTables)
+{
+    QString dump;
+    const QList<QSqlRecord> tables = connection.rows(QStringLiteral(
+        "select name,sql from sqlite_master where type in ('table','index') order by name"));
+    for (const QSqlRecord &table : tables) {
+        const QString name = table.value(0).toString();
+        if (skipTables.contains(name))
+            continue;
+        dump += table.value(1).toString() + QLatin1Char('\n');
+        if (name.startsWith(QLatin1String("ix_")))
+            continue;
+        if (!connection.tableExists(name))
+            continue;
+        for (const QString &line : dumpTable(connection, name))
+            dump += QStringLiteral("  ") + line + QLatin1Char('\n');
+    }
+    return dump;
+}
+
+} // namespace medistock::test
