@@ -14,7 +14,8 @@ using namespace medistock::core;
 static void BM_CreateAccountSetFile(benchmark::State &state)
 {
     QTemporaryDir dir;
-    const SeedContext seeds { QDate(2025, 3, 14), { QStringLiteral("康宁大药房"), QStringLiteral("康宁"), QString() } };
+    const SeedContext seeds { QDate(2025, 3, 14),
+        { QStringLiteral("康宁大药房"), QStringLiteral("康宁"), QString() } };
     int n = 0;
     for (auto _ : state) {
         const QString path = QDir(dir.path()).filePath(QStringLiteral("jxc_%1.db").arg(++n));
@@ -28,4 +29,7 @@ static void BM_CreateAccountSetFile(benchmark::State &state)
         state.ResumeTiming();
     }
 }
-BENCHMARK(BM_CreateAccountSetFile)->Unit(benchmark::kMillisecond)->Repetitions(15)->ReportAggregatesOnly(true);
+BENCHMARK(BM_CreateAccountSetFile)
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(15)
+    ->ReportAggregatesOnly(true);

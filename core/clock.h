@@ -13,8 +13,7 @@ public:
     Clock() = default;
     explicit Clock(QDate fixedDate)
         : m_fixed(fixedDate)
-    {
-    }
+    { }
 
     QDate today() const { return m_fixed.isValid() ? m_fixed : QDate::currentDate(); }
     QDateTime now() const

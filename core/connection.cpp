@@ -22,9 +22,17 @@ QString errorText(const QSqlError &error)
     return QStringLiteral("数据库错误：") + text;
 }
 
-[[noreturn]] void fail(const QSqlError &error, const QString &sql)
+// A null QString would be bound as SQL NULL; text is text, empty or not. Only an invalid QVariant
+// binds NULL.
+QVariant bindable(const QVariant &value)
 {
-    Q_UNUSED(sql);
+    if (value.typeId() == QMetaType::QString && value.toString().isNull())
+        return QString(QLatin1String(""));
+    return value;
+}
+
+[[noreturn]] void fail(const QSqlError &error)
+{
     throw DbError(errorText(error));
 }
 
@@ -39,14 +47,12 @@ public:
         : m_query(query)
         , m_busy(busy)
         , m_owned(owned)
-    {
-    }
+    { }
     Statement(Statement &&other) noexcept
         : m_query(std::exchange(other.m_query, nullptr))
         , m_busy(std::exchange(other.m_busy, nullptr))
         , m_owned(other.m_owned)
-    {
-    }
+    { }
     ~Statement()
     {
         if (!m_query)
@@ -70,8 +76,7 @@ Connection::Connection(QSqlDatabase db, Dialect dialect, QString path)
     , m_connectionName(m_db.connectionName())
     , m_dialect(dialect)
     , m_path(std::move(path))
-{
-}
+{ }
 
 Connection::~Connection()
 {
@@ -129,7 +134,7 @@ void Connection::execDirect(const QString &sql)
 {
     QSqlQuery query(m_db);
     if (!query.exec(sql))
-        fail(query.lastError(), sql);
+        fail(query.lastError());
     query.finish();
 }
 
@@ -145,7 +150,7 @@ Connection::Statement Connection::take(const QString &sql, const QVariantList &p
         if (!query->prepare(sql)) {
             const QSqlError error = query->lastError();
             delete query;
-            fail(error, sql);
+            fail(error);
         }
         m_cache.insert(sql, query);
         busy = &m_busy[sql];
@@ -156,7 +161,7 @@ Connection::Statement Connection::take(const QString &sql, const QVariantList &p
         if (!query->prepare(sql)) {
             const QSqlError error = query->lastError();
             delete query;
-            fail(error, sql);
+            fail(error);
         }
     } else {
         query = cached.value();
@@ -166,9 +171,9 @@ Connection::Statement Connection::take(const QString &sql, const QVariantList &p
         *busy = true;
     Statement statement(query, busy, owned);
     for (int i = 0; i < params.size(); ++i)
-        query->bindValue(i, params.at(i));
+        query->bindValue(i, bindable(params.at(i)));
     if (!query->exec())
-        fail(query->lastError(), sql);
+        fail(query->lastError());
     return statement;
 }
 
@@ -222,7 +227,7 @@ QList<QSqlRecord> Connection::rows(const QString &sql, const QVariantList &param
 }
 
 void Connection::forEach(const QString &sql, const QVariantList &params,
-                         const std::function<void(const QSqlQuery &)> &row)
+    const std::function<void(const QSqlQuery &)> &row)
 {
     Statement statement = take(sql, params);
     while (statement.query().next())
@@ -232,10 +237,10 @@ void Connection::forEach(const QString &sql, const QVariantList &params,
 bool Connection::tableExists(const QString &table)
 {
     if (m_dialect == Dialect::Sqlite)
-        return exists(QStringLiteral("select 1 from sqlite_master where type='table' and name=?"),
-                      { table });
-    return exists(QStringLiteral("select 1 from information_schema.tables where table_name=?"),
-                  { table });
+        return exists(
+            QStringLiteral("select 1 from sqlite_master where type='table' and name=?"), { table });
+    return exists(
+        QStringLiteral("select 1 from information_schema.tables where table_name=?"), { table });
 }
 
 QStringList Connection::columnNames(const QString &table)

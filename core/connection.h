@@ -18,6 +18,7 @@ namespace medistock::core {
 
 // One open database. Every value goes in as a bound parameter ("?" placeholders, in order);
 // statements are prepared once and reused. Errors throw DbError (core/dberror.h).
+// A QString binds as text even when it is null; only an invalid QVariant() binds SQL NULL.
 class Connection
 {
 public:
@@ -56,7 +57,7 @@ public:
     QList<QSqlRecord> rows(const QString &sql, const QVariantList &params = {});
     // Streams the rows to a callback that reads columns by position (q.value(0) ...).
     void forEach(const QString &sql, const QVariantList &params,
-                 const std::function<void(const QSqlQuery &)> &row);
+        const std::function<void(const QSqlQuery &)> &row);
 
     // Runs a statement without parameters and without keeping it prepared (DDL, pragmas).
     void execDirect(const QString &sql);

@@ -20,9 +20,15 @@ QString resolveDataFolder(const QString &option)
     return QDir(base).filePath(QStringLiteral("medistock"));
 }
 
-QString masterFileName() { return QStringLiteral("jxc.db"); }
+QString masterFileName()
+{
+    return QStringLiteral("jxc.db");
+}
 
-QString accountSetFileName(const QString &code) { return QStringLiteral("jxc_%1.db").arg(code); }
+QString accountSetFileName(const QString &code)
+{
+    return QStringLiteral("jxc_%1.db").arg(code);
+}
 
 namespace {
 

@@ -14,8 +14,7 @@ public:
     explicit DbError(const QString &message)
         : std::runtime_error(message.toStdString())
         , m_message(message)
-    {
-    }
+    { }
 
     // The Chinese text shown to the operator.
     const QString &message() const { return m_message; }

@@ -11,8 +11,10 @@ QString columnTypeSql(Dialect dialect, const QString &declaredType)
     if (dialect == Dialect::Sqlite)
         return declaredType + QStringLiteral(" null");
     // PostgreSQL has no nvarchar and its bit is a bit string; flags are written as 0 and 1.
-    if (type.startsWith(QLatin1String("nvarchar")))
-        return type.mid(1) + QStringLiteral(" null");
+    // Text widths are left open as SQLite leaves them, so both engines accept the same rows
+    // (a password hash is longer than the declared width of its column).
+    if (type.startsWith(QLatin1String("varchar")) || type.startsWith(QLatin1String("nvarchar")))
+        return QStringLiteral("varchar null");
     if (type == QLatin1String("bit"))
         return QStringLiteral("smallint null");
     return type + QStringLiteral(" null");

@@ -24,8 +24,7 @@ class ScriptedInteraction : public Interaction
 public:
     explicit ScriptedInteraction(bool defaultAnswer = false)
         : m_defaultAnswer(defaultAnswer)
-    {
-    }
+    { }
 
     void inform(const QString &text) override { informed.append(text); }
     bool ask(const QString &text) override

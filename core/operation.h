@@ -17,8 +17,7 @@ inline Outcome refuse(Interaction &interaction, const QString &message)
 
 // Runs an operation's body and turns a database error into a shown, failed outcome. The body's
 // transaction guard has already rolled everything back by the time the error arrives here.
-template<class Body>
-Outcome guarded(Interaction &interaction, Body &&body)
+template<class Body> Outcome guarded(Interaction &interaction, Body &&body)
 {
     try {
         return std::forward<Body>(body)();

@@ -27,27 +27,23 @@ private:
     Outcome(Kind kind, QString message)
         : m_kind(kind)
         , m_message(std::move(message))
-    {
-    }
+    { }
 
     Kind m_kind;
     QString m_message;
 };
 
 // An outcome that carries a value when it went through.
-template<class T>
-class Result
+template<class T> class Result
 {
 public:
     Result(T value)
         : m_outcome(Outcome::done())
         , m_value(std::move(value))
-    {
-    }
+    { }
     Result(Outcome outcome)
         : m_outcome(std::move(outcome))
-    {
-    }
+    { }
 
     bool ok() const { return m_outcome.ok(); }
     explicit operator bool() const { return ok(); }

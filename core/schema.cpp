@@ -31,7 +31,7 @@ QVariant seedValue(const SeedValue &value, const SeedContext &context)
         return context.company.tele;
     case SeedValue::Kind::BranchName: {
         const QString shop = context.company.shortName.isEmpty() ? context.company.name
-                                                                  : context.company.shortName;
+                                                                 : context.company.shortName;
         return shop + QStringLiteral("旗舰店");
     }
     }
@@ -43,7 +43,7 @@ QString createSql(Connection &connection, const TableDef &table, const QString &
     QStringList declarations;
     for (const ColumnDef &column : table.columns)
         declarations.append(QString::fromLatin1(column.name) + QLatin1Char(' ')
-                            + columnTypeSql(connection.dialect(), QString::fromLatin1(column.type)));
+            + columnTypeSql(connection.dialect(), QString::fromLatin1(column.type)));
     return QStringLiteral("create table ") + name + QStringLiteral(" (")
         + declarations.join(QLatin1Char(',')) + QLatin1Char(')');
 }
@@ -62,8 +62,8 @@ void createIndexes(Connection &connection, const TableDef &table, const QString 
     }
 }
 
-void insertSeed(Connection &connection, const SeedRow &seed, const QString &target,
-                const SeedContext &context)
+void insertSeed(
+    Connection &connection, const SeedRow &seed, const QString &target, const SeedContext &context)
 {
     const QString columns = QString::fromLatin1(seed.columns);
     QStringList marks;
@@ -73,12 +73,11 @@ void insertSeed(Connection &connection, const SeedRow &seed, const QString &targ
         values.append(seedValue(value, context));
     }
     connection.exec(QStringLiteral("insert into ") + target + QStringLiteral(" (") + columns
-                        + QStringLiteral(") values (") + marks.join(QLatin1Char(',')) + QLatin1Char(')'),
-                    values);
+            + QStringLiteral(") values (") + marks.join(QLatin1Char(',')) + QLatin1Char(')'),
+        values);
 }
 
-template<class Body>
-Outcome inTransaction(Connection &connection, Body body)
+template<class Body> Outcome inTransaction(Connection &connection, Body body)
 {
     try {
         Transaction transaction(connection);
@@ -101,7 +100,7 @@ bool isKept(const char *table)
 } // namespace
 
 void createTable(Connection &connection, const TableDef &table, const SeedContext &context,
-                 const QString &suffix)
+    const QString &suffix)
 {
     const QString name = QString::fromLatin1(table.name) + suffix;
     connection.execDirect(QStringLiteral("drop table if exists ") + name);

@@ -29,7 +29,7 @@ struct SeedContext
 // makes a same-shaped copy under name + suffix (seeds aimed at other tables are then left out).
 // Throws DbError; runs inside the caller's transaction when there is one.
 void createTable(Connection &connection, const TableDef &table, const SeedContext &context,
-                 const QString &suffix = {});
+    const QString &suffix = {});
 
 // Runs every table routine in order, in one transaction.
 Outcome createAllTables(Connection &connection, const SeedContext &context);

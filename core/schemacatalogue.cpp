@@ -20,11 +20,33 @@ constexpr ColumnDef registerColumns[] = {
 constexpr TableDef registerDef { "jxc_xtzt", registerColumns, {} };
 
 constexpr const char *kept[] = {
-    "jxc_skin",   "jxc_goodsclass", "jxc_goods",   "jxc_color",    "jxc_dw",      "jxc_ggxh",
-    "jxc_ckxx",   "jxc_kcsp",       "jxc_ghsxx",   "jxc_import",   "jxc_ghstype", "jxc_zone",
-    "jxc_khxx",   "jxc_khtype",     "jxc_user",    "jxc_admin",    "jxc_company", "jxc_hyfl",
-    "jxc_hyxx",   "jxc_hyjbxx",     "jxc_posprint", "jxc_gnb",     "jxc_posfont", "jxc_backup",
-    "jxc_role",   "jxc_mryt",       "jxc_xtcs",
+    "jxc_skin",
+    "jxc_goodsclass",
+    "jxc_goods",
+    "jxc_color",
+    "jxc_dw",
+    "jxc_ggxh",
+    "jxc_ckxx",
+    "jxc_kcsp",
+    "jxc_ghsxx",
+    "jxc_import",
+    "jxc_ghstype",
+    "jxc_zone",
+    "jxc_khxx",
+    "jxc_khtype",
+    "jxc_user",
+    "jxc_admin",
+    "jxc_company",
+    "jxc_hyfl",
+    "jxc_hyxx",
+    "jxc_hyjbxx",
+    "jxc_posprint",
+    "jxc_gnb",
+    "jxc_posfont",
+    "jxc_backup",
+    "jxc_role",
+    "jxc_mryt",
+    "jxc_xtcs",
 };
 
 // The goods ledger is read per goods and warehouse in date-then-id order by every posting, and by
@@ -103,11 +125,20 @@ constexpr IndexDef indexes[] = {
 
 } // namespace
 
-const TableDef &registerTable() { return registerDef; }
+const TableDef &registerTable()
+{
+    return registerDef;
+}
 
-std::span<const char *const> keptTables() { return kept; }
+std::span<const char *const> keptTables()
+{
+    return kept;
+}
 
-std::span<const IndexDef> schemaIndexes() { return indexes; }
+std::span<const IndexDef> schemaIndexes()
+{
+    return indexes;
+}
 
 const TableDef *findTable(const QString &name)
 {

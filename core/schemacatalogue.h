@@ -10,7 +10,7 @@ namespace medistock::core {
 struct ColumnDef
 {
     const char *name;
-    const char *type;  // as declared: "Counter", "varchar(32)", "numeric(28,8)", "bit" ...
+    const char *type; // as declared: "Counter", "varchar(32)", "numeric(28,8)", "bit" ...
     const char *label; // the caption screens show; empty when no screen labels the column
 };
 
@@ -33,7 +33,7 @@ struct SeedValue
 
 struct SeedRow
 {
-    const char *table;   // the table the row goes into (one routine seeds another table)
+    const char *table; // the table the row goes into (one routine seeds another table)
     const char *columns; // comma-separated, in the order of values
     std::span<const SeedValue> values;
 };

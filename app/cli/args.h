@@ -14,8 +14,7 @@ class Args
 public:
     explicit Args(QStringList arguments)
         : m_arguments(std::move(arguments))
-    {
-    }
+    { }
 
     // "--name VALUE"; empty optional when absent.
     std::optional<QString> option(const QString &name);

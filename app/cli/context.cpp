@@ -2,6 +2,7 @@
 
 #include "core/datafolder.h"
 #include "core/dberror.h"
+#include "shell/session.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,8 +16,8 @@ void CliInteraction::inform(const QString &text)
 
 bool CliInteraction::ask(const QString &text)
 {
-    m_err << text << QStringLiteral(" [是/否] ") << (m_yes ? QStringLiteral("是") : QStringLiteral("否"))
-          << Qt::endl;
+    m_err << text << QStringLiteral(" [是/否] ")
+          << (m_yes ? QStringLiteral("是") : QStringLiteral("否")) << Qt::endl;
     return m_yes;
 }
 
@@ -30,7 +31,10 @@ Context::Context(GlobalOptions options, QTextStream &out, QTextStream &err)
         m_clock.fix(QDate::fromString(m_options.today, QStringLiteral("yyyy-MM-dd")));
 }
 
-Context::~Context() = default;
+Context::~Context()
+{
+    m_session.reset();
+}
 
 QString Context::dataFolder() const
 {
@@ -53,6 +57,72 @@ core::Connection &Context::connection()
         m_connection = core::Connection::openSqlite(path);
     }
     return *m_connection;
+}
+
+core::Connection &Context::masterConnection()
+{
+    if (m_options.set.isEmpty())
+        return connection();
+    if (!m_master) {
+        const QString path = QDir(dataFolder()).filePath(core::masterFileName());
+        if (!QFile::exists(path))
+            throw core::DbError(QStringLiteral("帐套文件不存在：") + path);
+        m_master = core::Connection::openSqlite(path);
+    }
+    return *m_master;
+}
+
+shell::Session &Context::session()
+{
+    if (!m_session) {
+        const QString user = m_options.user.isEmpty() ? QStringLiteral("admin") : m_options.user;
+        auto opened = shell::openSession(connection(), m_interaction, m_clock, user,
+            m_options.password, core::LoginMode::Script);
+        if (!opened)
+            throw Stop { exitCode(opened.outcome()) };
+        m_session = std::move(opened.value());
+    }
+    return *m_session;
+}
+
+void requireNoMore(Context &context, const Args &args)
+{
+    if (args.missingValue())
+        throw Stop { context.usageError(QStringLiteral("选项缺少取值")) };
+    if (!args.unknownOption().isEmpty())
+        throw Stop { context.usageError(QStringLiteral("未知选项：") + args.unknownOption()) };
+    if (!args.positional().isEmpty())
+        throw Stop { context.usageError(
+            QStringLiteral("多余的参数：") + args.positional().join(QLatin1Char(' '))) };
+}
+
+QStringList takePositional(Context &context, const Args &args, int min, int max)
+{
+    if (args.missingValue())
+        throw Stop { context.usageError(QStringLiteral("选项缺少取值")) };
+    if (!args.unknownOption().isEmpty())
+        throw Stop { context.usageError(QStringLiteral("未知选项：") + args.unknownOption()) };
+    const QStringList positional = args.positional();
+    if (positional.size() < min)
+        throw Stop { context.usageError(QStringLiteral("参数不足")) };
+    if (positional.size() > max)
+        throw Stop { context.usageError(
+            QStringLiteral("多余的参数：") + positional.mid(max).join(QLatin1Char(' '))) };
+    return positional;
+}
+
+QDate parseDate(Context &context, const QString &text)
+{
+    const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    if (!date.isValid())
+        throw Stop { context.usageError(QStringLiteral("日期格式应为 yyyy-MM-dd：") + text) };
+    return date;
+}
+
+void require(const Outcome &outcome)
+{
+    if (!outcome)
+        throw Stop { Context::exitCode(outcome) };
 }
 
 int Context::usageError(const QString &text)

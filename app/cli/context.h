@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/cli/args.h"
 #include "core/clock.h"
 #include "core/connection.h"
 #include "core/interaction.h"
@@ -9,9 +10,19 @@
 
 #include <memory>
 
+namespace medistock::shell {
+class Session;
+}
+
 namespace medistock::cli {
 
 enum ExitCode { ExitDone = 0, ExitRefused = 1, ExitError = 2 };
+
+// Thrown by a command to stop with an exit status once its message has been shown.
+struct Stop
+{
+    int status;
+};
 
 struct GlobalOptions
 {
@@ -31,8 +42,7 @@ public:
     CliInteraction(QTextStream &err, bool yes)
         : m_err(err)
         , m_yes(yes)
-    {
-    }
+    { }
     void inform(const QString &text) override;
     bool ask(const QString &text) override;
 
@@ -54,6 +64,11 @@ public:
     QString databasePath() const;
     // Opens the chosen file on first use; throws DbError. A missing file is an error, not created.
     core::Connection &connection();
+    // The master file jxc.db, whatever --set says.
+    core::Connection &masterConnection();
+    // The operator of --user (default "admin") with --password (default empty), logged in on the
+    // chosen file without a log row; a refused login stops the command with status 1.
+    shell::Session &session();
 
     core::Clock &clock() { return m_clock; }
     core::Interaction &interaction() { return m_interaction; }
@@ -72,6 +87,32 @@ private:
     core::Clock m_clock;
     CliInteraction m_interaction;
     std::unique_ptr<core::Connection> m_connection;
+    std::unique_ptr<core::Connection> m_master;
+    std::unique_ptr<shell::Session> m_session;
 };
+
+// Stops with a usage error unless every option was taken and no positional argument is left.
+void requireNoMore(Context &context, const Args &args);
+// The positional arguments, stopping with a usage error unless there are between min and max.
+QStringList takePositional(Context &context, const Args &args, int min, int max);
+// A date argument "yyyy-MM-dd", stopping with a usage error when it is not a real date.
+QDate parseDate(Context &context, const QString &text);
+// Stops with the outcome's exit status unless it went through (its message was shown already).
+void require(const Outcome &outcome);
+
+// The value of an operation that tells its own refusals; stops when refused.
+template<class T> const T &valueOf(const Result<T> &result)
+{
+    require(result.outcome());
+    return result.value();
+}
+
+// The value of a helper that only returns its refusal: the message is printed here first.
+template<class T> const T &valueOrReport(Context &context, const Result<T> &result)
+{
+    if (!result)
+        context.interaction().inform(result.message());
+    return valueOf(result);
+}
 
 } // namespace medistock::cli

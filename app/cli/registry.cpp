@@ -34,8 +34,7 @@ void printHelp(const Registry &registry, QTextStream &out)
 bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &error)
 {
     const QStringList valued { QStringLiteral("--data"), QStringLiteral("--set"),
-                               QStringLiteral("--user"), QStringLiteral("--password"),
-                               QStringLiteral("--today") };
+        QStringLiteral("--user"), QStringLiteral("--password"), QStringLiteral("--today") };
     QStringList rest;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
@@ -74,8 +73,8 @@ bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &
 
 } // namespace
 
-int runCli(const Registry &registry, const QStringList &arguments, QTextStream &out,
-           QTextStream &err)
+int runCli(
+    const Registry &registry, const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
     QStringList rest = arguments;
     GlobalOptions options;
@@ -98,6 +97,8 @@ int runCli(const Registry &registry, const QStringList &arguments, QTextStream &
     Args args(rest.mid(1));
     try {
         return command->run(context, args);
+    } catch (const Stop &stop) {
+        return stop.status;
     } catch (const core::DbError &dbError) {
         err << dbError.message() << Qt::endl;
         return ExitError;

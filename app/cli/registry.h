@@ -11,7 +11,7 @@ namespace medistock::cli {
 struct Command
 {
     QString name;
-    QString usage;   // the arguments, as shown in the help text
+    QString usage; // the arguments, as shown in the help text
     QString summary; // one line
     std::function<int(Context &, Args &)> run;
 };
@@ -29,9 +29,10 @@ private:
 
 // Each module's commands, added by the file that wires them.
 void addCoreCommands(Registry &registry);
+void addShellCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
-int runCli(const Registry &registry, const QStringList &arguments, QTextStream &out,
-           QTextStream &err);
+int runCli(
+    const Registry &registry, const QStringList &arguments, QTextStream &out, QTextStream &err);
 
 } // namespace medistock::cli

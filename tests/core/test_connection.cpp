@@ -16,23 +16,24 @@ class ConnectionTest : public AccountSetTest
 protected:
     void addUnit(const QString &code, const QString &name)
     {
-        db().exec(QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"), { code, name });
+        db().exec(
+            QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"), { code, name });
     }
 };
 
 TEST_F(ConnectionTest, FirstTextIsEmptyWhenThereIsNoRow)
 {
     EXPECT_EQ(db().firstText(QStringLiteral("select dw_name from jxc_dw where dw_sn=?"),
-                             { QStringLiteral("999999") }),
-              QString());
+                  { QStringLiteral("999999") }),
+        QString());
     EXPECT_EQ(db().firstText(QStringLiteral("select dw_name from jxc_dw where dw_sn=?"),
-                             { QStringLiteral("100003") }),
-              QStringLiteral("袋"));
+                  { QStringLiteral("100003") }),
+        QStringLiteral("袋"));
     // a value with a quote is bound, never pasted
     addUnit(QStringLiteral("100009"), QStringLiteral("it's"));
     EXPECT_EQ(db().firstText(QStringLiteral("select dw_sn from jxc_dw where dw_name=?"),
-                             { QStringLiteral("it's") }),
-              QStringLiteral("100009"));
+                  { QStringLiteral("it's") }),
+        QStringLiteral("100009"));
 }
 
 TEST_F(ConnectionTest, AnErrorInsideATransactionLeavesTheDatabaseAsItWas)
@@ -73,7 +74,9 @@ TEST_F(ConnectionTest, NestedGuardsCommitOnlyWithTheOutermost)
         {
             Transaction outer(db());
             addUnit(QStringLiteral("100005"), QStringLiteral("支"));
-            { Transaction inner(db()); }
+            {
+                Transaction inner(db());
+            }
             outer.commit();
         },
         DbError);
@@ -86,7 +89,7 @@ TEST_F(ConnectionTest, AWriterWaitsForAnotherWorkstationsTransaction)
     auto other = Connection::openSqlite(path());
     Transaction holding(*other);
     other->exec(QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"),
-                { QStringLiteral("100004"), QStringLiteral("瓶") });
+        { QStringLiteral("100004"), QStringLiteral("瓶") });
     // readers are not blocked by the writer in WAL mode and do not see its rows yet
     EXPECT_EQ(dumpTable(db(), QStringLiteral("jxc_dw")).size(), 2);
     holding.commit();
@@ -99,11 +102,13 @@ TEST_F(ConnectionTest, APreparedStatementIsReusedAndCanBeNested)
     for (int i = 0; i < 3; ++i)
         addUnit(QStringLiteral("10001%1").arg(i), QStringLiteral("单位%1").arg(i));
     QStringList seen;
-    db().forEach(QStringLiteral("select dw_sn from jxc_dw order by id"), {}, [&](const QSqlQuery &q) {
-        // the same statement while the outer one still reads
-        seen.append(db().firstText(QStringLiteral("select dw_name from jxc_dw where dw_sn=?"),
-                                   { q.value(0) }));
-    });
-    EXPECT_EQ(seen, QStringList({ QStringLiteral("盒"), QStringLiteral("袋"), QStringLiteral("单位0"),
-                                  QStringLiteral("单位1"), QStringLiteral("单位2") }));
+    db().forEach(
+        QStringLiteral("select dw_sn from jxc_dw order by id"), {}, [&](const QSqlQuery &q) {
+            // the same statement while the outer one still reads
+            seen.append(db().firstText(
+                QStringLiteral("select dw_name from jxc_dw where dw_sn=?"), { q.value(0) }));
+        });
+    EXPECT_EQ(seen,
+        QStringList({ QStringLiteral("盒"), QStringLiteral("袋"), QStringLiteral("单位0"),
+            QStringLiteral("单位1"), QStringLiteral("单位2") }));
 }

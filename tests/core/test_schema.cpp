@@ -19,10 +19,10 @@ QString declaredType(Connection &db, const QString &table, const QString &column
 {
     QString type;
     db.forEach(QStringLiteral("select name,type from pragma_table_info(?)"), { table },
-               [&](const QSqlQuery &q) {
-                   if (q.value(0).toString() == column)
-                       type = q.value(1).toString();
-               });
+        [&](const QSqlQuery &q) {
+            if (q.value(0).toString() == column)
+                type = q.value(1).toString();
+        });
     return type;
 }
 
@@ -57,7 +57,8 @@ TEST(SchemaCatalogue, SeedsAndIndexesNameOnlyExistingColumns)
             const QStringList columns = QString::fromLatin1(seed.columns).split(QLatin1Char(','));
             EXPECT_EQ(columns.size(), qsizetype(seed.values.size())) << table.name;
             for (const QString &column : columns)
-                EXPECT_TRUE(hasColumn(*target, column)) << seed.table << " " << column.toStdString();
+                EXPECT_TRUE(hasColumn(*target, column))
+                    << seed.table << " " << column.toStdString();
         }
     }
     for (const IndexDef &index : schemaIndexes()) {
@@ -82,15 +83,15 @@ TEST_F(SchemaTest, EveryTableIsCreatedWithItsDeclaredTypes)
         EXPECT_EQ(db().columnNames(name), columnNames(table)) << table.name;
     }
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_jj")),
-              QStringLiteral("numeric(28,8)"));
+        QStringLiteral("numeric(28,8)"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_name")),
-              QStringLiteral("nvarchar(128)"));
+        QStringLiteral("nvarchar(128)"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_jy")),
-              QStringLiteral("bit"));
+        QStringLiteral("bit"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("id")).toLower(),
-              QStringLiteral("integer"));
+        QStringLiteral("integer"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_mryt"), QStringLiteral("mr_ts")),
-              QStringLiteral("nvarchar(200)"));
+        QStringLiteral("nvarchar(200)"));
     EXPECT_TRUE(db().tableExists(QStringLiteral("jxc_xtzt")));
 }
 
@@ -106,11 +107,11 @@ TEST_F(SchemaTest, CreatingTwiceGivesTheSameDatabaseAsOnce)
 TEST_F(SchemaTest, RecreatingATableEmptiesItBackToItsSeeds)
 {
     db().exec(QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"),
-              { QStringLiteral("100004"), QStringLiteral("瓶") });
+        { QStringLiteral("100004"), QStringLiteral("瓶") });
     EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_dw")), 3);
     createTable(db(), *findTable(QStringLiteral("jxc_dw")), seedContext());
     EXPECT_EQ(dumpTable(db(), QStringLiteral("jxc_dw")),
-              QStringList({ QStringLiteral("1|100002|盒"), QStringLiteral("2|100003|袋") }));
+        QStringList({ QStringLiteral("1|100002|盒"), QStringLiteral("2|100003|袋") }));
 }
 
 TEST_F(SchemaTest, SeedRowsAreAsWritten)
@@ -128,12 +129,12 @@ TEST_F(SchemaTest, SeedRowsAreAsWritten)
     EXPECT_EQ(supplier.value("ghs_name").toString(), QStringLiteral("普通供货商"));
     EXPECT_EQ(supplier.value("ghs_jm").toString(), QStringLiteral("PTGHS"));
     EXPECT_EQ(supplier.value("ghs_note").toString(),
-              QStringLiteral("普通供货商为一些零碎的，不固定的商品供货商"));
+        QStringLiteral("普通供货商为一些零碎的，不固定的商品供货商"));
     EXPECT_EQ(supplier.value("ghs_default").toInt(), 1);
     EXPECT_EQ(supplier.value("ghs_forbid").toInt(), 0);
     EXPECT_EQ(supplier.value("ghs_lwje").toDouble(), 0.0);
     for (const char *date : { "ghs_yyrq", "ghs_xkrq", "ghs_gsprq", "ghs_gmprq", "ghs_wtrq",
-                              "ghs_zlrq", "ghs_zlrzrq", "ghs_wtrrq1", "ghs_wtrrq2" })
+             "ghs_zlrq", "ghs_zlrzrq", "ghs_wtrrq1", "ghs_wtrrq2" })
         EXPECT_EQ(supplier.value(date).toString(), QStringLiteral("2025-03-14")) << date;
     EXPECT_EQ(supplier.value("ghs_tele").toString(), QString());
     EXPECT_FALSE(supplier.value("ghs_tele").isNull());
@@ -151,21 +152,22 @@ TEST_F(SchemaTest, SeedRowsAreAsWritten)
     EXPECT_EQ(params.value("cs_posrq").toInt(), 1);
 
     EXPECT_EQ(dumpTable(db(), QStringLiteral("jxc_xjyh")),
-              QStringList({
-                  QStringLiteral("1|2025-03-14||期初金额|0|0|1|||||现金|现金期初数|admin"),
-                  QStringLiteral("2|2025-03-14||期初金额|0|0|1|||||工行帐号|工行期初数|admin"),
-                  QStringLiteral("3|2025-03-14||期初金额|0|0|1|||||建行帐号|建行期初数|admin"),
-              }));
+        QStringList({
+            QStringLiteral("1|2025-03-14||期初金额|0|0|1|||||现金|现金期初数|admin"),
+            QStringLiteral("2|2025-03-14||期初金额|0|0|1|||||工行帐号|工行期初数|admin"),
+            QStringLiteral("3|2025-03-14||期初金额|0|0|1|||||建行帐号|建行期初数|admin"),
+        }));
     EXPECT_EQ(dumpTable(db(), QStringLiteral("jxc_yhzh")),
-              QStringList({ QStringLiteral("1|100001|现金 |现金|0|"),
-                            QStringLiteral("2|100002|工行合计 |工行帐号|0|"),
-                            QStringLiteral("3|100003|建行合计 |建行帐号|0|") }));
+        QStringList({ QStringLiteral("1|100001|现金 |现金|0|"),
+            QStringLiteral("2|100002|工行合计 |工行帐号|0|"),
+            QStringLiteral("3|100003|建行合计 |建行帐号|0|") }));
 
     const QSqlRecord discount = db().firstRow(QStringLiteral("select * from jxc_goods"));
     EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_goods")), 1);
     EXPECT_EQ(discount.value("g_sn").toString(), QStringLiteral("00000000"));
     EXPECT_EQ(discount.value("g_name").toString(), QStringLiteral("优惠商品"));
-    EXPECT_EQ(discount.value("g_bz").toString(), QStringLiteral("在销售或进货有优惠时,平衡商品总额!"));
+    EXPECT_EQ(
+        discount.value("g_bz").toString(), QStringLiteral("在销售或进货有优惠时,平衡商品总额!"));
     EXPECT_EQ(discount.value("g_jy").toInt(), 1);
     EXPECT_EQ(discount.value("g_yhlx").toString(), QStringLiteral("不养护"));
 
@@ -176,34 +178,39 @@ TEST_F(SchemaTest, SeedRowsAreAsWritten)
     EXPECT_EQ(admin.value("a_jyt").toInt(), 0);
 
     EXPECT_EQ(dumpTable(db(), QStringLiteral("jxc_posfont")),
-              QStringList({ QStringLiteral("1|14"), QStringLiteral("2|14") }));
+        QStringList({ QStringLiteral("1|14"), QStringLiteral("2|14") }));
     EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_poskx")), 0);
     EXPECT_EQ(dumpTable(db(), QStringLiteral("jxc_company")),
-              QStringList({ QStringLiteral("1|100001|康宁大药房|康宁|<null>|0571-88886666|<null>") }));
-    EXPECT_EQ(db().firstText(QStringLiteral("select fd_name from jxc_fd")), QStringLiteral("康宁旗舰店"));
-    EXPECT_EQ(db().firstText(QStringLiteral("select count(*) from jxc_import")), QStringLiteral("80"));
+        QStringList({ QStringLiteral("1|100001|康宁大药房|康宁|<null>|0571-88886666|<null>") }));
+    EXPECT_EQ(
+        db().firstText(QStringLiteral("select fd_name from jxc_fd")), QStringLiteral("康宁旗舰店"));
+    EXPECT_EQ(
+        db().firstText(QStringLiteral("select count(*) from jxc_import")), QStringLiteral("80"));
     EXPECT_EQ(db().firstText(QStringLiteral("select kh_jm from jxc_khxx")), QStringLiteral("PTKH"));
 }
 
 TEST_F(SchemaTest, ClearingKeepsMasterDataAndEmptiesTheRest)
 {
     db().exec(QStringLiteral("insert into jxc_goods (g_sn,g_name,g_kc,ghs_sn) values (?,?,?,?)"),
-              { QStringLiteral("100001"), QStringLiteral("阿莫西林胶囊"), 12.5, QStringLiteral("100002") });
+        { QStringLiteral("100001"), QStringLiteral("阿莫西林胶囊"), 12.5,
+            QStringLiteral("100002") });
     db().exec(QStringLiteral("insert into jxc_khxx (kh_sn,kh_name) values (?,?)"),
-              { QStringLiteral("100002"), QStringLiteral("城东诊所") });
+        { QStringLiteral("100002"), QStringLiteral("城东诊所") });
     db().exec(QStringLiteral("insert into jxc_kcsp (g_sn,ck_sn,kc_sl) values (?,?,?)"),
-              { QStringLiteral("100001"), QStringLiteral("100001"), 12.5 });
-    db().exec(QStringLiteral("insert into jxc_lsxsd (gl_djh) values (?)"), { QStringLiteral("XS25031410001") });
+        { QStringLiteral("100001"), QStringLiteral("100001"), 12.5 });
+    db().exec(QStringLiteral("insert into jxc_lsxsd (gl_djh) values (?)"),
+        { QStringLiteral("XS25031410001") });
     db().exec(QStringLiteral("insert into jxc_goodslist (gl_djh,g_sn) values (?,?)"),
-              { QStringLiteral("CJ25031410001"), QStringLiteral("100001") });
+        { QStringLiteral("CJ25031410001"), QStringLiteral("100001") });
     db().exec(QStringLiteral("insert into jxc_log (log_time,a_name,log_note) values (?,?,?)"),
-              { QStringLiteral("2025-03-14 09:00:00"), QStringLiteral("admin"), QStringLiteral("登录系统") });
+        { QStringLiteral("2025-03-14 09:00:00"), QStringLiteral("admin"),
+            QStringLiteral("登录系统") });
     db().exec(QStringLiteral("insert into jxc_fkfs (fk_sn,fk_name) values (?,?)"),
-              { QStringLiteral("100003"), QStringLiteral("支票") });
+        { QStringLiteral("100003"), QStringLiteral("支票") });
     db().exec(QStringLiteral("update jxc_xtcs set cs_kc=0"));
     const QStringList kept = { QStringLiteral("jxc_khxx"), QStringLiteral("jxc_role"),
-                               QStringLiteral("jxc_admin"), QStringLiteral("jxc_xtcs"),
-                               QStringLiteral("jxc_hyxx"), QStringLiteral("jxc_company") };
+        QStringLiteral("jxc_admin"), QStringLiteral("jxc_xtcs"), QStringLiteral("jxc_hyxx"),
+        QStringLiteral("jxc_company") };
     QMap<QString, QStringList> before;
     for (const QString &table : kept)
         before.insert(table, dumpTable(db(), table));
@@ -215,15 +222,16 @@ TEST_F(SchemaTest, ClearingKeepsMasterDataAndEmptiesTheRest)
     for (const QString &table : kept)
         EXPECT_EQ(dumpTable(db(), table), before.value(table)) << table.toStdString();
     EXPECT_EQ(db().firstText(QStringLiteral("select g_kc||','||ghs_sn from jxc_goods where g_sn=?"),
-                             { QStringLiteral("100001") }),
-              QStringLiteral("0,100001"));
-    EXPECT_EQ(db().firstText(QStringLiteral("select count(*) from jxc_goods where g_kc<>0 or ghs_sn<>'100001'")),
-              QStringLiteral("0"));
+                  { QStringLiteral("100001") }),
+        QStringLiteral("0,100001"));
+    EXPECT_EQ(db().firstText(QStringLiteral(
+                  "select count(*) from jxc_goods where g_kc<>0 or ghs_sn<>'100001'")),
+        QStringLiteral("0"));
     for (const char *emptied : { "jxc_lsxsd", "jxc_goodslist", "jxc_log", "jxc_kcsp", "jxc_ysyfk" })
         EXPECT_EQ(rowCount(db(), QString::fromLatin1(emptied)), 0) << emptied;
     EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_fkfs")), 2);
     EXPECT_EQ(db().firstText(QStringLiteral("select group_concat(xj_rq) from jxc_xjyh")),
-              QStringLiteral("2025-06-30,2025-06-30,2025-06-30"));
+        QStringLiteral("2025-06-30,2025-06-30,2025-06-30"));
     // the kept font table gets the drawer routine's extra row once more
     EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_posfont")), 3);
 }

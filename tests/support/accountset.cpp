@@ -28,7 +28,8 @@ QString AccountSetTest::path() const
 
 core::SeedContext AccountSetTest::seedContext() const
 {
-    return { clock.today(), { QStringLiteral("康宁大药房"), QStringLiteral("康宁"), QStringLiteral("0571-88886666") } };
+    return { clock.today(),
+        { QStringLiteral("康宁大药房"), QStringLiteral("康宁"), QStringLiteral("0571-88886666") } };
 }
 
 void AccountSetTest::reopen()
@@ -37,20 +38,47 @@ void AccountSetTest::reopen()
     m_connection = core::Connection::openSqlite(path());
 }
 
+void SessionTest::SetUp()
+{
+    AccountSetTest::SetUp();
+    if (HasFatalFailure())
+        return;
+    loginAs(QStringLiteral("admin"));
+}
+
+void SessionTest::TearDown()
+{
+    m_session.reset();
+    AccountSetTest::TearDown();
+}
+
+void SessionTest::loginAs(const QString &name, const QString &password)
+{
+    auto opened = shell::openSession(db(), ui, clock, name, password, core::LoginMode::Script);
+    ASSERT_TRUE(opened.ok()) << opened.message().toStdString();
+    m_session = std::move(opened.value());
+    ui.clear();
+}
+
+void SessionTest::setParameter(const QString &column, const QVariant &value)
+{
+    db().exec(QStringLiteral("update jxc_xtcs set ") + column + QStringLiteral("=?"), { value });
+    m_session->reload();
+}
+
 QStringList dumpTable(core::Connection &connection, const QString &table)
 {
     QStringList lines;
     connection.forEach(QStringLiteral("select * from ") + table + QStringLiteral(" order by 1"), {},
-                       [&](const QSqlQuery &query) {
-                           const QSqlRecord record = query.record();
-                           QStringList values;
-                           for (int i = 0; i < record.count(); ++i) {
-                               const QVariant value = query.value(i);
-                               values.append(value.isNull() ? QStringLiteral("<null>")
-                                                            : value.toString());
-                           }
-                           lines.append(values.join(QLatin1Char('|')));
-                       });
+        [&](const QSqlQuery &query) {
+            const QSqlRecord record = query.record();
+            QStringList values;
+            for (int i = 0; i < record.count(); ++i) {
+                const QVariant value = query.value(i);
+                values.append(value.isNull() ? QStringLiteral("<null>") : value.toString());
+            }
+            lines.append(values.join(QLatin1Char('|')));
+        });
     return lines;
 }
 

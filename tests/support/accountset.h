@@ -2,7 +2,9 @@
 
 #include "core/clock.h"
 #include "core/connection.h"
+#include "core/interaction.h"
 #include "core/schema.h"
+#include "shell/session.h"
 
 #include <QTemporaryDir>
 
@@ -20,7 +22,10 @@ inline void PrintTo(const QString &text, std::ostream *os)
 namespace medistock::test {
 
 // The date every fixture's clock stands on unless a test moves it.
-inline QDate fixtureToday() { return QDate(2025, 3, 14); }
+inline QDate fixtureToday()
+{
+    return QDate(2025, 3, 14);
+}
 
 // A fresh account set with every table and its seed rows, in a folder of its own that is removed
 // after the test.
@@ -42,6 +47,26 @@ protected:
 private:
     QTemporaryDir m_dir;
     std::unique_ptr<core::Connection> m_connection;
+};
+
+// An account set with "admin" logged in: session() carries the fixture's connection, clock and a
+// scripted interaction that records what was said (ui.informed, ui.asked).
+class SessionTest : public AccountSetTest
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    shell::Session &session() { return *m_session; }
+    // Logs another operator in (replacing the session).
+    void loginAs(const QString &name, const QString &password = {});
+    // Reloads parameters after a test wrote them directly.
+    void setParameter(const QString &column, const QVariant &value);
+
+    core::ScriptedInteraction ui;
+
+private:
+    std::unique_ptr<shell::Session> m_session;
 };
 
 // Everything a database holds, as text: each table's declared columns and all its rows in id

@@ -1,0 +1,103 @@
+#include "core/accountsets.h"
+
+#include "core/clock.h"
+#include "core/connection.h"
+#include "core/datafolder.h"
+#include "core/numbering.h"
+#include "core/operation.h"
+#include "core/textclean.h"
+#include "core/transaction.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlRecord>
+
+namespace medistock::core {
+
+namespace {
+
+// The fixed password text the register has always carried for a set's file.
+const QString registerPasswordText = QStringLiteral("mdk417");
+
+void removeFiles(const QString &path)
+{
+    QFile::remove(path);
+    QFile::remove(path + QStringLiteral("-wal"));
+    QFile::remove(path + QStringLiteral("-shm"));
+}
+
+// Copies the master file (consistently, even while others write to it) and re-creates every table
+// of the copy with the new set's company row.
+void buildSetFile(Connection &master, const QString &path, const SeedContext &seeds)
+{
+    removeFiles(path);
+    master.exec(QStringLiteral("vacuum into ?"), { path });
+    auto copy = Connection::openSqlite(path);
+    const Outcome created = createAllTables(*copy, seeds);
+    if (!created)
+        throw DbError(created.message());
+}
+
+} // namespace
+
+QString accountSetNameRequiredText()
+{
+    return QStringLiteral("帐套名称必须填写！");
+}
+
+QList<AccountSet> listAccountSets(Connection &master)
+{
+    QList<AccountSet> sets;
+    for (const QSqlRecord &row :
+        master.rows(QStringLiteral("select zt_sn,zt_name,zt_note,zt_dbname,zt_default,zt_forbid "
+                                   "from jxc_xtzt order by id")))
+        sets.append({ row.value(0).toString(), row.value(1).toString(), row.value(2).toString(),
+            row.value(3).toString(), row.value(4).toInt() != 0, row.value(5).toInt() != 0 });
+    return sets;
+}
+
+Result<AccountSet> createAccountSet(
+    Connection &master, const Clock &clock, Interaction &interaction, const NewAccountSet &request)
+{
+    if (request.name.trimmed().isEmpty())
+        return refuse(interaction, accountSetNameRequiredText());
+    if (master.dialect() != Dialect::Sqlite)
+        return refuse(interaction, QStringLiteral("数据库服务器上的帐套请由数据库管理员创建。"));
+
+    AccountSet created;
+    const QString folder = QFileInfo(master.filePath()).absolutePath();
+    QString building;
+    const Outcome outcome = guarded(interaction, [&]() -> Outcome {
+        const Result<QString> code
+            = nextMasterCode(master, QStringLiteral("jxc_xtzt"), QStringLiteral("zt_sn"));
+        if (!code)
+            return refuse(interaction, code.message());
+        created = { code.value(), cleanText(request.name), cleanText(request.note),
+            accountSetFileName(code.value()), request.isDefault, request.forbidden };
+        const QString finalPath = QDir(folder).filePath(created.fileName);
+        building = finalPath + QStringLiteral(".creating");
+        buildSetFile(master, building, { clock.today(), request.company });
+
+        Transaction transaction(master);
+        if (created.isDefault)
+            master.exec(QStringLiteral("update jxc_xtzt set zt_default=0"));
+        master.exec(QStringLiteral("insert into jxc_xtzt (zt_sn,zt_name,zt_default,zt_forbid,"
+                                   "zt_note,zt_dbname,zt_dbpwd) values (?,?,?,?,?,?,?)"),
+            { created.code, created.name, created.isDefault ? 1 : 0, created.forbidden ? 1 : 0,
+                created.note, created.fileName, registerPasswordText });
+        // A file of the same name is replaced, as copying over it always did.
+        removeFiles(finalPath);
+        if (!QFile::rename(building, finalPath))
+            throw DbError(QStringLiteral("无法创建帐套文件：") + finalPath);
+        transaction.commit();
+        return Outcome::done();
+    });
+    if (!building.isEmpty())
+        removeFiles(building);
+    if (!outcome)
+        return outcome;
+    return created;
+}
+
+} // namespace medistock::core

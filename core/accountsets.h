@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/outcome.h"
+#include "core/schema.h"
+
+#include <QList>
+#include <QString>
+
+namespace medistock::core {
+
+class Clock;
+class Connection;
+class Interaction;
+
+// A row of the register jxc_xtzt in the master file.
+struct AccountSet
+{
+    QString code;
+    QString name;
+    QString note;
+    QString fileName;
+    bool isDefault = false;
+    bool forbidden = false;
+};
+
+struct NewAccountSet
+{
+    QString name;
+    QString note;
+    bool isDefault = false;
+    bool forbidden = false;
+    CompanyInfo company;
+};
+
+QString accountSetNameRequiredText(); // "帐套名称必须填写！"
+
+// Every registered set in id order.
+QList<AccountSet> listAccountSets(Connection &master);
+
+// Registers a new set under the next code and makes its file jxc_<code>.db beside the master
+// file: a copy of the master file with every table re-created, whose company row takes the given
+// letterhead. Name and note are cleaned. The file is built first under a temporary name; the
+// register row and the file then appear together, or neither does.
+Result<AccountSet> createAccountSet(
+    Connection &master, const Clock &clock, Interaction &interaction, const NewAccountSet &request);
+
+} // namespace medistock::core

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cmath>
+
+namespace medistock::core {
+
+// round(x + 0.000000001, n): a computed price, quantity or amount is rounded this way in code and
+// in SQL alike, so that an exact half rounds up however the double happens to be stored.
+inline double roundTo(double value, int decimals)
+{
+    const double scale = std::pow(10.0, decimals);
+    return std::round((value + 0.000000001) * scale) / scale;
+}
+
+// A decimal-places parameter counts only when it is a whole number from 0 to 8; else 2.
+inline int validDecimals(double places)
+{
+    if (places >= 0 && places <= 8 && places == std::floor(places))
+        return int(places);
+    return 2;
+}
+
+} // namespace medistock::core
