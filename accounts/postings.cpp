@@ -115,7 +115,7 @@ const MoneyColumns &salesReturnMoney()
 {
     static const MoneyColumns c { "jxc_xsthd", "gl_djh", "th_xsrq", "kh_sn", "u_sn", "ck_sn",
         "th_yfje", "th_sfje", "", "th_kmmc", "th_note", "th_fpje", "th_fpno", "", "", "",
-        PartyKind::Customer, "XT", "顾客退货单", "顾客退货", "退货单", 1, 1, true };
+        PartyKind::Customer, "XT", "顾客退货单", "顾客退货", "", 1, 1, true };
     return c;
 }
 
@@ -131,7 +131,7 @@ const MoneyColumns &purchaseReturnMoney()
 {
     static const MoneyColumns c { "jxc_thd", "gl_djh", "th_thrq", "ghs_sn", "u_sn", "ck_sn",
         "th_yfje", "th_sfje", "", "th_kmmc", "th_note", "th_fpje", "th_fpno", "", "", "",
-        PartyKind::Supplier, "CT", "采购退货单", "采购退货", "采购退货单", 1, -1, false };
+        PartyKind::Supplier, "CT", "采购退货单", "采购退货", "", 1, -1, false };
     return c;
 }
 

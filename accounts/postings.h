@@ -36,7 +36,7 @@ struct MoneyColumns
     const char *code; // k_djlx / fp_djlx, e.g. "XS"
     const char *text; // k_djtxt / fp_djtxt, e.g. "商品销售单"
     const char *cashKind; // xj_dlx, e.g. "商品销售"
-    const char *feeNote; // "销售单" in "销售单<number>产生的运费"
+    const char *feeNote; // "销售单" in "销售单<number>产生的运费"; empty without fees
     double cashSign; // +1 when the paid amount as stored comes in, -1 when it goes out
     double ledgerSign; // applied to due and paid as stored, so that what is owed grows by due
     bool cashWhenUnpaid; // the cash row is written even when nothing was paid

@@ -73,6 +73,27 @@ TEST_F(CashBookTest, MovementsCountOnceCheckedAndMoneyOutIsStoredNegative)
     EXPECT_EQ(cashBalance(db(), bank), 200);
 }
 
+TEST_F(CashBookTest, CheckAllAsksAndCountsEveryWaitingMovement)
+{
+    saved(MovementKind::Receipt, 500);
+    saved(MovementKind::Transfer, 200);
+    const QString before = snapshot();
+
+    EXPECT_FALSE(checkAllMovements(session()));
+    EXPECT_EQ(snapshot(), before);
+    ui.answerNext(true);
+    ASSERT_TRUE(checkAllMovements(session()));
+
+    EXPECT_EQ(ui.asked.last(),
+        QStringLiteral("您的操作将审核当前列表中所有未审核的单据，确认吗？"
+                       "\r\n\r\n（如需审核某个单据，请按右键！）"));
+    EXPECT_EQ(cashBalance(db(), cash), 300);
+    EXPECT_EQ(cashBalance(db(), bank), 200);
+    EXPECT_EQ(db().firstText(QStringLiteral("select xj_chk from jxc_xjyh where xj_dlx='期初金额' "
+                                            "and xj_kmmc='现金'")),
+        QStringLiteral("1"));
+}
+
 class MovementCheckThenUncheck : public CashBookTest,
                                  public ::testing::WithParamInterface<MovementKind>
 {
