@@ -2,6 +2,7 @@
 
 #include "app/cli/args.h"
 #include "app/cli/context.h"
+#include "app/cli/documents.h"
 
 #include <functional>
 #include <vector>
@@ -22,14 +23,20 @@ public:
     void add(Command command) { m_commands.push_back(std::move(command)); }
     const Command *find(const QString &name) const;
     const std::vector<Command> &commands() const { return m_commands; }
+    // The document kinds that save, check, uncheck, delete and show dispatch to by prefix.
+    DocumentKinds &documents() { return m_documents; }
 
 private:
     std::vector<Command> m_commands;
+    DocumentKinds m_documents;
 };
 
 // Each module's commands, added by the file that wires them.
 void addCoreCommands(Registry &registry);
 void addShellCommands(Registry &registry);
+void addAccountsCommands(Registry &registry);
+// save, check, uncheck, delete, show: dispatched to registry.documents() by prefix.
+void addDocumentCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(
