@@ -17,6 +17,7 @@ int main(int argc, char *argv[])
     medistock::cli::addShellCommands(registry);
     medistock::cli::addAccountsCommands(registry);
     medistock::cli::addDocumentCommands(registry);
+    medistock::cli::addMasterDataCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();

@@ -37,6 +37,7 @@ void addShellCommands(Registry &registry);
 void addAccountsCommands(Registry &registry);
 // save, check, uncheck, delete, show: dispatched to registry.documents() by prefix.
 void addDocumentCommands(Registry &registry);
+void addMasterDataCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

@@ -1,5 +1,6 @@
 #include "core/connection.h"
 #include "tests/support/accountset.h"
+#include "tests/support/cli.h"
 
 #include <QDir>
 #include <QProcess>
@@ -7,30 +8,9 @@
 
 using namespace medistock;
 
-namespace {
-
-struct CliRun
-{
-    int status;
-    QString out;
-    QString err;
-};
-
-CliRun runCli(const QStringList &arguments, const QString &dataEnvironment = {})
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("MEDISTOCK_DATA"));
-    if (!dataEnvironment.isEmpty())
-        environment.insert(QStringLiteral("MEDISTOCK_DATA"), dataEnvironment);
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(MEDISTOCK_CLI_PATH), arguments);
-    process.waitForFinished(60000);
-    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-        QString::fromUtf8(process.readAllStandardError()) };
-}
-
-} // namespace
+using medistock::test::cliPath;
+using medistock::test::CliRun;
+using medistock::test::runCli;
 
 TEST(CommandLine, InitCreatesTheFolderAndLeavesAnExistingMasterFileAlone)
 {
@@ -232,7 +212,7 @@ TEST_F(CliSet, TwoProcessesAtTheSameMomentNeverCorruptTheFile)
         QList<QProcess *> running;
         for (const QString &command : { QStringLiteral("next-number"), QStringLiteral("login") }) {
             auto *process = new QProcess;
-            process->start(QStringLiteral(MEDISTOCK_CLI_PATH),
+            process->start(cliPath(),
                 command == QLatin1String("login") ? base + QStringList { command }
                                                   : base
                         + QStringList { command, QStringLiteral("jxc_lsxsd"),
