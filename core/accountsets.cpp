@@ -46,6 +46,43 @@ QString accountSetNameRequiredText()
     return QStringLiteral("帐套名称必须填写！");
 }
 
+QString masterSetName()
+{
+    return QStringLiteral("主帐套");
+}
+
+QString setFileMissingText(const QString &path)
+{
+    return QStringLiteral("帐套文件不存在：") + path;
+}
+
+QList<AccountSet> loginAccountSets(Connection &master)
+{
+    QList<AccountSet> offered { { QString(), masterSetName(), QString(), masterFileName(), false,
+        false } };
+    for (const AccountSet &set : listAccountSets(master)) {
+        if (set.forbidden)
+            continue;
+        if (set.isDefault)
+            offered.prepend(set);
+        else
+            offered.append(set);
+    }
+    return offered;
+}
+
+Result<std::unique_ptr<Connection>> openAccountSet(const QString &folder, const AccountSet &set)
+{
+    const QString path = QDir(folder).filePath(set.fileName);
+    if (set.fileName.isEmpty() || !QFile::exists(path))
+        return Outcome::refused(setFileMissingText(path));
+    try {
+        return Connection::openSqlite(path);
+    } catch (const DbError &error) {
+        return Outcome::failed(error.message());
+    }
+}
+
 QList<AccountSet> listAccountSets(Connection &master)
 {
     QList<AccountSet> sets;

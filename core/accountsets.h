@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <memory>
+
 namespace medistock::core {
 
 class Clock;
@@ -33,9 +35,19 @@ struct NewAccountSet
 };
 
 QString accountSetNameRequiredText(); // "帐套名称必须填写！"
+QString masterSetName(); // "主帐套": how the master file is offered among the sets
+QString setFileMissingText(const QString &path); // "帐套文件不存在：" + path
 
 // Every registered set in id order.
 QList<AccountSet> listAccountSets(Connection &master);
+
+// The sets offered at login: the master file (code empty, file jxc.db) and every registered set
+// that is not disabled, in id order, the default set moved to the front.
+QList<AccountSet> loginAccountSets(Connection &master);
+
+// Opens the file of a set in the given folder; refused (not told) when the file is missing, so
+// that a stale register row never creates an empty file.
+Result<std::unique_ptr<Connection>> openAccountSet(const QString &folder, const AccountSet &set);
 
 // Registers a new set under the next code and makes its file jxc_<code>.db beside the master
 // file: a copy of the master file with every table re-created, whose company row takes the given

@@ -5,6 +5,8 @@
 #include "core/login.h"
 #include "core/oplog.h"
 #include "core/transaction.h"
+#include "shell/company.h"
+#include "shell/logbook.h"
 #include "shell/operators.h"
 #include "shell/rights.h"
 #include "shell/session.h"
@@ -173,10 +175,39 @@ int runLog(Context &context, Args &args)
     requireNoMore(context, args);
     const QDate first = from.isEmpty() ? QDate() : parseDate(context, from);
     const QDate last = to.isEmpty() ? QDate() : parseDate(context, to);
-    shell::Session &session = context.session();
-    require(shell::requireRight(session, "qtcz", 14));
-    for (const core::LogEntry &entry : core::readLog(session.db(), first, last))
+    const auto entries = shell::viewLog(context.session(), first, last);
+    for (const core::LogEntry &entry : valueOf(entries))
         context.out() << entry.time << '\t' << entry.operatorName << '\t' << entry.note << Qt::endl;
+    return ExitDone;
+}
+
+int runCompany(Context &context, Args &args)
+{
+    shell::Session &session = context.session();
+    shell::Company company = session.company();
+    const std::pair<const char *, QString *> fields[] = { { "--name", &company.name },
+        { "--short", &company.shortName }, { "--tele", &company.tele },
+        { "--contact", &company.contact }, { "--address", &company.address } };
+    bool changed = false;
+    for (const auto &[option, field] : fields) {
+        if (const auto value = args.option(QString::fromLatin1(option))) {
+            *field = *value;
+            changed = true;
+        }
+    }
+    requireNoMore(context, args);
+    if (changed)
+        require(shell::saveCompany(session, company));
+    const shell::Company &now = session.company();
+    context.out() << now.name << '\t' << now.shortName << '\t' << now.tele << '\t' << now.contact
+                  << '\t' << now.address << Qt::endl;
+    return ExitDone;
+}
+
+int runLogClear(Context &context, Args &args)
+{
+    requireNoMore(context, args);
+    require(shell::clearLog(context.session()));
     return ExitDone;
 }
 
@@ -215,6 +246,12 @@ void addShellCommands(Registry &registry)
         QStringLiteral("新建或修改角色，输出角色编号"), runRoleSave });
     registry.add({ QStringLiteral("log"), QStringLiteral("[--from DATE] [--to DATE]"),
         QStringLiteral("查看操作日志"), runLog });
+    registry.add({ QStringLiteral("log-clear"), QString(),
+        QStringLiteral("清除全部操作日志（需要 --yes）"), runLogClear });
+    registry.add({ QStringLiteral("company"),
+        QStringLiteral("[--name NAME] [--short NAME] [--tele TEXT] [--contact NAME] "
+                       "[--address TEXT]"),
+        QStringLiteral("显示公司信息，给出选项时先修改"), runCompany });
 }
 
 } // namespace medistock::cli

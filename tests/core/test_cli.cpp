@@ -229,3 +229,20 @@ TEST_F(CliSet, TwoProcessesAtTheSameMomentNeverCorruptTheFile)
     EXPECT_EQ(db->firstText(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
     EXPECT_EQ(test::rowCount(*db, QStringLiteral("jxc_log")), 6);
 }
+
+TEST_F(CliSet, CompanyAndLogClearing)
+{
+    CliRun changed = cli({ QStringLiteral("company"), QStringLiteral("--name"),
+        QStringLiteral("康宁大药房"), QStringLiteral("--tele"), QStringLiteral("0571-88886666") });
+    EXPECT_EQ(changed.status, 0) << changed.err.toStdString();
+    EXPECT_EQ(changed.out, QStringLiteral("康宁大药房\t\t0571-88886666\t\t\n"));
+
+    CliRun declined = cli({ QStringLiteral("log-clear") });
+    EXPECT_EQ(declined.status, 1);
+    EXPECT_TRUE(declined.err.contains(
+        QStringLiteral("清除日志后将无法恢复，确认清除全部操作日志吗？ [是/否] 否")))
+        << declined.err.toStdString();
+    EXPECT_EQ(cli({ QStringLiteral("--yes"), QStringLiteral("log-clear") }).status, 0);
+    EXPECT_EQ(cli({ QStringLiteral("log") }).out.section(QLatin1Char('\t'), 1),
+        QStringLiteral("admin\t清除日志\n"));
+}

@@ -1,0 +1,78 @@
+// The desktop program: first start, login, then the main window.
+#include "core/clock.h"
+#include "core/connection.h"
+#include "core/datafolder.h"
+#include "core/dberror.h"
+#include "ui/common/application.h"
+#include "ui/common/gridlayouts.h"
+#include "ui/common/messagebox.h"
+#include "ui/common/screenregistry.h"
+#include "ui/common/workspace.h"
+#include "ui/shell/firstusedialog.h"
+#include "ui/shell/logindialog.h"
+#include "ui/shell/mainwindow.h"
+#include "ui/shell/registration.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+
+using namespace medistock;
+
+namespace {
+
+QString dataOption(const QApplication &app)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Medistock 药店进销存"));
+    parser.addHelpOption();
+    const QCommandLineOption data(QStringLiteral("data"),
+        QStringLiteral("帐套文件所在的数据目录（默认取环境变量 MEDISTOCK_DATA 或用户数据目录）"),
+        QStringLiteral("DIR"));
+    parser.addOption(data);
+    parser.process(app);
+    return parser.value(data);
+}
+
+// Every module's screens; a module built later adds its registration call here.
+void registerScreens(ui::ScreenRegistry &registry)
+{
+    ui::registerShellScreens(registry);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    ui::prepareApplication(app);
+    const QString folder = core::resolveDataFolder(dataOption(app));
+    ui::MessageBoxInteraction interaction;
+    const core::Clock clock;
+
+    if (ui::FirstUseDialog::isNeeded(folder)) {
+        ui::FirstUseDialog first(folder, clock, interaction);
+        if (first.exec() != QDialog::Accepted)
+            return 0;
+    }
+
+    std::unique_ptr<core::Connection> master;
+    try {
+        master = core::Connection::openSqlite(QDir(folder).filePath(core::masterFileName()));
+    } catch (const core::DbError &error) {
+        interaction.inform(error.message());
+        return 2;
+    }
+    ui::LoginDialog login(std::move(master), folder, clock, interaction);
+    if (login.exec() != QDialog::Accepted)
+        return 0;
+    const ui::OpenedAccountSet opened = login.take();
+
+    ui::GridLayouts layouts(ui::GridLayouts::defaultFilePath());
+    ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts };
+    ui::ScreenRegistry registry;
+    registerScreens(registry);
+    ui::MainWindow window(workspace, registry);
+    window.showMaximized();
+    return app.exec();
+}

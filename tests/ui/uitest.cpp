@@ -1,0 +1,71 @@
+#include "tests/ui/uitest.h"
+
+#include "shell/operators.h"
+#include "shell/rights.h"
+#include "ui/common/application.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTest>
+
+namespace medistock::test {
+
+void UiTest::SetUp()
+{
+    SessionTest::SetUp();
+    if (HasFatalFailure())
+        return;
+    static bool prepared = false;
+    if (!prepared) {
+        ui::prepareApplication(*qApp);
+        prepared = true;
+    }
+    layouts
+        = std::make_unique<ui::GridLayouts>(QDir(folder()).filePath(QStringLiteral("layout.ini")));
+    m_workspace.reset(new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts });
+}
+
+void UiTest::TearDown()
+{
+    m_workspace.reset();
+    layouts.reset();
+    SessionTest::TearDown();
+}
+
+void UiTest::switchOperator(const QString &name, const QString &password)
+{
+    loginAs(name, password);
+    m_workspace.reset(new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts });
+}
+
+void UiTest::addOperatorWithRights(const QString &name, const QHash<QString, QString> &strings)
+{
+    shell::RoleDraft draft;
+    draft.name = name + QStringLiteral("的角色");
+    for (auto it = strings.begin(); it != strings.end(); ++it) {
+        QList<bool> ticked;
+        for (QChar c : it.value())
+            ticked.append(c == QLatin1Char('1'));
+        draft.ticked.insert(it.key(), ticked);
+    }
+    const auto role = shell::saveRole(session(), draft);
+    ASSERT_TRUE(role.ok()) << role.message().toStdString();
+    ASSERT_TRUE(shell::addOperator(session(), name, role.value()).ok());
+    ui.clear();
+}
+
+void typeInto(QWidget *field, const QString &text)
+{
+    for (QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(c), Qt::NoModifier);
+}
+
+QAbstractButton *buttonNamed(const QWidget *parent, const QString &text)
+{
+    for (QAbstractButton *button : parent->findChildren<QAbstractButton *>())
+        if (button->text() == text)
+            return button;
+    return nullptr;
+}
+
+} // namespace medistock::test

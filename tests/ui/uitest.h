@@ -1,0 +1,40 @@
+#pragma once
+
+#include "tests/support/accountset.h"
+#include "ui/common/gridlayouts.h"
+#include "ui/common/workspace.h"
+
+#include <QAbstractButton>
+
+#include <memory>
+
+namespace medistock::test {
+
+// An account set with admin logged in and a workspace for screens on it: the session, the
+// fixture's file as the master file, and a layout store in the test's folder.
+class UiTest : public SessionTest
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    ui::Workspace &workspace() { return *m_workspace; }
+    // Logs another operator in and gives the workspace his session.
+    void switchOperator(const QString &name, const QString &password = {});
+    // A role holding exactly the given right strings (area column -> "1010..."), and an
+    // operator in it.
+    void addOperatorWithRights(const QString &name, const QHash<QString, QString> &strings);
+
+    std::unique_ptr<ui::GridLayouts> layouts;
+
+private:
+    std::unique_ptr<ui::Workspace> m_workspace;
+};
+
+// Types text into a field as key presses (Chinese included, which QTest::keyClicks refuses).
+void typeInto(QWidget *field, const QString &text);
+
+// The button of a widget whose text is `text` (mnemonic included), or nullptr.
+QAbstractButton *buttonNamed(const QWidget *parent, const QString &text);
+
+} // namespace medistock::test

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "shell/session.h"
+#include "ui/common/gridlayouts.h"
+
+#include <QString>
+
+class QTableView;
+
+namespace medistock::core {
+class Connection;
+}
+
+namespace medistock::ui {
+
+// What a screen is opened with: the logged-in session (its connection, operator, parameters
+// and the way to tell and ask), the master file that keeps the register of account sets, and
+// the store of grid layouts. Owned by the program; screens keep a reference.
+struct Workspace
+{
+    shell::Session &session;
+    core::Connection &master;
+    QString accountSetName;
+    GridLayouts &layouts;
+
+    // Restores a grid's column widths and order for this screen and operator and keeps them.
+    void rememberColumns(QTableView *grid, const QString &screen)
+    {
+        layouts.remember(grid, screen, session.user().code);
+    }
+};
+
+} // namespace medistock::ui
