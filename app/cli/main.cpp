@@ -15,6 +15,7 @@ int main(int argc, char *argv[])
     medistock::cli::Registry registry;
     medistock::cli::addCoreCommands(registry);
     medistock::cli::addShellCommands(registry);
+    medistock::cli::addStockCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();

@@ -30,6 +30,7 @@ private:
 // Each module's commands, added by the file that wires them.
 void addCoreCommands(Registry &registry);
 void addShellCommands(Registry &registry);
+void addStockCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(
