@@ -29,6 +29,12 @@ QStringList allWarehouses(const shell::Session &session)
     return warehouses;
 }
 
+// The goods alone, or the goods and one warehouse.
+QVariantList keysOf(const QString &goods, const QString &warehouse)
+{
+    return warehouse.isEmpty() ? QVariantList { goods } : QVariantList { goods, warehouse };
+}
+
 } // namespace
 
 std::optional<GoodsTotals> goodsTotals(const shell::Session &session, const QString &goods)
@@ -48,10 +54,12 @@ QList<WarehouseStockRow> warehouseStockRows(
     const shell::Session &session, const QString &goods, const QString &warehouse)
 {
     QList<WarehouseStockRow> rows;
+    const QString all = QStringLiteral(
+        "select ck_sn,kc_sl,kc_zsl,kc_cbj,kc_xssl from jxc_kcsp where g_sn=? order by ck_sn,id");
+    const QString one = QStringLiteral("select ck_sn,kc_sl,kc_zsl,kc_cbj,kc_xssl from jxc_kcsp "
+                                       "where g_sn=? and ck_sn=? order by ck_sn,id");
     session.db().forEach(
-        QStringLiteral("select ck_sn,kc_sl,kc_zsl,kc_cbj,kc_xssl from jxc_kcsp where g_sn=? and "
-                       "(ck_sn=? or ?='') order by ck_sn,id"),
-        { goods, warehouse, warehouse }, [&](const QSqlQuery &q) {
+        warehouse.isEmpty() ? all : one, keysOf(goods, warehouse), [&](const QSqlQuery &q) {
             rows.append({ q.value(0).toString(), q.value(1).toDouble(), q.value(2).toDouble(),
                 q.value(3).toDouble(), q.value(4).toDouble() });
         });
@@ -62,10 +70,12 @@ QList<BatchStockRow> batchStockRows(
     const shell::Session &session, const QString &goods, const QString &warehouse)
 {
     QList<BatchStockRow> rows;
+    const QString all = QStringLiteral("select ck_sn,t_ph,t_yxq,t_scrq,t_sl from jxc_tkc where "
+                                       "g_sn=? order by ck_sn,t_ph,t_yxq,t_scrq,id");
+    const QString one = QStringLiteral("select ck_sn,t_ph,t_yxq,t_scrq,t_sl from jxc_tkc where "
+                                       "g_sn=? and ck_sn=? order by ck_sn,t_ph,t_yxq,t_scrq,id");
     session.db().forEach(
-        QStringLiteral("select ck_sn,t_ph,t_yxq,t_scrq,t_sl from jxc_tkc where g_sn=? and "
-                       "(ck_sn=? or ?='') order by ck_sn,t_ph,t_yxq,t_scrq,id"),
-        { goods, warehouse, warehouse }, [&](const QSqlQuery &q) {
+        warehouse.isEmpty() ? all : one, keysOf(goods, warehouse), [&](const QSqlQuery &q) {
             rows.append({ q.value(0).toString(), q.value(1).toString(), q.value(2).toString(),
                 q.value(3).toString(), q.value(4).toDouble() });
         });

@@ -51,6 +51,9 @@ TEST_F(StockCommandsTest, ShowStockLedgerAndCosts)
         "100001\t20\t20\t11\t0\n\n"
         "仓库编号\t产品批号\t有效期至\t生产日期\t库存数量\n"
         "100001\tB1\t2027-12-31\t2024-12-01\t20\n");
+    EXPECT_TRUE(cli({ "stock", "200001", "100002" })
+                    .out.endsWith("仓库编号\t库存数\t帐面库存\t成本价\t销售数量\n\n"
+                                  "仓库编号\t产品批号\t有效期至\t生产日期\t库存数量\n"));
     const CliRun ledger = cli({ "ledger", "200001", "100001" });
     EXPECT_EQ(ledger.out.split('\n').mid(1),
         (QStringList { "1\t2025-03-01\tcj\tCJ1\t10\t100\t10\t10\t100\t10\t10\t100",
