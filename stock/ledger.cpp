@@ -220,7 +220,7 @@ qint64 insertLedgerRow(const shell::Session &session, const LedgerRow &row)
         { row.kind, row.number, row.date, row.goods, row.goodsName, row.mnemonic, row.unit,
             row.price, row.quantity, row.total, row.profit, row.discountRate, row.employeeName,
             row.operatorName, row.warehouse, row.warehouseName, row.party, row.partyName,
-            row.specification, row.approvalNumber, row.unitQuantity, row.branch, row.currentStock,
+            row.packing, row.approvalNumber, row.unitQuantity, row.branch, row.currentStock,
             row.expiry, row.batch, row.produced, 0, row.average, 0, row.checker, row.checkDate, 0,
             0, row.lineNote, row.note, row.taxRate, row.taxedPrice, row.tax, row.amount,
             row.retailPrice, lineId, sourceNumber, optionalValue(row.doneFlag),

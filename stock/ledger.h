@@ -128,7 +128,7 @@ struct LedgerRow
     QString warehouseName; // ck_name
     QString party; // ghs_sn: supplier, or customer for sales kinds
     QString partyName; // ghs_name
-    QString specification; // gg_name
+    QString packing; // gg_name
     QString approvalNumber; // color_name
     double unitQuantity = 0; // gl_sysl, in the document's unit
     QString branch; // gl_fdmc

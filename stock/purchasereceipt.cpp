@@ -125,7 +125,7 @@ LedgerRow ledgerRowOf(
     row.goodsName = q.value(16).toString();
     row.mnemonic = q.value(17).toString();
     row.unit = q.value(18).toString();
-    row.specification = q.value(19).toString();
+    row.packing = q.value(19).toString();
     row.approvalNumber = q.value(20).toString();
     row.average = q.value(21).toDouble();
     row.taxedPrice = baseQuantity > 0 ? row.total / baseQuantity : 0;

@@ -206,8 +206,3 @@ TEST_F(RerunTest, StockValueTakesTheAmountDecimalsWhenTheyAreSeparate)
     postRow("cj", "2025-01-01", amoxil, 3, 100, 33.33);
     EXPECT_EQ(runningColumns(amoxil), QStringList { "cj 3 100 3 33.33 100" });
 }
-
-TEST_F(RerunTest, MissingStartRowIsReported)
-{
-    EXPECT_FALSE(stock::rerunLedger(session(), 4711, false).found);
-}
