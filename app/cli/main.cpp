@@ -18,6 +18,7 @@ int main(int argc, char *argv[])
     medistock::cli::addAccountsCommands(registry);
     medistock::cli::addDocumentCommands(registry);
     medistock::cli::addMasterDataCommands(registry);
+    medistock::cli::addStockCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();

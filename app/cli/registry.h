@@ -38,6 +38,7 @@ void addAccountsCommands(Registry &registry);
 // save, check, uncheck, delete, show: dispatched to registry.documents() by prefix.
 void addDocumentCommands(Registry &registry);
 void addMasterDataCommands(Registry &registry);
+void addStockCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

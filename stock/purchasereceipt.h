@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+namespace medistock::shell {
+class Session;
+}
+
+namespace medistock::stock {
+
+// The stock side of a purchase receipt (header jxc_jhd, lines jxc_jhsp, key j_sn). The receipt's
+// check and uncheck call these inside their own transaction, after their money postings; each
+// also opens a joining transaction guard, so that a call on its own is whole or nothing. They
+// throw DbError, and refuse (by DbError) a receipt whose header is not marked checked
+// (j_status=1) inside the transaction.
+
+// Posts a checked receipt into stock: received quantities (none while goods come in through
+// receiving notes), the lines' stable identities, one ledger row "cj" per line, then per row
+// warehouse stock, ledger rerun, goods totals and average, last price and supplier, and batch
+// stock; the log line, the day's settlement for the warehouse, the employee's purchase count and
+// the purchase plan lines. Refuses a receipt that already has ledger rows. Returns the number of
+// goods rows posted (the discount line not counted).
+int postPurchaseReceiptStock(const shell::Session &session, const QString &number);
+
+// Takes a posted receipt back out of stock, row by row in the same order: warehouse stock, the
+// ledger rerun without the row, goods totals and average, batch stock; then deletes its ledger
+// rows, takes back the employee's purchase count, reduces the plan lines and settles the
+// warehouse for the receipt's date. The batch check "CJ" (confirmBatchCheck) belongs before the
+// caller's transaction; the header reset and the money rows are the caller's. Kept on purpose:
+// the lines' received quantities and identities, g_scjj, the goods' last supplier, stock and
+// batch rows created at zero, and settlement rows.
+void reversePurchaseReceiptStock(const shell::Session &session, const QString &number);
+
+} // namespace medistock::stock

@@ -1,0 +1,87 @@
+#include "stock/texts.h"
+
+namespace medistock::stock {
+
+namespace {
+
+const QString twoBreaks = QStringLiteral("\r\n\r\n");
+
+// "CT" speaks of returning and "XS" of selling; every other kind issues goods.
+QString closingText(const QString &kind, bool negativeAllowed)
+{
+    if (negativeAllowed) {
+        if (kind == QLatin1String("CT"))
+            return QStringLiteral("”：退货将会出现负库存，是否继续？");
+        if (kind == QLatin1String("XS"))
+            return QStringLiteral("”：销售将会出现负库存，是否继续？");
+        return QStringLiteral("”：出库将会出现负库存，是否继续？");
+    }
+    if (kind == QLatin1String("CT"))
+        return QStringLiteral("”：不能退货！");
+    if (kind == QLatin1String("XS"))
+        return QStringLiteral("”：不能销售！");
+    return QStringLiteral("”：不能出库！");
+}
+
+// Whole numbers without a decimal point, others with the digits they have ("2", "2.5").
+QString plainNumber(double value)
+{
+    return QString::number(value, 'g', 15);
+}
+
+} // namespace
+
+QString batchShortageText(const QString &kind, const QString &goods, bool negativeAllowed)
+{
+    const QString opening = kind == QLatin1String("JH")
+        ? QStringLiteral("该单据对应的生产日期中至少一种商品库存不足，")
+        : QStringLiteral("该单据对应的批号、有效期中至少一种商品库存不足，");
+    return opening + twoBreaks + QStringLiteral("“") + goods + closingText(kind, negativeAllowed);
+}
+
+QString saleLimitText(const QString &goodsName, double limit)
+{
+    return QStringLiteral("其中的药品“") + goodsName + QStringLiteral(" 每次最多销售数量为")
+        + plainNumber(limit) + QStringLiteral("”，") + twoBreaks
+        + QStringLiteral("不能超过这个数量！");
+}
+
+QString receiptPostedLogText(const QString &number, int rowCount)
+{
+    return QStringLiteral("审核采购进货单") + number + QStringLiteral("，共")
+        + QString::number(rowCount) + QStringLiteral("种商品");
+}
+
+QString receiptNotCheckedText(const QString &number)
+{
+    return QStringLiteral("采购进货单") + number + QStringLiteral("不是已审核状态，不能记入库存！");
+}
+
+QString receiptAlreadyPostedText(const QString &number)
+{
+    return QStringLiteral("采购进货单") + number + QStringLiteral("已记入库存，不能重复记帐！");
+}
+
+QString noLedgerRowText(qint64 id)
+{
+    return QStringLiteral("商品明细帐中没有编号为") + QString::number(id)
+        + QStringLiteral("的记录！");
+}
+
+QString unknownGoodsText(const QString &goods)
+{
+    return QStringLiteral("没有这个商品：") + goods;
+}
+
+QString unknownWarehouseText(const QString &warehouse)
+{
+    return QStringLiteral("没有这个仓库：") + warehouse;
+}
+
+QString unknownCheckKindText(const QString &kind)
+{
+    return QStringLiteral("没有这种单据类型：") + kind
+        + QStringLiteral("（可用 CJ、CT、XS、XT、DB、JH）");
+}
+
+} // namespace medistock::stock

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace medistock::stock {
+
+// Every text the stock engine shows or logs, worded as the system words it.
+
+// The batch check's message for a document kind ("CJ", "CT", "XS", "XT", "DB", "JH"): the
+// opening text, the short goods code and the closing text that fits the negative-stock setting.
+QString batchShortageText(const QString &kind, const QString &goods, bool negativeAllowed);
+
+// The sale limit message around "<goods name> 每次最多销售数量为<limit>".
+QString saleLimitText(const QString &goodsName, double limit);
+
+// The log line of a posted purchase receipt.
+QString receiptPostedLogText(const QString &number, int rowCount);
+
+// Guards of the receipt posting: the caller must have marked the receipt checked, and a receipt
+// is posted once.
+QString receiptNotCheckedText(const QString &number);
+QString receiptAlreadyPostedText(const QString &number);
+
+// A rerun asked for a ledger row that does not exist.
+QString noLedgerRowText(qint64 id);
+
+// A goods code that is not in jxc_goods.
+QString unknownGoodsText(const QString &goods);
+
+// A warehouse code that is not in jxc_ckxx.
+QString unknownWarehouseText(const QString &warehouse);
+
+// A document kind the batch check does not know.
+QString unknownCheckKindText(const QString &kind);
+
+} // namespace medistock::stock
