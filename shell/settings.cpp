@@ -81,15 +81,15 @@ Outcome restoreDefaultParameters(Session &session)
             "select j_sn,g_sn from jxc_jhsp where jh_sl>jh_rksl+jh_qxsl order by id desc limit 1"));
         if (!receiving.isEmpty())
             return core::refuse(session.ui(),
-                QStringLiteral("至少有一种商品没有完成入库，\n\n") + pendingText(receiving)
-                    + QStringLiteral("\n\n不能取消商品入库功能！"));
+                QStringLiteral("至少有一种商品没有完成入库，\r\n\r\n") + pendingText(receiving)
+                    + QStringLiteral("\r\n\r\n不能取消商品入库功能！"));
         const QSqlRecord issuing
             = db.firstRow(QStringLiteral("select gl_djh,g_sn from jxc_lsxssp where "
                                          "ls_sl>ls_cksl+ls_qxsl order by id desc limit 1"));
         if (!issuing.isEmpty())
             return core::refuse(session.ui(),
-                QStringLiteral("至少有一种商品没有完成出库，\n\n") + pendingText(issuing)
-                    + QStringLiteral("\n\n不能取消商品出库功能！"));
+                QStringLiteral("至少有一种商品没有完成出库，\r\n\r\n") + pendingText(issuing)
+                    + QStringLiteral("\r\n\r\n不能取消商品出库功能！"));
 
         core::Transaction transaction(db);
         const core::SeedContext seeds { session.clock().today(), {} };

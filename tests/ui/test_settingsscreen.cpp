@@ -141,11 +141,11 @@ INSTANTIATE_TEST_SUITE_P(SettingsScreen, DefaultsRefused,
     ::testing::Values(
         PendingLine { "insert into jxc_jhsp (j_sn,g_sn,jh_sl,jh_rksl,jh_qxsl) values "
                       "('CJ25031410001','100001',5,4,0),('CJ25031410002','100002',5,4.5,0.5)",
-            "至少有一种商品没有完成入库，\n\n单据号：CJ25031410001，商品编号：100001\n\n"
+            "至少有一种商品没有完成入库，\r\n\r\n单据号：CJ25031410001，商品编号：100001\r\n\r\n"
             "不能取消商品入库功能！" },
         PendingLine { "insert into jxc_lsxssp (gl_djh,g_sn,ls_sl,ls_cksl,ls_qxsl) values "
                       "('XS25031410001','100002',3,1,1)",
-            "至少有一种商品没有完成出库，\n\n单据号：XS25031410001，商品编号：100002\n\n"
+            "至少有一种商品没有完成出库，\r\n\r\n单据号：XS25031410001，商品编号：100002\r\n\r\n"
             "不能取消商品出库功能！" }));
 
 TEST_F(SettingsScreenTest, TheDefaultsButtonRestoresTheRowAndShowsIt)
