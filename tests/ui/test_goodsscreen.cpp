@@ -245,6 +245,8 @@ TEST_F(GoodsScreenTest, EnterInTheSearchReachesTheGridAndEnterThereEditsTheRow)
     QTest::keyClick(screen.grid(), Qt::Key_Return);
     EXPECT_EQ(title, QStringLiteral("修改商品：复方甘草片"));
     title.clear();
+    screen.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
     onNextDialog<ui::GoodsDialog>([&](ui::GoodsDialog &dialog) { title = dialog.windowTitle(); });
     QTest::keyClick(screen.searchField(), Qt::Key_F2);
     EXPECT_EQ(title, QStringLiteral("修改商品：复方甘草片"));
