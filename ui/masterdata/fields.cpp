@@ -40,10 +40,11 @@ constexpr Lookup lookups[] = {
     { "ghs_sn", "supplier", "ghs_sn", "ghs_name", nullptr, false },
 };
 
-const Lookup *lookupOf(const QString &column)
+// A list's own code and name columns are typed, never looked up in itself.
+const Lookup *lookupOf(const masterdata::MasterKind &kind, const QString &column)
 {
     for (const Lookup &lookup : lookups)
-        if (column == QLatin1String(lookup.column))
+        if (column == QLatin1String(lookup.column) && qstrcmp(lookup.list, kind.key) != 0)
             return &lookup;
     return nullptr;
 }
@@ -151,7 +152,7 @@ QWidget *FieldSet::create(const QString &column, QWidget *parent)
     QWidget *widget = nullptr;
     if (isFlag(column)) {
         widget = new QCheckBox(captionOf(m_kind, column), parent);
-    } else if (lookupOf(column) || choiceOf(column) || suggestionsOf(column)
+    } else if (lookupOf(m_kind, column) || choiceOf(column) || suggestionsOf(column)
         || column == QLatin1String("gc_sn")) {
         widget = createLookup(column, parent);
     } else {
@@ -194,7 +195,7 @@ QWidget *FieldSet::createLookup(const QString &column, QWidget *parent)
         });
         return box;
     }
-    const Lookup &lookup = *lookupOf(column);
+    const Lookup &lookup = *lookupOf(m_kind, column);
     auto *box = new LookupBox(lookup.editable, parent);
     if (column == QLatin1String("ck_sn"))
         box->addChoice(mdtexts::allWarehouses, QStringLiteral("-1"));
@@ -262,7 +263,7 @@ masterdata::Values FieldSet::values() const
             continue;
         values.insert(column, text(column));
         auto *lookup = qobject_cast<LookupBox *>(widget);
-        const Lookup *pairLookup = lookupOf(column);
+        const Lookup *pairLookup = lookupOf(m_kind, column);
         if (lookup && pairLookup && pairLookup->pair)
             values.insert(QString::fromLatin1(pairLookup->pair), lookup->currentText());
         const Choice *choice = choiceOf(column);
