@@ -1,6 +1,7 @@
 // Renders every screen of the desktop program to PNG files in the folder given, on a fresh data
 // folder with a few operators, roles, a second account set and example master data, so that the
-// program can be seen without a display. Runs on the offscreen platform unless another one is chosen.
+// program can be seen without a display. Runs on the offscreen platform unless another one is
+// chosen.
 #include "app/screenshots/masterdata.h"
 #include "core/accountsets.h"
 #include "core/clock.h"

@@ -157,6 +157,9 @@ QString labelOf(const char *table, const char *column)
 QString captionOf(const masterdata::MasterKind &kind, const QString &column)
 {
     const QString table = QString::fromLatin1(kind.table);
+    const bool ownCode = kind.codeColumn && column == QLatin1String(kind.codeColumn);
+    if (ownCode)
+        return labelOf(kind.table, kind.codeColumn);
     if (column == QLatin1String("ghs_sn") && table == QLatin1String("jxc_goods"))
         return mdtexts::supplier;
     if (column == QLatin1String("gc_sn"))

@@ -103,6 +103,9 @@ MasterRowDialog::MasterRowDialog(const shell::Session &session, const masterdata
     connect(buttons, &QDialogButtonBox::accepted, this, &MasterRowDialog::save);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
+    setMinimumWidth(520);
+    if (m_pages)
+        resize(720, sizeHint().height());
     enableEnterNavigation(this);
 }
 
@@ -130,7 +133,7 @@ QWidget *MasterRowDialog::buildPage(const FormPage &page)
         flagRow->addWidget(m_fields.create(flags.at(i), widget), i / 4, i % 4);
     grid->addLayout(flagRow, perColumn, 0, 1, 4);
     grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(3, 1);
+    grid->setColumnStretch(3, perColumn < plain.size() ? 1 : 0);
     grid->setRowStretch(perColumn + 1, 1);
     return widget;
 }

@@ -173,7 +173,10 @@ void MasterListScreen::setColumnWidths()
             width = 200;
         else if (type.startsWith(QLatin1String("nvarchar")) && declared >= 64)
             width = 140;
-        m_grid->setColumnWidth(i, width);
+        const int caption = m_grid->horizontalHeader()->fontMetrics().horizontalAdvance(
+                                m_model->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString())
+            + 24;
+        m_grid->setColumnWidth(i, std::max(width, caption));
     }
 }
 
