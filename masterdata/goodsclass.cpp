@@ -4,11 +4,15 @@
 #include "core/operation.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
+#include "masterdata/kinds.h"
+#include "masterdata/masterrows.h"
 #include "masterdata/mnemonic.h"
 #include "masterdata/texts.h"
 #include "shell/session.h"
 
 #include <QSqlRecord>
+
+#include <QSet>
 
 #include <functional>
 #include <optional>
@@ -181,6 +185,22 @@ Outcome deleteGoodsClass(const shell::Session &session, int cid)
         transaction.commit();
         return Outcome::done();
     });
+}
+
+QList<QSqlRecord> searchGoodsInClass(core::Connection &db, const QString &text, int classCid)
+{
+    QList<QSqlRecord> found = searchMasterRows(db, goodsKind(), text);
+    if (classCid == rootCid)
+        return found;
+    QSet<int> subtree { classCid };
+    // Parents come before their children, so one pass gathers the whole subtree.
+    for (const GoodsClass &c : goodsClasses(db))
+        if (subtree.contains(c.pid))
+            subtree.insert(c.cid);
+    found.removeIf([&](const QSqlRecord &row) {
+        return !subtree.contains(row.value(QStringLiteral("gc_cid")).toInt());
+    });
+    return found;
 }
 
 } // namespace medistock::masterdata

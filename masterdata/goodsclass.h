@@ -3,6 +3,7 @@
 #include "core/outcome.h"
 
 #include <QList>
+#include <QSqlRecord>
 #include <QString>
 
 namespace medistock::core {
@@ -37,5 +38,9 @@ Outcome renameGoodsClass(const shell::Session &session, int cid, const QString &
 Outcome moveGoodsClass(const shell::Session &session, int cid, int newParentCid);
 // Deletes a class that has neither sub-classes nor goods.
 Outcome deleteGoodsClass(const shell::Session &session, int cid);
+
+// The goods that searchMasterRows finds for the text, narrowed to a class and its sub-classes;
+// the root class "所有类别" holds every goods.
+QList<QSqlRecord> searchGoodsInClass(core::Connection &db, const QString &text, int classCid);
 
 } // namespace medistock::masterdata

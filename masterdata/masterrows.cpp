@@ -353,4 +353,9 @@ QList<QSqlRecord> searchMasterRows(
         params);
 }
 
+QSqlRecord masterRow(core::Connection &db, const MasterKind &kind, const QString &key)
+{
+    return db.firstRow(selectByKey(kind, QStringLiteral("*")), { key });
+}
+
 } // namespace medistock::masterdata

@@ -53,6 +53,8 @@ Outcome deleteMasterRow(const shell::Session &session, const MasterKind &kind, c
 // every row when the text is empty.
 QList<QSqlRecord> searchMasterRows(
     core::Connection &db, const MasterKind &kind, const QString &text);
+// The row with this key; an empty record when there is none.
+QSqlRecord masterRow(core::Connection &db, const MasterKind &kind, const QString &key);
 
 // Writes a prepared new row inside the caller's transaction (import and add share it).
 QString insertPreparedRow(const shell::Session &session, const MasterKind &kind, Values values);

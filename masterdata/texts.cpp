@@ -95,4 +95,26 @@ QString unknownClass(const QString &name)
     return QStringLiteral("没有这个商品类别：") + name;
 }
 
+QString deleteQuestion(const QString &label, const QString &name)
+{
+    return QStringLiteral("确实要删除%1：%2 吗？").arg(label, name);
+}
+
+QString importSummary(int accepted, int rejected)
+{
+    return QStringLiteral("可以导入 %1 行，有错误 %2 行。").arg(accepted).arg(rejected);
+}
+
+QString importQuestion(int accepted, int rejected)
+{
+    return QStringLiteral("共 %1 行可以导入，%2 行有错误将被跳过。确认导入吗？")
+        .arg(accepted)
+        .arg(rejected);
+}
+
+QString imported(int written)
+{
+    return QStringLiteral("已导入 %1 行。").arg(written);
+}
+
 } // namespace medistock::masterdata::texts

@@ -28,5 +28,12 @@ QString classCycle();
 QString classNotFound();
 QString unknownClass(const QString &name);
 
+// The questions and reports around deleting and importing, shared by the screens and commands.
+QString deleteQuestion(
+    const QString &label, const QString &name); // "确实要删除商品：阿莫西林 吗？"
+QString importSummary(int accepted, int rejected); // "可以导入 3 行，有错误 1 行。"
+QString importQuestion(int accepted, int rejected);
+QString imported(int written); // "已导入 3 行。"
+
 } // namespace texts
 } // namespace medistock::masterdata

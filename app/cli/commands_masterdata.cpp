@@ -5,6 +5,7 @@
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "masterdata/mnemonic.h"
+#include "masterdata/texts.h"
 #include "masterdata/transfer.h"
 #include "shell/session.h"
 
@@ -82,8 +83,8 @@ int runDelete(Context &context, Args &args)
     const QStringList positional = takePositional(context, args, 2, 2);
     const MasterKind &kind = kindOrStop(context, positional[0]);
     shell::Session &session = context.session();
-    if (!session.ui().ask(QStringLiteral("确实要删除%1：%2 吗？")
-                              .arg(QString::fromUtf8(kind.label), positional[1])))
+    if (!session.ui().ask(
+            masterdata::texts::deleteQuestion(QString::fromUtf8(kind.label), positional[1])))
         return ExitRefused;
     require(masterdata::deleteMasterRow(session, kind, positional[1]));
     return ExitDone;
@@ -100,10 +101,7 @@ void printPlan(Context &context, const masterdata::ImportPlan &plan)
     for (const masterdata::ImportRow &row : plan.rows)
         if (!row.reason.isEmpty())
             context.out() << QStringLiteral("第%1行：").arg(row.line) << row.reason << Qt::endl;
-    context.out() << QStringLiteral("可以导入 %1 行，有错误 %2 行。")
-                         .arg(plan.accepted())
-                         .arg(plan.rejected())
-                  << Qt::endl;
+    context.out() << masterdata::texts::importSummary(plan.accepted(), plan.rejected()) << Qt::endl;
 }
 
 int runImport(Context &context, Args &args)
@@ -117,12 +115,10 @@ int runImport(Context &context, Args &args)
     printPlan(context, plan);
     if (dryRun)
         return ExitDone;
-    if (!session.ui().ask(QStringLiteral("共 %1 行可以导入，%2 行有错误将被跳过。确认导入吗？")
-                              .arg(plan.accepted())
-                              .arg(plan.rejected())))
+    if (!session.ui().ask(masterdata::texts::importQuestion(plan.accepted(), plan.rejected())))
         return ExitRefused;
     const int written = valueOf(masterdata::runImport(session, kind, plan));
-    context.out() << QStringLiteral("已导入 %1 行。").arg(written) << Qt::endl;
+    context.out() << masterdata::texts::imported(written) << Qt::endl;
     return ExitDone;
 }
 

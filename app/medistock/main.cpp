@@ -8,6 +8,7 @@
 #include "ui/common/messagebox.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/masterdata/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -38,6 +39,7 @@ QString dataOption(const QApplication &app)
 void registerScreens(ui::ScreenRegistry &registry)
 {
     ui::registerShellScreens(registry);
+    ui::registerMasterDataScreens(registry);
 }
 
 } // namespace

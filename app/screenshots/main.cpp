@@ -1,6 +1,8 @@
 // Renders every screen of the desktop program to PNG files in the folder given, on a fresh data
-// folder with a few operators, roles and a second account set, so that the program can be seen
-// without a display. Runs on the offscreen platform unless another one is chosen.
+// folder with a few operators, roles, a second account set and example master data, so that the
+// program can be seen without a display. Runs on the offscreen platform unless another one is
+// chosen.
+#include "app/screenshots/masterdata.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -13,6 +15,7 @@
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/masterdata/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -222,10 +225,11 @@ void shootOperators(Shooter &shooter, ui::MainWindow &window, ui::Workspace &wor
     password.hide();
 }
 
-void shootWorkspace(Shooter &shooter, ui::Workspace &workspace)
+void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &scratch)
 {
     ui::ScreenRegistry registry;
     ui::registerShellScreens(registry);
+    ui::registerMasterDataScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -245,6 +249,10 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace)
 
     ui::CompanyDialog company(workspace.session, &window);
     shooter.shoot(&company, QStringLiteral("11-company"));
+    company.hide();
+
+    shootMasterData([&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); },
+        window, workspace, scratch);
 }
 
 } // namespace
@@ -269,6 +277,6 @@ int main(int argc, char *argv[])
 
     ui::GridLayouts layouts(QDir(scratch.path()).filePath(QStringLiteral("layout.ini")));
     ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts };
-    shootWorkspace(shooter, workspace);
+    shootWorkspace(shooter, workspace, scratch.path());
     return shooter.failed() ? 1 : 0;
 }

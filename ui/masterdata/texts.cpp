@@ -1,0 +1,35 @@
+#include "ui/masterdata/texts.h"
+
+namespace medistock::ui::mdtexts {
+
+QString rowCount(int rows)
+{
+    return QStringLiteral("记录数：%1").arg(rows);
+}
+
+QString exported(const QString &path)
+{
+    return QStringLiteral("已导出到：") + path;
+}
+
+QString listTitle(const QString &label)
+{
+    return label + QStringLiteral("设置");
+}
+
+QString deleteClassQuestion(const QString &name)
+{
+    return QStringLiteral("确实要删除商品类别：%1 吗？").arg(name);
+}
+
+QString addTitle(const QString &label)
+{
+    return QStringLiteral("增加") + label;
+}
+
+QString editTitle(const QString &label, const QString &name)
+{
+    return QStringLiteral("修改%1：%2").arg(label, name);
+}
+
+} // namespace medistock::ui::mdtexts
