@@ -189,7 +189,7 @@ Outcome write(const shell::Session &session, const DocumentKind &kind, const Val
     }
     for (const ValidLine &line : doc.lines)
         insertRow(db, kind.lines.table, lineRow(session, kind, line, number));
-    writeDiscountLine(session, kind, number, doc.discount);
+    writeDiscountLine(session, kind, number, doc.discount, doc.discountColumns);
     session.log(savedLog(kind, number, int(doc.lines.size()), isNew));
     return Outcome::done();
 }
@@ -317,7 +317,7 @@ std::optional<int> documentStatus(
 {
     const HeaderColumns &h = kind.header;
     const QVariant status = connection.firstValue(
-        QStringLiteral("select coalesce(max(%1),0) from %2 where %3 having count(*)>0")
+        QStringLiteral("select %1 from %2 where %3 order by %1 desc limit 1")
             .arg(QLatin1String(h.status), QLatin1String(h.table), equals(h.number)),
         { number });
     if (!status.isValid())
@@ -325,8 +325,8 @@ std::optional<int> documentStatus(
     return status.toInt();
 }
 
-void writeDiscountLine(
-    const shell::Session &session, const DocumentKind &kind, const QString &number, double discount)
+void writeDiscountLine(const shell::Session &session, const DocumentKind &kind,
+    const QString &number, double discount, const ColumnValues &columns)
 {
     core::Connection &db = session.db();
     const LineColumns &l = kind.lines;
@@ -336,16 +336,22 @@ void writeDiscountLine(
         db.exec(QStringLiteral("delete from %1 where %2").arg(QLatin1String(l.table), where), keys);
         return;
     }
+    if (db.exists(
+            QStringLiteral("select id from %1 where %2 limit 1").arg(QLatin1String(l.table), where),
+            keys)) {
+        // An existing line only takes the new amount; who entered it and its marks stay.
+        Row amounts;
+        put(amounts, l.amount, -discount);
+        put(amounts, l.total, -discount);
+        if (!amounts.isEmpty())
+            updateRows(db, l.table, amounts, where, keys);
+        return;
+    }
     ValidLine line;
     line.goods = discountGoods();
     line.figures.amount = line.figures.total = -discount;
-    Row row = lineRow(session, kind, line, number);
-    if (db.exists(
-            QStringLiteral("select id from %1 where %2 limit 1").arg(QLatin1String(l.table), where),
-            keys))
-        updateRows(db, l.table, row, where, keys);
-    else
-        insertRow(db, l.table, row);
+    line.columns = columns;
+    insertRow(db, l.table, lineRow(session, kind, line, number));
 }
 
 } // namespace medistock::documents

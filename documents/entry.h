@@ -99,6 +99,7 @@ struct ValidDocument
     double discount = 0;
     ColumnValues columns;
     QList<ValidLine> lines;
+    ColumnValues discountColumns; // the kind's own columns of a new discount line
 };
 
 // Checks a draft: date, party, warehouses, employee, then each line's goods, unit, numbers and
@@ -137,9 +138,10 @@ std::optional<int> documentStatus(
     core::Connection &connection, const DocumentKind &kind, const QString &number);
 
 // Writes the whole-document discount line: goods "00000000", no quantity, amount and total
-// -discount, so that the lines add up to the due amount. Replaces the line when there is one and
-// removes it when the discount is 0. Runs inside the caller's transaction.
+// -discount, so that the lines add up to the due amount. A new line gets `columns` too; an
+// existing one only takes the new amount and total; a discount of 0 removes it. Runs inside the
+// caller's transaction.
 void writeDiscountLine(const shell::Session &session, const DocumentKind &kind,
-    const QString &number, double discount);
+    const QString &number, double discount, const ColumnValues &columns = {});
 
 } // namespace medistock::documents

@@ -143,17 +143,17 @@ QString expiryBeforeProduced(int row)
 
 QString documentMissing(const QString &number)
 {
-    return QStringLiteral("单据：") + number + QStringLiteral("，不存在！");
+    return QStringLiteral("单据：") + number + QStringLiteral("不存在！");
 }
 
 QString checkedCannotChange(const QString &number)
 {
-    return QStringLiteral("单据：") + number + QStringLiteral("，已审核，不能修改！");
+    return QStringLiteral("单据：") + number + QStringLiteral("已经审核，不能修改！");
 }
 
 QString checkedCannotDelete(const QString &number)
 {
-    return QStringLiteral("单据：") + number + QStringLiteral("，已审核，不能删除！");
+    return QStringLiteral("单据：") + number + QStringLiteral("已经审核，不能删除！");
 }
 
 QString numberTaken(const QString &number)
@@ -162,9 +162,14 @@ QString numberTaken(const QString &number)
         + QStringLiteral("，已被其他操作员使用，请重新保存！");
 }
 
+QString alreadyChecked(const QString &number)
+{
+    return QStringLiteral("单据：") + number + QStringLiteral("已经审核！");
+}
+
 QString notChecked(const QString &number)
 {
-    return QStringLiteral("单据：") + number + QStringLiteral("，未审核！");
+    return QStringLiteral("单据：") + number + QStringLiteral("尚未审核！");
 }
 
 QString otherCheckerRefused(const QString &number, const QString &checker)

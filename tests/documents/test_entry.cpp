@@ -121,8 +121,8 @@ TEST_F(EntryTest, ACheckedDocumentIsNeitherChangedNorDeleted)
     const Result<QString> changed = saveDocument(session(), fullKind(), d);
     const Outcome deleted = deleteDocument(session(), fullKind(), d.number);
 
-    EXPECT_EQ(changed.message(), QStringLiteral("单据：CJ25031410001，已审核，不能修改！"));
-    EXPECT_EQ(deleted.message(), QStringLiteral("单据：CJ25031410001，已审核，不能删除！"));
+    EXPECT_EQ(changed.message(), QStringLiteral("单据：CJ25031410001已经审核，不能修改！"));
+    EXPECT_EQ(deleted.message(), QStringLiteral("单据：CJ25031410001已经审核，不能删除！"));
     EXPECT_EQ(ui.informed, QStringList({ changed.message(), deleted.message() }));
     EXPECT_EQ(dumpDatabase(db()), before);
 }
@@ -140,10 +140,10 @@ TEST_F(EntryTest, DeletingRemovesHeaderAndLinesAndAMissingNumberIsTold)
     EXPECT_EQ(rows(QStringLiteral("jxc_jhsp"), QStringLiteral("j_sn")), QStringList { other });
     EXPECT_EQ(logNotes(db()).last(), QStringLiteral("删除未审核采购进货单CJ25031410001"));
     EXPECT_EQ(deleteDocument(session(), fullKind(), number).message(),
-        QStringLiteral("单据：CJ25031410001，不存在！"));
+        QStringLiteral("单据：CJ25031410001不存在！"));
     d.number = number;
     EXPECT_EQ(saveDocument(session(), fullKind(), d).message(),
-        QStringLiteral("单据：CJ25031410001，不存在！"));
+        QStringLiteral("单据：CJ25031410001不存在！"));
 }
 
 TEST_F(EntryTest, AKindsRuleMayRefuseAddColumnsAndChangeFigures)
