@@ -1,5 +1,6 @@
 #include "tests/documents/entrytest.h"
 
+#include "purchasing/kinds.h"
 #include "tests/support/documentrows.h"
 
 #include <QSqlRecord>
@@ -9,48 +10,10 @@ namespace medistock::test {
 using documents::DocumentKind;
 using documents::PartyTable;
 
+// The purchase receipt's descriptor: its tables have every column the entry fills.
 const DocumentKind &fullKind()
 {
-    static const DocumentKind kind { .prefix = "CJ",
-        .title = "采购进货单",
-        .header = { .table = "jxc_jhd",
-            .number = "j_sn",
-            .date = "j_jhrq",
-            .party = "ghs_sn",
-            .partyTable = PartyTable::Supplier,
-            .warehouse = "ck_sn",
-            .employee = "u_sn",
-            .operatorName = "a_name",
-            .note = "j_note",
-            .status = "j_status",
-            .checker = "j_checker",
-            .checkDate = "j_chkrq",
-            .due = "j_yfje",
-            .discount = "j_yhje" },
-        .lines = { .table = "jxc_jhsp",
-            .number = "j_sn",
-            .goods = "g_sn",
-            .unit = "dw_name",
-            .quantity = "jh_sl",
-            .baseQuantity = "jh_zsl",
-            .price = "jh_dj",
-            .taxRate = "jh_tax",
-            .taxedPrice = "jh_taxdj",
-            .tax = "jh_taxje",
-            .amount = "jh_je",
-            .total = "jh_zje",
-            .discountRate = "jh_dzl",
-            .remark = "jh_bz",
-            .batch = "t_ph",
-            .produced = "t_scrq",
-            .expiry = "t_yxq",
-            .barcode = "g_sptm",
-            .operatorName = "a_name" },
-        .cleaning = core::CleanStrength::Medium,
-        .rightArea = "cggl",
-        .saveRight = 1,
-        .deleteRight = 17 };
-    return kind;
+    return purchasing::purchaseReceipt().entry;
 }
 
 const DocumentKind &plainKind()

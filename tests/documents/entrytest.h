@@ -5,9 +5,9 @@
 
 namespace medistock::test {
 
-// Two kinds of document for the entry's tests: one whose tables have every column the entry
-// fills (the purchase receipt's tables), and one without party, unit, base quantity or tax (the
-// loss report's tables).
+// Two kinds of document for the entry's tests: the purchase receipt, whose tables have every
+// column the entry fills, and one without party, unit, base quantity or tax (the loss report's
+// tables).
 const documents::DocumentKind &fullKind();
 const documents::DocumentKind &plainKind();
 

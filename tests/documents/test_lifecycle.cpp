@@ -51,23 +51,3 @@ TEST_F(CheckerRuleTest, OperatorOneHundredAndOneMayAlwaysUncheck)
     EXPECT_TRUE(uncheckBy(QStringLiteral("小李")));
     EXPECT_TRUE(uncheckBy(QString()));
 }
-
-TEST_F(CheckerRuleTest, TheQuestionComesFirstAndNoStops)
-{
-    ui.answerNext(false);
-    ui.answerNext(true);
-    const Outcome no = confirmUncheck(session(), number);
-    EXPECT_EQ(no.kind(), Outcome::Kind::Refused);
-    EXPECT_EQ(no.message(), QString());
-    EXPECT_TRUE(confirmUncheck(session(), number));
-    EXPECT_EQ(ui.asked,
-        QStringList(
-            2, QStringLiteral("您的操作将取消当前选中的已审核单据：CJ25031410001，确认吗？")));
-}
-
-TEST_F(CheckerRuleTest, NoPeriodIsClosed)
-{
-    EXPECT_EQ(closedPeriodTest(session(), QStringLiteral("2001-01-01")), QStringLiteral("ok"));
-    EXPECT_TRUE(requireOpenPeriod(session(), QStringLiteral("2025-03-14")));
-    EXPECT_TRUE(ui.informed.isEmpty());
-}
