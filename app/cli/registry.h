@@ -39,6 +39,8 @@ void addAccountsCommands(Registry &registry);
 void addDocumentCommands(Registry &registry);
 void addMasterDataCommands(Registry &registry);
 void addStockCommands(Registry &registry);
+// The purchase receipt "CJ" and return "CT" in the document registry.
+void addPurchasingCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

@@ -1,0 +1,167 @@
+#include "purchasing/checking.h"
+
+#include "accounts/cashbook.h"
+#include "accounts/documentsupport.h"
+#include "accounts/texts.h"
+#include "core/connection.h"
+#include "core/operation.h"
+#include "core/textclean.h"
+#include "documents/entry.h"
+#include "documents/lifecycle.h"
+#include "documents/texts.h"
+#include "purchasing/texts.h"
+#include "shell/rights.h"
+#include "shell/session.h"
+#include "shell/settings.h"
+
+#include <QSqlRecord>
+
+namespace medistock::purchasing {
+
+namespace {
+
+QLatin1String name(const char *column)
+{
+    return QLatin1String(column);
+}
+
+Outcome readDialog(const shell::Session &session, const PurchaseHeaderRow &header,
+    const CheckInput &input, CheckValues &values)
+{
+    values.paid = input.paid.value_or(header.paid);
+    values.mode = input.mode.value_or(header.mode).trimmed();
+    values.account = input.account.value_or(header.account).trimmed();
+    values.note = core::cleanText(input.note.value_or(header.note), core::CleanStrength::Medium);
+    if (values.mode.isEmpty())
+        values.mode = QStringLiteral("1");
+    if (values.mode != QLatin1String("1") && values.mode != QLatin1String("2"))
+        return core::refuse(session.ui(), texts::settlementModeInvalid(values.mode));
+    if (values.account.isEmpty())
+        values.account = accounts::cashAccountName();
+    if (!accounts::bankAccountExists(session.db(), values.account))
+        return core::refuse(session.ui(), accounts::texts::accountMissing(values.account));
+    if (values.paid < 0)
+        return core::refuse(session.ui(), texts::amountNegative());
+    return Outcome::done();
+}
+
+} // namespace
+
+std::optional<PurchaseHeaderRow> readPurchaseHeader(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number)
+{
+    const documents::HeaderColumns &h = kind.entry.header;
+    const accounts::MoneyColumns &m = kind.money;
+    // A return keeps no discount: its header reads the status once more in that place.
+    const QLatin1String discount = *m.discount ? name(m.discount) : name(h.status);
+    const QSqlRecord row = session.db().firstRow(
+        QStringLiteral("select id,%1,%2,%3,%4,%5,%6,%7,%8,%9,%10,%11 from %12 where %1=? order by "
+                       "%11 desc,id limit 1")
+            .arg(name(h.number), name(h.date), name(h.warehouse), name(h.employee), name(h.checker),
+                name(h.note), name(kind.mode), name(m.account), name(m.paid), discount,
+                name(h.status), name(h.table)),
+        { number });
+    if (row.isEmpty())
+        return std::nullopt;
+    PurchaseHeaderRow r;
+    r.id = row.value(0).toLongLong();
+    r.number = row.value(1).toString();
+    r.date = row.value(2).toString();
+    r.warehouse = row.value(3).toString();
+    r.employee = row.value(4).toString();
+    r.checker = row.value(5).toString();
+    r.note = row.value(6).toString();
+    r.mode = row.value(7).toString();
+    r.account = row.value(8).toString();
+    r.paid = row.value(9).toDouble();
+    r.discount = *m.discount ? row.value(10).toDouble() : 0;
+    r.status = row.value(11).toInt();
+    return r;
+}
+
+Outcome prepareCheck(const shell::Session &session, const PurchaseKind &kind, const QString &number,
+    const CheckInput &input, PurchaseHeaderRow &header, CheckValues &values)
+{
+    return core::guarded(session.ui(), [&] {
+        Outcome outcome = shell::requireRight(session, "cggl", kind.checkRight);
+        if (!outcome)
+            return outcome;
+        const auto found = readPurchaseHeader(session, kind, number);
+        if (!found)
+            return core::refuse(session.ui(), documents::texts::documentMissing(number));
+        if (found->status != 0)
+            return core::refuse(session.ui(), documents::texts::alreadyChecked(number));
+        header = *found;
+        if (!(outcome = documents::requireOpenPeriod(session, header.date)))
+            return outcome;
+        return readDialog(session, header, input, values);
+    });
+}
+
+Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
+    const QString &number, const QString &noRight, PurchaseHeaderRow &header,
+    const std::function<QString()> &afterRight)
+{
+    return core::guarded(session.ui(), [&] {
+        if (!shell::hasRight(session, QStringLiteral("cggl"), kind.uncheckRight))
+            return core::refuse(session.ui(), noRight);
+        if (const QString refusal = afterRight ? afterRight() : QString(); !refusal.isEmpty())
+            return core::refuse(session.ui(), refusal);
+        const auto found = readPurchaseHeader(session, kind, number);
+        if (!found)
+            return core::refuse(session.ui(), documents::texts::documentMissing(number));
+        if (found->status != 1)
+            return core::refuse(session.ui(), documents::texts::notChecked(number));
+        header = *found;
+        const Outcome outcome = documents::requireUncheckByChecker(
+            session, number, header.checker, "cggl", kind.uncheckRight);
+        if (!outcome)
+            return outcome;
+        return documents::requireOpenPeriod(session, header.date);
+    });
+}
+
+Outcome requireStatus(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number, int status)
+{
+    const std::optional<int> now = documents::documentStatus(session.db(), kind.entry, number);
+    if (!now)
+        return core::refuse(session.ui(), documents::texts::documentMissing(number));
+    if (*now == status)
+        return Outcome::done();
+    return core::refuse(session.ui(),
+        status == 0 ? documents::texts::alreadyChecked(number)
+                    : documents::texts::notChecked(number));
+}
+
+void markChecked(const shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckValues &values)
+{
+    const documents::HeaderColumns &h = kind.entry.header;
+    const accounts::MoneyColumns &m = kind.money;
+    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=?,%5=?,%6=?,%7=?,%8=? where id=?")
+                          .arg(name(h.table), name(h.status), name(h.checker), name(h.checkDate),
+                              name(kind.mode), name(m.paid), name(h.note), name(m.account)),
+        { 1, session.user().name, session.today(), values.mode.toInt(), values.paid, values.note,
+            values.account, header.id });
+}
+
+void markUnchecked(const shell::Session &session, const PurchaseKind &kind, const QString &number)
+{
+    const documents::HeaderColumns &h = kind.entry.header;
+    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=?,%5=? where %6=?")
+                          .arg(name(h.table), name(h.status), name(h.checkDate), name(h.checker),
+                              name(kind.paidBack), name(h.number)),
+        { 0, QString(), QString(), 0, number });
+}
+
+void removeUncheckedCopies(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number)
+{
+    const documents::HeaderColumns &h = kind.entry.header;
+    session.db().exec(QStringLiteral("delete from %1 where %2=? and %3=?")
+                          .arg(name(h.table), name(h.status), name(h.number)),
+        { 0, number });
+}
+
+} // namespace medistock::purchasing

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "core/outcome.h"
+#include "purchasing/kinds.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace medistock::shell {
+class Session;
+}
+
+namespace medistock::purchasing {
+
+// The check dialog "单据审核确认": what the operator confirms before approving. Each field left
+// empty keeps what the document was saved with.
+struct CheckInput
+{
+    std::optional<double> paid; // paid on a receipt, received on a return
+    std::optional<QString> mode; // "1" 按实付款结算, "2" 余款记入应付帐
+    std::optional<QString> account;
+    std::optional<QString> note; // cleaned at medium strength
+};
+
+// The header of a purchase document as check and uncheck read it; a checked row wins over a
+// stray unchecked copy of the same number.
+struct PurchaseHeaderRow
+{
+    qint64 id = 0;
+    QString number;
+    QString date;
+    QString warehouse;
+    QString employee;
+    QString checker;
+    QString note;
+    QString mode;
+    QString account;
+    double paid = 0;
+    double discount = 0;
+    int status = 0;
+};
+std::optional<PurchaseHeaderRow> readPurchaseHeader(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number);
+
+// What a check writes into the header: the dialog's values over the saved ones.
+struct CheckValues
+{
+    double paid = 0;
+    QString mode;
+    QString account;
+    QString note;
+};
+
+// Before a check asks anything: the check right, the document unchecked, the closed-period test,
+// the dialog's values (note cleaned, mode 1 or 2, an existing account). Tells its refusals.
+Outcome prepareCheck(const shell::Session &session, const PurchaseKind &kind, const QString &number,
+    const CheckInput &input, PurchaseHeaderRow &header, CheckValues &values);
+
+// Before an uncheck asks anything: the uncheck right (refused with `noRight`), the kind's own
+// refusal `afterRight` (a text, empty when there is none), the document checked, the checker rule,
+// the closed-period test. Tells its refusals.
+Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
+    const QString &number, const QString &noRight, PurchaseHeaderRow &header,
+    const std::function<QString()> &afterRight = {});
+
+// Inside the transaction: the status read again; a document another workstation got to first is
+// refused.
+Outcome requireStatus(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number, int status);
+
+// Status 1, checker, check date and the dialog's values, on the row that was read.
+void markChecked(const shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckValues &values);
+// Status 0, no checker or check date, nothing paid back.
+void markUnchecked(const shell::Session &session, const PurchaseKind &kind, const QString &number);
+// An unchecked copy of the number left beside the checked header is removed.
+void removeUncheckedCopies(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number);
+
+} // namespace medistock::purchasing

@@ -1,0 +1,173 @@
+#include "purchasing/entry.h"
+
+#include "accounts/cashbook.h"
+#include "accounts/documentsupport.h"
+#include "accounts/texts.h"
+#include "core/connection.h"
+#include "core/operation.h"
+#include "core/rounding.h"
+#include "core/textclean.h"
+#include "purchasing/kinds.h"
+#include "purchasing/texts.h"
+#include "shell/session.h"
+
+#include <QHash>
+#include <QSqlRecord>
+
+namespace medistock::purchasing {
+
+namespace {
+
+using documents::ValidDocument;
+using documents::ValidLine;
+
+QString name(const char *column)
+{
+    return QString::fromLatin1(column);
+}
+
+Outcome checkHeader(const shell::Session &session, PurchaseHeader &h)
+{
+    if (h.settlementMode.isEmpty())
+        h.settlementMode = QStringLiteral("1");
+    if (h.settlementMode != QLatin1String("1") && h.settlementMode != QLatin1String("2"))
+        return core::refuse(session.ui(), texts::settlementModeInvalid(h.settlementMode));
+    if (h.account.isEmpty())
+        h.account = accounts::cashAccountName();
+    if (!accounts::bankAccountExists(session.db(), h.account))
+        return core::refuse(session.ui(), accounts::texts::accountMissing(h.account));
+    if (!h.freightTerms.isEmpty() && h.freightTerms != texts::wePayFreight()
+        && h.freightTerms != texts::theyPayFreight())
+        return core::refuse(session.ui(), texts::freightTermsInvalid(h.freightTerms));
+    if (h.paid < 0 || h.invoiceAmount < 0 || h.freight < 0 || h.packing < 0)
+        return core::refuse(session.ui(), texts::amountNegative());
+    return Outcome::done();
+}
+
+// The header columns of the kind, each only where its table has it.
+void setHeaderColumns(const PurchaseKind &kind, const PurchaseHeader &h, ValidDocument &doc)
+{
+    const accounts::MoneyColumns &m = kind.money;
+    const auto set = [&](const char *column, const QVariant &value) {
+        if (*column)
+            doc.columns.set(name(column), value);
+    };
+    set(kind.supplierNumber, core::cleanText(h.supplierNumber, kind.entry.cleaning));
+    set(kind.mode, h.settlementMode.toInt());
+    set(m.account, h.account);
+    set(m.paid, h.paid);
+    set(m.invoiceNumber, core::cleanText(h.invoiceNumber, kind.entry.cleaning));
+    set(m.invoiceAmount, h.invoiceAmount);
+    set(m.freight, h.freight);
+    set(m.packing, h.packing);
+    set(m.freightMode, h.freightTerms);
+    set(kind.paidBack, 0);
+}
+
+// A receipt line starts unreceived, not done and without its identity, which the check fixes;
+// the discount line too.
+void setReceiptLineColumns(documents::ColumnValues &columns)
+{
+    columns.set(QStringLiteral("jh_rksl"), 0);
+    columns.set(QStringLiteral("jh_qxsl"), 0);
+    columns.set(QStringLiteral("id2"), 0);
+    if (!columns.contains(QStringLiteral("id3")))
+        columns.set(QStringLiteral("id3"), 0);
+}
+
+struct ReceiptLine
+{
+    QString receipt;
+    double quantity = 0; // jh_zsl
+    double returned = 0; // by the lines of other returns
+};
+
+std::optional<ReceiptLine> receiptLine(
+    core::Connection &db, qint64 id2, const QString &goods, const QString &returnNumber)
+{
+    const QSqlRecord row = db.firstRow(
+        QStringLiteral("select b.j_sn,b.jh_zsl from jxc_jhsp b,jxc_jhd a where b.id2=? and "
+                       "b.g_sn=? and a.j_sn=b.j_sn and a.j_status=? order by b.id limit 1"),
+        { id2, goods, 1 });
+    if (row.isEmpty())
+        return std::nullopt;
+    const double returned
+        = db.firstValue(QStringLiteral("select sum(th_zsl) from jxc_thsp where id2=? and g_sn=? "
+                                       "and gl_djh<>?"),
+                { id2, goods, returnNumber })
+              .toDouble();
+    return ReceiptLine { row.value(0).toString(), row.value(1).toDouble(), returned };
+}
+
+// Lines of this return against the same receipt line count together.
+Outcome checkReturnLines(const shell::Session &session, ValidDocument &doc)
+{
+    QHash<qint64, double> taken;
+    for (ValidLine &line : doc.lines) {
+        const qint64 id2 = line.columns.value(QStringLiteral("id2")).toLongLong();
+        line.columns.set(QStringLiteral("id2"), id2 > 0 ? id2 : 0);
+        if (id2 <= 0)
+            continue;
+        const auto source = receiptLine(session.db(), id2, line.goods, doc.number);
+        if (!source)
+            return core::refuse(session.ui(), texts::receiptLineMissing(line.row));
+        taken[id2] += line.figures.baseQuantity;
+        const double left = source->quantity - source->returned;
+        if (taken[id2] > left + 0.000000001)
+            return core::refuse(session.ui(),
+                texts::returnExceedsReceipt(line.row, source->receipt,
+                    accounts::plainNumber(
+                        core::roundTo(left, session.params().quantityDecimals()))));
+    }
+    return Outcome::done();
+}
+
+Result<QString> save(const shell::Session &session, const PurchaseKind &kind,
+    const PurchaseDraft &draft, bool isReturn)
+{
+    PurchaseHeader header = draft.header;
+    const documents::EntryRule rule = [&](const shell::Session &s, ValidDocument &doc) {
+        const Outcome checked = checkHeader(s, header);
+        if (!checked)
+            return checked;
+        setHeaderColumns(kind, header, doc);
+        // Marks that later business sets (finished, returned, taken over) start clear.
+        const QStringList marks = isReturn ? QStringList { QStringLiteral("th_qk") }
+                                           : QStringList { QStringLiteral("j_th"),
+                                                 QStringLiteral("j_crk"), QStringLiteral("j_qk") };
+        for (const QString &column : marks)
+            doc.columns.set(column, 0);
+        if (!isReturn) {
+            for (ValidLine &line : doc.lines)
+                setReceiptLineColumns(line.columns);
+            setReceiptLineColumns(doc.discountColumns);
+            return Outcome::done();
+        }
+        return checkReturnLines(s, doc);
+    };
+    return documents::saveDocument(session, kind.entry, draft.entry, rule);
+}
+
+} // namespace
+
+Result<QString> savePurchaseReceipt(const shell::Session &session, const PurchaseDraft &draft)
+{
+    return save(session, purchaseReceipt(), draft, false);
+}
+
+Result<QString> savePurchaseReturn(const shell::Session &session, const PurchaseDraft &draft)
+{
+    return save(session, purchaseReturn(), draft, true);
+}
+
+Outcome deletePurchaseReceipt(const shell::Session &session, const QString &number)
+{
+    return documents::deleteDocument(session, purchaseReceipt().entry, number);
+}
+
+Outcome deletePurchaseReturn(const shell::Session &session, const QString &number)
+{
+    return documents::deleteDocument(session, purchaseReturn().entry, number);
+}
+
+} // namespace medistock::purchasing
