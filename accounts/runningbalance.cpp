@@ -74,13 +74,15 @@ double rerunFrom(core::Connection &connection, const RunningBook &book, const QV
         connection, lastRowSql(book, QStringLiteral(" and %1<?").arg(name(book.date))), params);
 
     // One statement walks the chain from the date: the window sum runs in date-then-id order,
-    // which is the order the rows are read in everywhere else.
+    // which is the order the rows are read in everywhere else. Balances are kept to the eight
+    // places their columns declare, so binary remainders never pile up along the chain.
     const QString table = name(book.table);
     const QString balance = name(book.balance);
     const QString update
         = QStringLiteral(
-            "update %1 set %2=w.bal from (select id,?+sum(%3) over (order by %4,id rows between "
-            "unbounded preceding and current row) as bal from %1 where %5 and %4>=?) as w "
+            "update %1 set %2=w.bal from (select id,round(?+sum(%3) over (order by %4,id rows "
+            "between unbounded preceding and current row)+0.000000001,8) as bal from %1 where %5 "
+            "and %4>=?) as w "
             "where %1.id=w.id and (%1.%2 is null or %1.%2<>w.bal)")
               .arg(table, balance, name(book.delta), name(book.date), name(book.chain));
     QVariantList updateParams { opening };
