@@ -1,0 +1,145 @@
+#pragma once
+
+#include "core/outcome.h"
+#include "documents/descriptor.h"
+#include "documents/lines.h"
+
+#include <QList>
+#include <QSqlRecord>
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <optional>
+#include <utility>
+
+namespace medistock::core {
+class Connection;
+}
+namespace medistock::shell {
+class Session;
+}
+
+namespace medistock::documents {
+
+// Values of a kind's own columns, written after the shared ones in the order set; a name that
+// is also a shared column replaces the shared value. Names must be columns of the table.
+class ColumnValues
+{
+public:
+    void set(const QString &column, const QVariant &value);
+    bool contains(const QString &column) const;
+    QVariant value(const QString &column) const;
+    const QList<std::pair<QString, QVariant>> &items() const { return m_items; }
+
+private:
+    QList<std::pair<QString, QVariant>> m_items;
+};
+
+// One line as the operator typed it. Numbers are kept as typed, so that a wrong one can be named.
+struct LineDraft
+{
+    QString goods; // g_sn
+    QString unit; // empty: the goods' base unit
+    QString quantity;
+    QString price;
+    QString taxRate; // empty: 0
+    QString discountRate; // empty: 1
+    QString batch;
+    QString produced; // "yyyy-MM-dd" or empty
+    QString expiry; // "yyyy-MM-dd" or empty
+    QString remark;
+    ColumnValues columns; // the kind's own line columns
+};
+
+// A document as the operator typed it. An empty number saves a new document; a number changes
+// that unchecked document.
+struct DocumentDraft
+{
+    QString number;
+    QString date; // "yyyy-MM-dd"
+    QString party; // supplier or customer code; ignored by kinds without a party
+    QString warehouse;
+    QString secondWarehouse; // transfers only
+    QString employee; // empty: the default employee
+    QString note;
+    double discount = 0; // the whole-document discount, kinds with a discount column only
+    ColumnValues columns; // the kind's own header columns
+    QList<LineDraft> lines;
+};
+
+// A line that passed the shared checks: goods and unit found, figures computed, texts cleaned.
+struct ValidLine
+{
+    int row = 0; // from 1, as the operator counts
+    QString goods;
+    QString goodsName;
+    QString baseUnit; // the goods' dw_name
+    QString unit; // the unit written: the base unit when none was typed
+    QString barcode; // of the unit, else of the goods
+    LineFigures figures;
+    QString batch;
+    QString produced;
+    QString expiry;
+    QString remark;
+    ColumnValues columns;
+};
+
+// A draft that passed the shared checks. A kind's rule may change figures and add columns.
+struct ValidDocument
+{
+    QString number; // as the draft gave it
+    QString date;
+    QString party;
+    QString partyName;
+    QString warehouse;
+    QString secondWarehouse;
+    QString employee;
+    QString note;
+    double discount = 0;
+    ColumnValues columns;
+    QList<ValidLine> lines;
+};
+
+// Checks a draft: date, party, warehouses, employee, then each line's goods, unit, numbers and
+// dates, in that order; the first fault is told and refused. Reads only.
+Result<ValidDocument> validateDraft(
+    const shell::Session &session, const DocumentKind &kind, const DocumentDraft &draft);
+
+// A kind's own rules, run after the shared checks and before the save's transaction: it may
+// refuse (telling why), ask the operator, change figures or add columns.
+using EntryRule = std::function<Outcome(const shell::Session &, ValidDocument &)>;
+
+// Saves a draft in one transaction and returns its number. A new document takes the next number of
+// its date; a change is refused once the document is checked (the status is read again inside the
+// transaction), keeps its number while the date keeps its day and takes a new one otherwise. The
+// header's due amount is the sum of the line totals less the discount; a discount other than 0
+// gets the discount line "00000000". Lines are written anew, in order; one log row.
+Result<QString> saveDocument(const shell::Session &session, const DocumentKind &kind,
+    const DocumentDraft &draft, const EntryRule &rule = {});
+
+// Deletes an unchecked document with its lines in one transaction (refused once checked); logs.
+Outcome deleteDocument(
+    const shell::Session &session, const DocumentKind &kind, const QString &number);
+
+// A stored document: the header row and its lines in id order.
+struct StoredDocument
+{
+    QSqlRecord header;
+    QList<QSqlRecord> lines;
+};
+std::optional<StoredDocument> readDocument(
+    core::Connection &connection, const DocumentKind &kind, const QString &number);
+
+// The header's status (0 unchecked, 1 checked); a checked row wins over a stray unchecked copy of
+// the same number. Nothing when there is no such document.
+std::optional<int> documentStatus(
+    core::Connection &connection, const DocumentKind &kind, const QString &number);
+
+// Writes the whole-document discount line: goods "00000000", no quantity, amount and total
+// -discount, so that the lines add up to the due amount. Replaces the line when there is one and
+// removes it when the discount is 0. Runs inside the caller's transaction.
+void writeDiscountLine(const shell::Session &session, const DocumentKind &kind,
+    const QString &number, double discount);
+
+} // namespace medistock::documents

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "core/outcome.h"
+
+#include <QString>
+
+namespace medistock::shell {
+class Session;
+}
+
+namespace medistock::documents {
+
+// What the check and uncheck of every goods document share.
+
+// The closed-period test before a document is checked or unchecked: "ok" when nothing stands in
+// the way, else the message to show. No period is ever closed in this system yet, so the answer
+// is always "ok"; a closing of periods would refuse here, for every document alike.
+QString closedPeriodTest(const shell::Session &session, const QString &documentDate);
+// The test as an outcome: a message other than "ok" is told and refused.
+Outcome requireOpenPeriod(const shell::Session &session, const QString &documentDate);
+
+// Only the operator who checked a document may uncheck it. Operator "100001" may always; another
+// operator passes when the second rights test for the checker passes: the checker holds the
+// uncheck right `position` of `area` (the operator's own uncheck right was the first test).
+// Otherwise "单据：<number>，的审核人：<checker>\r\n不允许其他人取消审核！" is told and refused.
+Outcome requireUncheckByChecker(const shell::Session &session, const QString &number,
+    const QString &checker, const char *area, int position);
+
+// "您的操作将取消当前选中的已审核单据：<number>，确认吗？"; "No" is refused with an empty message.
+Outcome confirmUncheck(const shell::Session &session, const QString &number);
+
+} // namespace medistock::documents

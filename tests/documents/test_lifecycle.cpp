@@ -1,0 +1,73 @@
+#include "documents/lifecycle.h"
+#include "tests/support/accountset.h"
+#include "tests/support/documentrows.h"
+
+using namespace medistock;
+using namespace medistock::documents;
+
+namespace {
+
+const QString number = QStringLiteral("CJ25031410001");
+const QString refusal
+    = QStringLiteral("单据：CJ25031410001，的审核人：小李\r\n不允许其他人取消审核！");
+
+} // namespace
+
+// 小王 may uncheck purchase receipts (cggl 10); 小李 checks them but may not uncheck; 小张 may.
+class CheckerRuleTest : public test::SessionTest
+{
+protected:
+    void SetUp() override
+    {
+        SessionTest::SetUp();
+        const QString uncheck = QStringLiteral("0000000001");
+        test::addOperatorWithRights(session(), QStringLiteral("小王"), { { "cggl", uncheck } });
+        test::addOperatorWithRights(session(), QStringLiteral("小李"), { { "cggl", "0000011" } });
+        test::addOperatorWithRights(session(), QStringLiteral("小张"), { { "cggl", uncheck } });
+    }
+    Outcome uncheckBy(const QString &checker)
+    {
+        return requireUncheckByChecker(session(), number, checker, "cggl", 10);
+    }
+};
+
+TEST_F(CheckerRuleTest, AnotherOperatorIsRefusedUnlessTheCheckerHoldsTheUncheckRight)
+{
+    loginAs(QStringLiteral("小王"));
+    EXPECT_TRUE(uncheckBy(QStringLiteral("小王")));
+    EXPECT_TRUE(uncheckBy(QStringLiteral("小张")));
+    EXPECT_TRUE(ui.informed.isEmpty());
+
+    const Outcome refused = uncheckBy(QStringLiteral("小李"));
+    EXPECT_EQ(refused.message(), refusal);
+    EXPECT_EQ(ui.informed, QStringList { refusal });
+    EXPECT_EQ(uncheckBy(QString()).message(),
+        QStringLiteral("单据：CJ25031410001，的审核人：\r\n不允许其他人取消审核！"));
+}
+
+TEST_F(CheckerRuleTest, OperatorOneHundredAndOneMayAlwaysUncheck)
+{
+    EXPECT_EQ(session().user().code, QStringLiteral("100001"));
+    EXPECT_TRUE(uncheckBy(QStringLiteral("小李")));
+    EXPECT_TRUE(uncheckBy(QString()));
+}
+
+TEST_F(CheckerRuleTest, TheQuestionComesFirstAndNoStops)
+{
+    ui.answerNext(false);
+    ui.answerNext(true);
+    const Outcome no = confirmUncheck(session(), number);
+    EXPECT_EQ(no.kind(), Outcome::Kind::Refused);
+    EXPECT_EQ(no.message(), QString());
+    EXPECT_TRUE(confirmUncheck(session(), number));
+    EXPECT_EQ(ui.asked,
+        QStringList(
+            2, QStringLiteral("您的操作将取消当前选中的已审核单据：CJ25031410001，确认吗？")));
+}
+
+TEST_F(CheckerRuleTest, NoPeriodIsClosed)
+{
+    EXPECT_EQ(closedPeriodTest(session(), QStringLiteral("2001-01-01")), QStringLiteral("ok"));
+    EXPECT_TRUE(requireOpenPeriod(session(), QStringLiteral("2025-03-14")));
+    EXPECT_TRUE(ui.informed.isEmpty());
+}
