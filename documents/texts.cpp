@@ -162,6 +162,11 @@ QString numberTaken(const QString &number)
         + QStringLiteral("，已被其他操作员使用，请重新保存！");
 }
 
+QString alreadyChecked(const QString &number)
+{
+    return QStringLiteral("单据：") + number + QStringLiteral("已经审核！");
+}
+
 QString notChecked(const QString &number)
 {
     return QStringLiteral("单据：") + number + QStringLiteral("，未审核！");

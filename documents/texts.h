@@ -39,6 +39,7 @@ QString documentMissing(const QString &number);
 QString checkedCannotChange(const QString &number);
 QString checkedCannotDelete(const QString &number);
 QString numberTaken(const QString &number);
+QString alreadyChecked(const QString &number);
 QString notChecked(const QString &number);
 
 // The uncheck rule for another operator's document, and its question
