@@ -60,11 +60,8 @@ QString text(const char *value)
 void appendFeeExpense(shell::Session &session, const MoneyHeader &header, const QString &item,
     double fee, const QString &note)
 {
-    session.db().insert(
-        QStringLiteral("insert into jxc_yyfy (fy_rq,gl_djh,fy_lx,fy_je,fy_flag,u_sn,de_sn,fy_kmmc,"
-                       "fy_chk,fy_note,a_name,fy_sc) values (?,?,?,?,?,?,?,?,'1',?,?,'')"),
-        { header.date, header.number, item, -fee, texts::automaticExpenseFlag(), header.salesman,
-            texts::defaultDepartment(), cashAccountName(), note, session.user().name });
+    appendDocumentExpense(session,
+        { ExpenseKind::Expense, header.number, header.date, item, -fee, header.salesman, note });
     CashRow row;
     row.date = header.date; // the number stays out: the note names the document
     row.kind = texts::expensePaymentKind();
@@ -238,6 +235,17 @@ void postFreightAndPacking(
     }
     if (paid)
         recalculateCash(session.db(), cashAccountName(), header.date);
+}
+
+void appendDocumentExpense(const shell::Session &session, const DocumentExpense &expense)
+{
+    const QString flag = expense.kind == ExpenseKind::Expense ? texts::automaticExpenseFlag()
+                                                              : texts::automaticIncomeFlag();
+    session.db().insert(
+        QStringLiteral("insert into jxc_yyfy (fy_rq,gl_djh,fy_lx,fy_je,fy_flag,u_sn,de_sn,fy_kmmc,"
+                       "fy_chk,fy_note,a_name,fy_sc) values (?,?,?,?,?,?,?,?,'1',?,?,'')"),
+        { expense.date, expense.number, expense.type, expense.amount, flag, expense.salesman,
+            texts::defaultDepartment(), cashAccountName(), expense.note, session.user().name });
 }
 
 void postDocumentMoney(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "accounts/expenses.h"
 #include "accounts/ledger.h"
 
 #include <QString>
@@ -90,6 +91,21 @@ void postInvoiceRow(
 //    document; then the cash balances.
 void postFreightAndPacking(
     shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header);
+// An expense or income row that a document's check books in jxc_yyfy by itself, with no cash
+// movement: department "100001", account "现金", checked. fy_flag is "1" for an expense and "2"
+// for income. The note names the document, so that removeExpenseRows takes it away again.
+struct DocumentExpense
+{
+    ExpenseKind kind = ExpenseKind::Expense;
+    QString number; // gl_djh
+    QString date; // fy_rq
+    QString type; // fy_lx
+    double amount = 0; // fy_je, as the document states it
+    QString salesman; // u_sn
+    QString note; // fy_note
+};
+void appendDocumentExpense(const shell::Session &session, const DocumentExpense &expense);
+
 // Steps 1 to 4.
 void postDocumentMoney(
     shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header);

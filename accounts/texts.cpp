@@ -401,6 +401,11 @@ QString automaticExpenseFlag()
     return QStringLiteral("1");
 }
 
+QString automaticIncomeFlag()
+{
+    return QStringLiteral("2");
+}
+
 QString defaultDepartment()
 {
     return QStringLiteral("100001");

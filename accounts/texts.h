@@ -82,6 +82,7 @@ QString expensePaymentKind(); // "费用付款"
 QString expenseCashKind(ExpenseKind kind); // "费用付款" / "收入收款"
 QString expenseFlag(ExpenseKind kind); // "费用" / "收入"
 QString automaticExpenseFlag(); // "1", on the fee expenses that document checks write
+QString automaticIncomeFlag(); // "2", on the income rows that document checks write
 QString defaultDepartment(); // "100001"
 QString invoicingText(); // "增加发票"
 QString wePayFreight(); // "我方付运费"

@@ -1,7 +1,9 @@
 #include "documents/lifecycle.h"
 
+#include "core/connection.h"
 #include "core/interaction.h"
 #include "core/operation.h"
+#include "documents/entry.h"
 #include "documents/texts.h"
 #include "shell/rights.h"
 #include "shell/session.h"
@@ -37,6 +39,47 @@ Outcome confirmUncheck(const shell::Session &session, const QString &number)
     if (session.ui().ask(texts::uncheckQuestion(number)))
         return Outcome::done();
     return Outcome::refused(QString());
+}
+
+Outcome requireStatus(
+    const shell::Session &session, const DocumentKind &kind, const QString &number, int status)
+{
+    const std::optional<int> now = documentStatus(session.db(), kind, number);
+    if (!now)
+        return core::refuse(session.ui(), texts::documentMissing(number));
+    if (*now == status)
+        return Outcome::done();
+    return core::refuse(
+        session.ui(), status == 0 ? texts::alreadyChecked(number) : texts::notChecked(number));
+}
+
+void markChecked(const shell::Session &session, const DocumentKind &kind, qint64 headerId)
+{
+    const HeaderColumns &h = kind.header;
+    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=? where id=?")
+                          .arg(QLatin1String(h.table), QLatin1String(h.status),
+                              QLatin1String(h.checker), QLatin1String(h.checkDate)),
+        { 1, session.user().name, session.today(), headerId });
+}
+
+void markUnchecked(const shell::Session &session, const DocumentKind &kind, const QString &number)
+{
+    const HeaderColumns &h = kind.header;
+    session.db().exec(
+        QStringLiteral("update %1 set %2=?,%3=?,%4=? where %5=?")
+            .arg(QLatin1String(h.table), QLatin1String(h.status), QLatin1String(h.checker),
+                QLatin1String(h.checkDate), QLatin1String(h.number)),
+        { 0, QString(), QString(), number });
+}
+
+void removeUncheckedCopies(
+    const shell::Session &session, const DocumentKind &kind, const QString &number)
+{
+    const HeaderColumns &h = kind.header;
+    session.db().exec(
+        QStringLiteral("delete from %1 where %2=? and %3=?")
+            .arg(QLatin1String(h.table), QLatin1String(h.status), QLatin1String(h.number)),
+        { 0, number });
 }
 
 } // namespace medistock::documents

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/outcome.h"
+#include "documents/descriptor.h"
 
 #include <QString>
 
@@ -28,5 +29,20 @@ Outcome requireUncheckByChecker(const shell::Session &session, const QString &nu
 
 // "您的操作将取消当前选中的已审核单据：<number>，确认吗？"; "No" is refused with an empty message.
 Outcome confirmUncheck(const shell::Session &session, const QString &number);
+
+// The header's status steps of a check and an uncheck, for kinds whose header keeps no more
+// than the descriptor's columns. Each runs inside the caller's transaction.
+
+// The status read again inside the transaction: a missing document, or one that another
+// workstation has checked or unchecked meanwhile, is told and refused.
+Outcome requireStatus(
+    const shell::Session &session, const DocumentKind &kind, const QString &number, int status);
+// The header row `headerId` checked: status 1, the operator as checker, today as check date.
+void markChecked(const shell::Session &session, const DocumentKind &kind, qint64 headerId);
+// Every header row of the number unchecked: status 0, checker and check date emptied.
+void markUnchecked(const shell::Session &session, const DocumentKind &kind, const QString &number);
+// Unchecked copies of the number left beside its checked header are deleted.
+void removeUncheckedCopies(
+    const shell::Session &session, const DocumentKind &kind, const QString &number);
 
 } // namespace medistock::documents

@@ -203,6 +203,13 @@ RerunSummary rerunLedger(const shell::Session &session, qint64 rowId, bool exclu
     return summary;
 }
 
+double basePrice(double price, double quantity, double baseQuantity)
+{
+    if (quantity == baseQuantity || quantity == 0 || baseQuantity == 0)
+        return price;
+    return price / (baseQuantity / quantity);
+}
+
 qint64 insertLedgerRow(const shell::Session &session, const LedgerRow &row)
 {
     const QVariant lineId = row.lineId ? QVariant(*row.lineId) : QVariant();

@@ -157,4 +157,8 @@ struct LedgerRow
 // Inserts the row and returns its id.
 qint64 insertLedgerRow(const shell::Session &session, const LedgerRow &row);
 
+// A line's price per base unit (gl_dj): a line in a larger unit divides its price by the unit's
+// factor, baseQuantity / quantity.
+double basePrice(double price, double quantity, double baseQuantity);
+
 } // namespace medistock::stock

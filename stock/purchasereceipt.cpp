@@ -90,14 +90,6 @@ void fixLineIdentities(const shell::Session &session, const QString &number)
         QStringLiteral("update jxc_jhsp set id2=id,jh_qxsl=? where j_sn=?"), { 0, number });
 }
 
-// The price per base unit: a line in a larger unit divides its price by the unit's factor.
-double basePrice(double price, double quantity, double baseQuantity)
-{
-    if (quantity == baseQuantity || quantity == 0 || baseQuantity == 0)
-        return price;
-    return price / (baseQuantity / quantity);
-}
-
 LedgerRow ledgerRowOf(
     const shell::Session &session, const ReceiptHeader &header, const QSqlQuery &q)
 {

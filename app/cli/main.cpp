@@ -16,6 +16,7 @@ int main(int argc, char *argv[])
     medistock::cli::addCoreCommands(registry);
     medistock::cli::addShellCommands(registry);
     medistock::cli::addAccountsCommands(registry);
+    medistock::cli::addStockDocumentCommands(registry);
     medistock::cli::addDocumentCommands(registry);
     medistock::cli::addMasterDataCommands(registry);
     medistock::cli::addStockCommands(registry);

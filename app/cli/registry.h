@@ -34,6 +34,8 @@ private:
 // Each module's commands, added by the file that wires them.
 void addCoreCommands(Registry &registry);
 void addShellCommands(Registry &registry);
+// The stock documents "DB", "PD", "BS", "BY" in the document registry, and count-sheet.
+void addStockDocumentCommands(Registry &registry);
 void addAccountsCommands(Registry &registry);
 // save, check, uncheck, delete, show: dispatched to registry.documents() by prefix.
 void addDocumentCommands(Registry &registry);

@@ -1,4 +1,6 @@
 #include "documents/lifecycle.h"
+#include "documents/texts.h"
+#include "tests/documents/entrytest.h"
 #include "tests/support/accountset.h"
 #include "tests/support/documentrows.h"
 
@@ -50,4 +52,36 @@ TEST_F(CheckerRuleTest, OperatorOneHundredAndOneMayAlwaysUncheck)
     EXPECT_EQ(session().user().code, QStringLiteral("100001"));
     EXPECT_TRUE(uncheckBy(QStringLiteral("小李")));
     EXPECT_TRUE(uncheckBy(QString()));
+}
+
+class HeaderStatusTest : public test::EntryTest
+{
+};
+
+TEST_F(HeaderStatusTest, CheckMarksTheRowReadAndDropsItsUncheckedCopy)
+{
+    const Result<QString> saved
+        = saveDocument(session(), test::plainKind(), draft({ line("200001", "2", "5") }));
+    ASSERT_TRUE(saved.ok());
+    const QString bs = saved.value();
+    db().exec("insert into jxc_bsd (gl_djh,ck_sn,bs_bsrq,bs_status) values (?,'100001',"
+              "'2025-03-14',0)",
+        { bs });
+
+    EXPECT_TRUE(requireStatus(session(), test::plainKind(), bs, 0));
+    markChecked(session(), test::plainKind(), 1);
+    removeUncheckedCopies(session(), test::plainKind(), bs);
+    EXPECT_EQ(rows("jxc_bsd", "id,bs_status,bs_checker,bs_chkrq"),
+        QStringList { "1|1|admin|2025-03-14" });
+
+    EXPECT_FALSE(requireStatus(session(), test::plainKind(), bs, 0));
+    EXPECT_TRUE(requireStatus(session(), test::plainKind(), bs, 1));
+    markUnchecked(session(), test::plainKind(), bs);
+    EXPECT_EQ(rows("jxc_bsd", "id,bs_status,bs_checker,bs_chkrq"), QStringList { "1|0||" });
+    EXPECT_FALSE(requireStatus(session(), test::plainKind(), bs, 1));
+    EXPECT_FALSE(requireStatus(session(), test::plainKind(), "BS25031499999", 0));
+    EXPECT_EQ(ui.informed,
+        (QStringList { texts::alreadyChecked(bs), texts::notChecked(bs),
+            texts::documentMissing("BS25031499999") }));
+    EXPECT_EQ(texts::alreadyChecked(bs), "单据：" + bs + "已经审核！");
 }
