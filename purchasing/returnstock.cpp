@@ -150,7 +150,7 @@ void reverseRow(const shell::Session &session, const ReturnRow &row)
     const QString &goods = row.batch.goods;
     stock::applyWarehouseStock(
         session, { goods, row.batch.warehouse, -row.quantity, -row.quantity, 0, row.price });
-    stock::rerunLedger(session, row.id, true);
+    stock::withdrawLedgerRow(session, row.id);
     stock::applyGoodsTotals(session, goods, -row.quantity, 1, 0);
     stock::refreshGoodsAverage(session, goods, row.price);
     stock::subtractBatchStock(session, row.batch, row.quantity);

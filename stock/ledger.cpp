@@ -203,6 +203,13 @@ RerunSummary rerunLedger(const shell::Session &session, qint64 rowId, bool exclu
     return summary;
 }
 
+RerunSummary withdrawLedgerRow(const shell::Session &session, qint64 rowId)
+{
+    const RerunSummary summary = rerunLedger(session, rowId, true);
+    session.db().exec(QStringLiteral("delete from jxc_goodslist where id=?"), { rowId });
+    return summary;
+}
+
 double basePrice(double price, double quantity, double baseQuantity)
 {
     if (quantity == baseQuantity || quantity == 0 || baseQuantity == 0)

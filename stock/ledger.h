@@ -94,6 +94,11 @@ struct RerunSummary
 // kept fixed.
 RerunSummary rerunLedger(const shell::Session &session, qint64 rowId, bool exclude);
 
+// Takes one posted row out of the ledger: reruns its goods and warehouse without it, then deletes
+// it. Every reversal withdraws its rows one by one this way, so that when a document holds two
+// rows of one goods in one warehouse the second rerun no longer counts the first.
+RerunSummary withdrawLedgerRow(const shell::Session &session, qint64 rowId);
+
 // Optional prescription columns of a sales row.
 struct Prescription
 {

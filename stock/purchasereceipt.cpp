@@ -184,7 +184,7 @@ void reverseRow(const shell::Session &session, const ReceiptRow &row)
     const QString &goods = row.batch.goods;
     applyWarehouseStock(
         session, { goods, row.batch.warehouse, -row.received, -row.quantity, 0, row.price });
-    rerunLedger(session, row.id, true);
+    withdrawLedgerRow(session, row.id);
     applyGoodsTotals(session, goods, -row.received, -1, 0);
     refreshGoodsAverage(session, goods, row.price);
     subtractBatchStock(session, row.batch, row.received);

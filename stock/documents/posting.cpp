@@ -177,10 +177,7 @@ void reverseRow(const shell::Session &session, const PostedRow &row, bool goodsT
     if (goodsTotal)
         applyGoodsTotals(session, goods, -row.quantity, 0, 0);
     adjustSettlement(session, warehouse, row.checkDate, -row.quantity, -row.total);
-    rerunLedger(session, row.id, true);
-    // Gone before the next row's rerun: a document with two rows of one goods in one warehouse
-    // would otherwise count the first again when the second is left out.
-    session.db().exec(QStringLiteral("delete from jxc_goodslist where id=?"), { row.id });
+    withdrawLedgerRow(session, row.id);
     subtractBatchStock(session, row.batch, row.quantity);
 }
 

@@ -187,3 +187,18 @@ TEST_F(ReceiptTest, ReversalAfterTheGoodsWereSoldLeavesThemNegative)
     EXPECT_EQ(columns("select t_sl from jxc_tkc"), QStringList { "-8" });
     EXPECT_EQ(goodsRow(amoxil), QStringList { "-8|0|10|100001|10" });
 }
+
+TEST_F(ReceiptTest, ReversalOfTwoLinesOfOneGoodsLeavesLaterRowsAsWithoutTheReceipt)
+{
+    addReceipt("CJ1", "2025-03-01", { { amoxil, 10, 10 } });
+    postReceipt("CJ1");
+    postSale("XS1", "2025-03-05", { amoxil, 4, 15 });
+    const QStringList before = runningColumns(amoxil);
+    addReceipt("CJ2", "2025-03-03", { { amoxil, 10, 13 }, { amoxil, 5, 16, 1, "B2" } });
+    postReceipt("CJ2");
+    EXPECT_EQ(runningColumns(amoxil).last(), "xs -4 -49.6 21 12.4 260.4");
+    reverseReceipt("CJ2");
+    EXPECT_EQ(runningColumns(amoxil), before);
+    EXPECT_EQ(columns("select kc_sl,kc_zsl,kc_cbj from jxc_kcsp where g_sn=?", { amoxil }),
+        QStringList { "6|6|10" });
+}
