@@ -39,6 +39,7 @@ void addAccountsCommands(Registry &registry);
 void addDocumentCommands(Registry &registry);
 void addMasterDataCommands(Registry &registry);
 void addStockCommands(Registry &registry);
+void addSalesCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

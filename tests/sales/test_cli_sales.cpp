@@ -1,0 +1,1 @@
+#include "tests/sales/salestest.h"
