@@ -59,12 +59,9 @@ void setSaleHeaderColumns(
     set("ls_yffs", h.freightTerms);
 }
 
-// A line is issued as it is saved; its identity and the order link are fixed by the check.
+// A line without an order has no link to one.
 void setSaleLineColumns(ValidLine &line)
 {
-    line.columns.set(QStringLiteral("ls_cksl"), line.figures.quantity);
-    line.columns.set(QStringLiteral("ls_qxsl"), 0);
-    line.columns.set(QStringLiteral("id2"), 0);
     line.columns.set(QStringLiteral("g_tmbz"), QString());
     if (!line.columns.contains(QStringLiteral("id3")))
         line.columns.set(QStringLiteral("id3"), 0);
@@ -164,9 +161,13 @@ QString saveQuestion(const shell::Session &session)
                                           : texts::saveSaleQuestion();
 }
 
-// Each order a line was taken over from is marked as taken over.
-void markOrdersTaken(const shell::Session &session, const ValidDocument &doc)
+// Every line, the discount line too, is issued as saved and has no identity before the check;
+// each order a line was taken over from is marked as taken over.
+void markLines(const shell::Session &session, const ValidDocument &doc, const QString &number)
 {
+    session.db().exec(QStringLiteral("update jxc_lsxssp set ls_cksl=ls_sl,ls_qxsl=?,id2=? where "
+                                     "gl_djh=?"),
+        { 0, 0, number });
     QStringList orders;
     for (const ValidLine &line : doc.lines) {
         const QString order = line.columns.value(QStringLiteral("gl_djh2")).toString();
@@ -224,8 +225,8 @@ Result<QString> saveSale(shell::Session &session, const SaleDraft &draft)
     const Result<QString> saved = documents::saveDocument(
         session, saleKind(), draft.entry,
         [&](const shell::Session &s, ValidDocument &doc) { return saleRule(s, header, doc); },
-        [](const shell::Session &s, const ValidDocument &doc, const QString &) {
-            markOrdersTaken(s, doc);
+        [](const shell::Session &s, const ValidDocument &doc, const QString &number) {
+            markLines(s, doc, number);
         });
     if (saved && checksOnSave(session.params()))
         checkSale(session, saved.value(), CheckStart::OnSave);

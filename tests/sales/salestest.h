@@ -35,8 +35,13 @@ protected:
     // The customer's balance after his last ledger row, and kh_lwje.
     double balance(const QString &customer = QStringLiteral("100002"));
     double partyFigure(const QString &customer = QStringLiteral("100002"));
-    // The whole database without the log, for comparing before and after.
+    // The whole database without the log and the tables' id counters, for comparing before and
+    // after.
     QString snapshot();
 };
+
+// The lines of two snapshots that differ, each marked "-" (only before) or "+" (only after);
+// empty when they are equal.
+QStringList differences(const QString &before, const QString &after);
 
 } // namespace medistock::test
