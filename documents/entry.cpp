@@ -159,7 +159,7 @@ QString savedLog(const DocumentKind &kind, const QString &number, int goodsCount
 
 // Inside the transaction: the number is decided, tested, and the rows are written.
 Outcome write(const shell::Session &session, const DocumentKind &kind, const ValidDocument &doc,
-    QString &number)
+    const EntryWrite &written, QString &number)
 {
     core::Connection &db = session.db();
     const bool isNew = doc.number.isEmpty();
@@ -190,6 +190,8 @@ Outcome write(const shell::Session &session, const DocumentKind &kind, const Val
     for (const ValidLine &line : doc.lines)
         insertRow(db, kind.lines.table, lineRow(session, kind, line, number));
     writeDiscountLine(session, kind, number, doc.discount, doc.discountColumns);
+    if (written)
+        written(session, doc, number);
     session.log(savedLog(kind, number, int(doc.lines.size()), isNew));
     return Outcome::done();
 }
@@ -240,7 +242,7 @@ QVariant ColumnValues::value(const QString &column) const
 }
 
 Result<QString> saveDocument(const shell::Session &session, const DocumentKind &kind,
-    const DocumentDraft &draft, const EntryRule &rule)
+    const DocumentDraft &draft, const EntryRule &rule, const EntryWrite &written)
 {
     Outcome outcome = requireKindRight(session, kind, kind.saveRight);
     if (outcome && !draft.number.isEmpty())
@@ -258,10 +260,10 @@ Result<QString> saveDocument(const shell::Session &session, const DocumentKind &
     QString number;
     outcome = core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());
-        const Outcome written = write(session, kind, doc, number);
-        if (written)
+        const Outcome saved = write(session, kind, doc, written, number);
+        if (saved)
             transaction.commit();
-        return written;
+        return saved;
     });
     if (!outcome)
         return outcome;

@@ -111,13 +111,20 @@ Result<ValidDocument> validateDraft(
 // refuse (telling why), ask the operator, change figures or add columns.
 using EntryRule = std::function<Outcome(const shell::Session &, ValidDocument &)>;
 
+// A kind's own writes, run inside the save's transaction after the header and lines are written
+// and before the log row, with the number the document was saved under (rows of other tables that
+// the save marks). It throws DbError to undo the whole save.
+using EntryWrite
+    = std::function<void(const shell::Session &, const ValidDocument &, const QString &number)>;
+
 // Saves a draft in one transaction and returns its number. A new document takes the next number of
 // its date; a change is refused once the document is checked (the status is read again inside the
 // transaction), keeps its number while the date keeps its day and takes a new one otherwise. The
 // header's due amount is the sum of the line totals less the discount; a discount other than 0
-// gets the discount line "00000000". Lines are written anew, in order; one log row.
+// gets the discount line "00000000". Lines are written anew, in order; then `written`, if any;
+// one log row.
 Result<QString> saveDocument(const shell::Session &session, const DocumentKind &kind,
-    const DocumentDraft &draft, const EntryRule &rule = {});
+    const DocumentDraft &draft, const EntryRule &rule = {}, const EntryWrite &written = {});
 
 // Deletes an unchecked document with its lines in one transaction (refused once checked); logs.
 Outcome deleteDocument(

@@ -21,6 +21,7 @@ int main(int argc, char *argv[])
     medistock::cli::addMasterDataCommands(registry);
     medistock::cli::addStockCommands(registry);
     medistock::cli::addPurchasingCommands(registry);
+    medistock::cli::addSalesCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();

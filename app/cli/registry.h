@@ -43,6 +43,7 @@ void addMasterDataCommands(Registry &registry);
 void addStockCommands(Registry &registry);
 // The purchase receipt "CJ" and return "CT" in the document registry.
 void addPurchasingCommands(Registry &registry);
+void addSalesCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

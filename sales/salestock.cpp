@@ -1,0 +1,313 @@
+#include "sales/salestock.h"
+
+#include "core/connection.h"
+#include "core/dberror.h"
+#include "core/transaction.h"
+#include "documents/descriptor.h"
+#include "documents/texts.h"
+#include "sales/options.h"
+#include "shell/session.h"
+#include "stock/ledger.h"
+#include "stock/stores.h"
+
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+namespace medistock::sales {
+
+namespace {
+
+// The header of a checked sale or return as its ledger rows need it.
+struct PostedHeader
+{
+    QString number;
+    QString date;
+    QString warehouse;
+    QString warehouseName;
+    QString customer;
+    QString customerName;
+    QString employeeName;
+    QString note;
+    QString sourceNumber;
+};
+
+// Where a sale and a return keep what their ledger rows copy.
+struct LineSource
+{
+    const char *header;
+    const char *lines;
+    const char *date;
+    const char *status;
+    const char *note;
+    const char *link; // the header's gl_djh2, or "''"
+    const char *flag; // gl_flag
+    const char *prefix; // column prefix of the line figures, "ls_" / "th_"
+    double sign; // +1 for a sale, -1 for a return
+};
+
+const LineSource saleSource { "jxc_lsxsd", "jxc_lsxssp", "ls_xsrq", "ls_status", "ls_note",
+    "a.gl_djh2", "xs", "ls_", 1 };
+const LineSource returnSource { "jxc_xsthd", "jxc_xsthsp", "th_xsrq", "th_status", "th_note", "''",
+    "xt", "th_", -1 };
+
+PostedHeader checkedHeader(
+    const shell::Session &session, const LineSource &s, const QString &number)
+{
+    const QSqlRecord row = session.db().firstRow(
+        QStringLiteral("select a.%1,a.ck_sn,(select ck_name from jxc_ckxx where ck_sn=a.ck_sn "
+                       "order by id limit 1),a.kh_sn,(select kh_name from jxc_khxx where "
+                       "kh_sn=a.kh_sn order by id limit 1),(select u_name from jxc_user where "
+                       "u_sn=a.u_sn order by id limit 1),a.%2,%3 from %4 a where a.gl_djh=? and "
+                       "a.%5=? order by a.id limit 1")
+            .arg(QLatin1String(s.date), QLatin1String(s.note), QLatin1String(s.link),
+                QLatin1String(s.header), QLatin1String(s.status)),
+        { number, 1 });
+    if (row.isEmpty())
+        throw core::DbError(documents::texts::notChecked(number));
+    return { number, row.value(0).toString(), row.value(1).toString(), row.value(2).toString(),
+        row.value(3).toString(), row.value(4).toString(), row.value(5).toString(),
+        row.value(6).toString(), row.value(7).toString() };
+}
+
+double perBase(double value, double factor)
+{
+    return factor > 0 ? value / factor : value;
+}
+
+stock::LedgerRow ledgerRowOf(const shell::Session &session, const LineSource &s,
+    const PostedHeader &header, const QSqlQuery &q)
+{
+    const auto number = [&](int index) { return q.value(index).toDouble(); };
+    const double factor = number(3);
+    const double baseQuantity = number(4);
+    stock::LedgerRow row;
+    row.kind = QString::fromLatin1(s.flag);
+    row.number = header.number;
+    row.date = header.date;
+    row.goods = q.value(0).toString();
+    row.price = perBase(number(1), factor);
+    row.unitQuantity = number(2);
+    row.quantity = s.sign * baseQuantity;
+    row.total = s.sign * number(5);
+    row.amount = s.sign * number(6);
+    row.tax = s.sign * number(7);
+    row.taxRate = number(8);
+    row.discountRate = number(9);
+    row.retailPrice = perBase(number(10), factor);
+    row.cost = perBase(number(11), factor);
+    row.totalCost = s.sign * number(12);
+    // The discount line has no cost: its profit is its (negative) amount.
+    row.profit = *row.totalCost == 0 ? row.amount : row.amount - *row.totalCost;
+    row.taxedPrice = baseQuantity > 0 ? number(5) / baseQuantity : 0;
+    row.operatorName = q.value(13).toString();
+    row.batch = q.value(14).toString();
+    row.expiry = q.value(15).toString();
+    row.produced = q.value(16).toString();
+    row.lineNote = q.value(17).toString();
+    row.lineId = q.value(18).toLongLong();
+    row.goodsName = q.value(19).toString();
+    row.mnemonic = q.value(20).toString();
+    row.unit = q.value(21).toString();
+    row.packing = q.value(22).toString();
+    row.approvalNumber = q.value(23).toString();
+    row.average = number(24);
+    row.doneFlag = 0;
+    row.employeeName = header.employeeName;
+    row.warehouse = header.warehouse;
+    row.warehouseName = header.warehouseName;
+    row.party = header.customer;
+    row.partyName = header.customerName;
+    row.checker = session.user().name;
+    row.checkDate = session.today();
+    row.note = header.note;
+    row.sourceNumber = header.sourceNumber;
+    return row;
+}
+
+// One ledger row per line, the discount line included, in line order. A sale's rows carry the
+// line's fixed identity id2, a return's the line's own id.
+void insertLedgerRows(const shell::Session &session, const LineSource &s, const PostedHeader &h)
+{
+    const QString p = QString::fromLatin1(s.prefix);
+    const QString sql = QStringLiteral(
+        "select b.g_sn,b.%1dj,b.%1sl,b.g_zhxs,b.%1zsl,b.%1zje,b.%1je,b.%1taxje,b.%1tax,"
+        "b.%1dzl,b.%1lsj,b.%1cbj,b.%1zcb,b.a_name,b.t_ph,b.t_yxq,b.t_scrq,b.%1bz,%2,c.g_name,"
+        "c.g_jm,c.dw_name,c.gg_name,c.color_name,c.g_pjjj from %3 b left join jxc_goods c on "
+        "c.g_sn=b.g_sn where b.gl_djh=? order by b.id")
+                            .arg(p, s.sign > 0 ? QStringLiteral("b.id2") : QStringLiteral("b.id"),
+                                QLatin1String(s.lines));
+    QList<stock::LedgerRow> rows;
+    session.db().forEach(
+        sql, { h.number }, [&](const QSqlQuery &q) { rows.append(ledgerRowOf(session, s, h, q)); });
+    for (const stock::LedgerRow &row : rows)
+        stock::insertLedgerRow(session, row);
+}
+
+// A goods row of the ledger with the quantity that left (sale) or came back (return) in base
+// units.
+struct PostedRow
+{
+    qint64 id = 0;
+    double moved = 0;
+    double cost = 0; // per base unit
+    stock::BatchKey batch;
+};
+
+QList<PostedRow> postedRows(const shell::Session &session, const QString &number, bool sale)
+{
+    // A sale moves what it issued: nothing for a line whose goods wait for an issue note.
+    const QString moved = sale ? QStringLiteral("(select case when coalesce(b.ls_cksl,0)=0 then 0 "
+                                                "else b.ls_zsl end from jxc_lsxssp b where "
+                                                "b.gl_djh=a.gl_djh and b.id2=a.id2 and "
+                                                "b.g_sn=a.g_sn order by b.id limit 1)")
+                               : QStringLiteral("-a.gl_sl");
+    QList<PostedRow> rows;
+    session.db().forEach(
+        QStringLiteral("select a.id,%1,a.gl_cbj,a.g_sn,a.ck_sn,a.t_ph,a.t_yxq,a.t_scrq from "
+                       "jxc_goodslist a where a.g_sn<>? and a.gl_djh=? order by a.id")
+            .arg(moved),
+        { documents::discountGoods(), number }, [&](const QSqlQuery &q) {
+            rows.append({ q.value(0).toLongLong(), q.value(1).toDouble(), q.value(2).toDouble(),
+                { q.value(3).toString(), q.value(4).toString(), q.value(5).toString(),
+                    q.value(6).toString(), q.value(7).toString() } });
+        });
+    return rows;
+}
+
+// `direction` -1 takes the quantity out of the warehouse (a sale, a return unchecked), +1 puts
+// it back; `count` is what the goods' sale count changes by.
+void moveStock(
+    const shell::Session &session, const PostedRow &row, double direction, int count, bool exclude)
+{
+    const QString &goods = row.batch.goods;
+    const double q = direction * row.moved;
+    stock::applyWarehouseStock(session, { goods, row.batch.warehouse, q, q, -q, row.cost });
+    stock::rerunLedger(session, row.id, exclude);
+    stock::applyGoodsTotals(session, goods, q, 0, count);
+    if (q > 0)
+        stock::addBatchStock(session, row.batch, q);
+    else
+        stock::subtractBatchStock(session, row.batch, -q);
+}
+
+void settle(const shell::Session &session, const QString &warehouse, const QString &date)
+{
+    stock::ensureSettlementRows(session, date);
+    stock::settleWarehouse(session, warehouse, date);
+}
+
+struct OrderLink
+{
+    qint64 orderLine = 0; // the order line's id2
+    double quantity = 0; // ls_sl of the sale line
+};
+
+QList<OrderLink> orderLinks(const shell::Session &session, const QString &number)
+{
+    QList<OrderLink> links;
+    session.db().forEach(QStringLiteral("select id3,ls_sl from jxc_lsxssp where gl_djh=? and "
+                                        "id3>0 order by id"),
+        { number }, [&](const QSqlQuery &q) {
+            links.append({ q.value(0).toLongLong(), q.value(1).toDouble() });
+        });
+    return links;
+}
+
+// An order line is delivered once sales have issued all of it.
+void deliverOrderLines(const shell::Session &session, const QString &number)
+{
+    for (const OrderLink &link : orderLinks(session, number)) {
+        session.db().exec(QStringLiteral("update jxc_xssp set ls_cksl=ls_cksl+? where id2=?"),
+            { link.quantity, link.orderLine });
+        session.db().exec(QStringLiteral("update jxc_xssp set ls_dhbz=? where id2=? and "
+                                         "ls_cksl>=ls_sl"),
+            { 1, link.orderLine });
+    }
+}
+
+void undeliverOrderLines(const shell::Session &session, const QString &number)
+{
+    for (const OrderLink &link : orderLinks(session, number)) {
+        session.db().exec(
+            QStringLiteral("update jxc_xssp set ls_cksl=ls_cksl-(?),ls_dhbz=? where id2=?"),
+            { link.quantity, 0, link.orderLine });
+        session.db().exec(
+            QStringLiteral("update jxc_xssp set ls_cksl=? where ls_cksl<=? and id2=?"),
+            { 0, 0, link.orderLine });
+    }
+}
+
+// A returned sales line counts what came back, in its own unit.
+void markReturnedLines(const shell::Session &session, const QString &number)
+{
+    session.db().exec(
+        QStringLiteral("update jxc_lsxssp set ls_qxsl=coalesce(ls_qxsl,0)+(select sum(b.th_zsl) "
+                       "from jxc_xsthsp b where b.gl_djh=? and b.id2=jxc_lsxssp.id2)/(case when "
+                       "g_zhxs>0 then g_zhxs else 1 end) where id2 in (select id2 from jxc_xsthsp "
+                       "where gl_djh=? and id2>0)"),
+        { number, number });
+}
+
+} // namespace
+
+int postSaleStock(const shell::Session &session, const QString &number)
+{
+    core::Connection &db = session.db();
+    core::Transaction transaction(db);
+    const PostedHeader header = checkedHeader(session, saleSource, number);
+    if (issuesThroughNotes(session.params()))
+        db.exec(QStringLiteral("update jxc_lsxssp set ls_cksl=? where gl_djh=?"), { 0, number });
+    else
+        db.exec(QStringLiteral("update jxc_lsxssp set ls_cksl=ls_sl where gl_djh=?"), { number });
+    db.exec(QStringLiteral("update jxc_lsxssp set id2=id,ls_qxsl=? where gl_djh=?"), { 0, number });
+    insertLedgerRows(session, saleSource, header);
+    db.exec(QStringLiteral("update jxc_goodslist set gl_lr=gl_je where g_sn=? and gl_djh=?"),
+        { documents::discountGoods(), number });
+    const QList<PostedRow> rows = postedRows(session, number, true);
+    for (const PostedRow &row : rows)
+        moveStock(session, row, -1, 1, false);
+    deliverOrderLines(session, number);
+    settle(session, header.warehouse, session.today());
+    transaction.commit();
+    return int(rows.size());
+}
+
+void reverseSaleStock(const shell::Session &session, const QString &number)
+{
+    core::Connection &db = session.db();
+    core::Transaction transaction(db);
+    const PostedHeader header = checkedHeader(session, saleSource, number);
+    for (const PostedRow &row : postedRows(session, number, true))
+        moveStock(session, row, 1, -1, true);
+    undeliverOrderLines(session, number);
+    db.exec(QStringLiteral("update jxc_lsxssp set ls_cksl=ls_sl,ls_qxsl=?,id2=? where gl_djh=?"),
+        { 0, 0, number });
+    settle(session, header.warehouse, header.date);
+    transaction.commit();
+}
+
+int postReturnStock(const shell::Session &session, const QString &number)
+{
+    core::Transaction transaction(session.db());
+    const PostedHeader header = checkedHeader(session, returnSource, number);
+    insertLedgerRows(session, returnSource, header);
+    const QList<PostedRow> rows = postedRows(session, number, false);
+    for (const PostedRow &row : rows)
+        moveStock(session, row, 1, 1, false);
+    markReturnedLines(session, number);
+    settle(session, header.warehouse, session.today());
+    transaction.commit();
+    return int(rows.size());
+}
+
+void reverseReturnStock(const shell::Session &session, const QString &number)
+{
+    core::Transaction transaction(session.db());
+    const PostedHeader header = checkedHeader(session, returnSource, number);
+    for (const PostedRow &row : postedRows(session, number, false))
+        moveStock(session, row, -1, -1, true);
+    settle(session, header.warehouse, header.date);
+    transaction.commit();
+}
+
+} // namespace medistock::sales
