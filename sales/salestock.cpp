@@ -175,14 +175,18 @@ QList<PostedRow> postedRows(const shell::Session &session, const QString &number
 }
 
 // `direction` -1 takes the quantity out of the warehouse (a sale, a return unchecked), +1 puts
-// it back; `count` is what the goods' sale count changes by.
+// it back; `count` is what the goods' sale count changes by. `exclude` withdraws the ledger row
+// (an uncheck) instead of running it.
 void moveStock(
     const shell::Session &session, const PostedRow &row, double direction, int count, bool exclude)
 {
     const QString &goods = row.batch.goods;
     const double q = direction * row.moved;
     stock::applyWarehouseStock(session, { goods, row.batch.warehouse, q, q, -q, row.cost });
-    stock::rerunLedger(session, row.id, exclude);
+    if (exclude)
+        stock::withdrawLedgerRow(session, row.id);
+    else
+        stock::rerunLedger(session, row.id, false);
     stock::applyGoodsTotals(session, goods, q, 0, count);
     if (q > 0)
         stock::addBatchStock(session, row.batch, q);

@@ -84,6 +84,27 @@ TEST_F(SaleUncheck, UncheckingAnEarlierSaleRecomputesTheLaterRunningFigures)
     EXPECT_EQ(test::differences(laterAlone, dumpWithoutSettlement()), QStringList {});
 }
 
+// Two lines of one goods from two batches: unchecking withdraws both ledger rows, and the later
+// sale's running figures come back to what they were without the earlier sale.
+TEST_F(SaleUncheck, TwoLinesOfOneGoodsAreWithdrawnWithoutCountingEachOther)
+{
+    const QString later = savedSale(QStringLiteral("2025-03-14"), 50);
+    sales::SaleDraft twoBatches = draft({ line(QStringLiteral("200001"), QStringLiteral("3"),
+                                              QStringLiteral("12"), QStringLiteral("B1")),
+        line(QStringLiteral("200001"), QStringLiteral("4"), QStringLiteral("12"),
+            QStringLiteral("B2")) });
+    twoBatches.entry.date = QStringLiteral("2025-03-10");
+    const QString earlier = saveSale(twoBatches);
+    ASSERT_TRUE(sales::checkSale(session(), later));
+    const QString laterAlone = dumpWithoutSettlement();
+    ASSERT_TRUE(sales::checkSale(session(), earlier));
+    EXPECT_EQ(rows(QStringLiteral("jxc_goodslist"), QStringLiteral("gl_kc"),
+                  QStringLiteral("gl_djh=? and g_sn='200001'"), { later }),
+        QStringList { "133" });
+    ASSERT_TRUE(sales::uncheckSale(session(), earlier));
+    EXPECT_EQ(test::differences(laterAlone, dumpWithoutSettlement()), QStringList {});
+}
+
 TEST_F(SaleUncheck, IsRefusedWhileUncheckedIssuedReturnedOrCheckedByAnother)
 {
     const QString number = savedSale(QStringLiteral("2025-03-14"), 100);
