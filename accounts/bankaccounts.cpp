@@ -3,6 +3,7 @@
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
 #include "accounts/texts.h"
+#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/numbering.h"
 #include "core/operation.h"
@@ -163,7 +164,7 @@ Outcome setOpeningAmount(shell::Session &session, const QString &name, double am
         writeOpeningMovement(session, name, amount);
         // From the first movement on: the opening may be dated after earlier business.
         recalculateCash(db, name, QString());
-        session.log(texts::openingSetLog(name, plainNumber(amount)));
+        session.log(texts::openingSetLog(name, core::plainNumber(amount)));
         transaction.commit();
         return Outcome::done();
     });

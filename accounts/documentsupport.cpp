@@ -4,6 +4,7 @@
 #include "core/connection.h"
 #include "core/numbering.h"
 #include "core/operation.h"
+#include "core/rounding.h"
 #include "core/textclean.h"
 #include "shell/session.h"
 
@@ -20,16 +21,6 @@ bool isDateText(const QString &text)
 QString cleanNote(const QString &note)
 {
     return core::cleanText(note, core::CleanStrength::Medium);
-}
-
-QString plainNumber(double value)
-{
-    QString text = QString::number(value, 'f', 8);
-    while (text.endsWith(QLatin1Char('0')))
-        text.chop(1);
-    if (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
 
 Result<QString> numberForDate(core::Connection &connection, const QString &table,

@@ -19,8 +19,6 @@ namespace medistock::accounts {
 bool isDateText(const QString &text);
 // A remark as it is stored: the medium text cleaning.
 QString cleanNote(const QString &note);
-// An amount as the log and the messages show it: no trailing zeros ("500", "12.5", "-0.3").
-QString plainNumber(double value);
 
 // The number a saved document keeps: `current` while it carries the date's stem, otherwise the
 // next number of `prefix` for `date`. Refused when the day has no number left.

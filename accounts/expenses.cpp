@@ -3,6 +3,7 @@
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
 #include "accounts/texts.h"
+#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/lookups.h"
 #include "core/numbering.h"
@@ -206,7 +207,7 @@ Outcome checkExpense(shell::Session &session, const QString &number)
         db.exec(QStringLiteral("update jxc_yyfy set fy_chk='1' where gl_djh=?"), { number });
         if (e->account != noAccountName())
             appendMovement(session, *e);
-        session.log(texts::expenseCheckedLog(e->kind, number, plainNumber(e->amount)));
+        session.log(texts::expenseCheckedLog(e->kind, number, core::plainNumber(e->amount)));
         transaction.commit();
         return Outcome::done();
     });
@@ -232,7 +233,7 @@ Outcome uncheckExpense(shell::Session &session, const QString &number)
         db.exec(QStringLiteral("update jxc_yyfy set fy_chk='0' where gl_djh=?"), { number });
         if (found->account != noAccountName())
             deleteCashRowsOf(db, number);
-        session.log(texts::expenseUncheckedLog(found->kind, number, plainNumber(found->amount)));
+        session.log(texts::expenseUncheckedLog(found->kind, number, core::plainNumber(found->amount)));
         transaction.commit();
         return Outcome::done();
     });

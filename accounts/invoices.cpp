@@ -3,6 +3,7 @@
 #include "accounts/documentsupport.h"
 #include "accounts/runningbalance.h"
 #include "accounts/texts.h"
+#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/lookups.h"
 #include "core/numbering.h"
@@ -165,7 +166,7 @@ Result<QString> addInvoicing(shell::Session &session, const InvoicingDraft &draf
                 invoiceDateOf(draft), salesmanOf(db, draft), session.user().name });
         recalculateInvoices(db, draft.kind, draft.party, draft.date);
         session.log(texts::invoicingAddedLog(
-            draft.kind, partyName(db, draft.kind, draft.party), plainNumber(draft.amount)));
+            draft.kind, partyName(db, draft.kind, draft.party), core::plainNumber(draft.amount)));
         transaction.commit();
         return Outcome::done();
     });
@@ -196,7 +197,7 @@ Outcome changeInvoicing(shell::Session &session, qint64 id, const InvoicingDraft
         if (draft.party != old->party)
             recalculateInvoices(db, draft.kind, draft.party, old->date);
         session.log(texts::invoicingChangedLog(
-            draft.kind, partyName(db, draft.kind, draft.party), plainNumber(draft.amount)));
+            draft.kind, partyName(db, draft.kind, draft.party), core::plainNumber(draft.amount)));
         transaction.commit();
         return Outcome::done();
     });
@@ -222,7 +223,7 @@ Outcome registerInvoice(
                 row->id });
         recalculateInvoices(db, row->kind, row->party, row->date);
         session.log(texts::invoiceRegisteredLog(
-            row->kind, partyName(db, row->kind, row->party), plainNumber(entry.amount)));
+            row->kind, partyName(db, row->kind, row->party), core::plainNumber(entry.amount)));
         transaction.commit();
         return Outcome::done();
     });

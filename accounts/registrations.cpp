@@ -4,6 +4,7 @@
 #include "accounts/documentsupport.h"
 #include "accounts/postings.h"
 #include "accounts/texts.h"
+#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/lookups.h"
 #include "core/numbering.h"
@@ -189,7 +190,7 @@ void appendCashRow(shell::Session &session, const Registration &r)
 
 QString loggedAmount(const Registration &r)
 {
-    return plainNumber(isCollection(r.kind) ? r.amount("k_sfje") : r.amount("k_yfje"));
+    return core::plainNumber(isCollection(r.kind) ? r.amount("k_sfje") : r.amount("k_yfje"));
 }
 
 Outcome post(shell::Session &session, const Registration &r)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cmath>
 
 namespace medistock::core {
@@ -18,6 +20,18 @@ inline int validDecimals(double places)
     if (places >= 0 && places <= 8 && places == std::floor(places))
         return int(places);
     return 2;
+}
+
+// A number as messages and logs show it: up to eight places, no trailing zeros ("500", "12.5",
+// "-0.3"); a negative zero shows as "0".
+inline QString plainNumber(double value)
+{
+    QString text = QString::number(value, 'f', 8);
+    while (text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
 
 } // namespace medistock::core

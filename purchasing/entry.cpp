@@ -7,6 +7,7 @@
 #include "core/operation.h"
 #include "core/rounding.h"
 #include "core/textclean.h"
+#include "documents/returnlimits.h"
 #include "purchasing/kinds.h"
 #include "purchasing/texts.h"
 #include "shell/session.h"
@@ -75,52 +76,9 @@ void setReceiptLineColumns(documents::ColumnValues &columns)
         columns.set(QStringLiteral("id3"), 0);
 }
 
-struct ReceiptLine
-{
-    QString receipt;
-    double quantity = 0; // jh_zsl
-    double returned = 0; // by the lines of other returns
-};
-
-std::optional<ReceiptLine> receiptLine(
-    core::Connection &db, qint64 id2, const QString &goods, const QString &returnNumber)
-{
-    const QSqlRecord row = db.firstRow(
-        QStringLiteral("select b.j_sn,b.jh_zsl from jxc_jhsp b,jxc_jhd a where b.id2=? and "
-                       "b.g_sn=? and a.j_sn=b.j_sn and a.j_status=? order by b.id limit 1"),
-        { id2, goods, 1 });
-    if (row.isEmpty())
-        return std::nullopt;
-    const double returned
-        = db.firstValue(QStringLiteral("select sum(th_zsl) from jxc_thsp where id2=? and g_sn=? "
-                                       "and gl_djh<>?"),
-                { id2, goods, returnNumber })
-              .toDouble();
-    return ReceiptLine { row.value(0).toString(), row.value(1).toDouble(), returned };
-}
-
-// Lines of this return against the same receipt line count together.
-Outcome checkReturnLines(const shell::Session &session, ValidDocument &doc)
-{
-    QHash<qint64, double> taken;
-    for (ValidLine &line : doc.lines) {
-        const qint64 id2 = line.columns.value(QStringLiteral("id2")).toLongLong();
-        line.columns.set(QStringLiteral("id2"), id2 > 0 ? id2 : 0);
-        if (id2 <= 0)
-            continue;
-        const auto source = receiptLine(session.db(), id2, line.goods, doc.number);
-        if (!source)
-            return core::refuse(session.ui(), texts::receiptLineMissing(line.row));
-        taken[id2] += line.figures.baseQuantity;
-        const double left = source->quantity - source->returned;
-        if (taken[id2] > left + 0.000000001)
-            return core::refuse(session.ui(),
-                texts::returnExceedsReceipt(line.row, source->receipt,
-                    accounts::plainNumber(
-                        core::roundTo(left, session.params().quantityDecimals()))));
-    }
-    return Outcome::done();
-}
+// A return line gives back what its receipt line still holds.
+const documents::ReturnedLines receiptLines { "jxc_jhd", "j_sn", "j_status", "jxc_jhsp", "j_sn",
+    "jh_zsl", "jxc_thsp", "th_zsl" };
 
 Result<QString> save(const shell::Session &session, const PurchaseKind &kind,
     const PurchaseDraft &draft, bool isReturn)
@@ -143,7 +101,8 @@ Result<QString> save(const shell::Session &session, const PurchaseKind &kind,
             setReceiptLineColumns(doc.discountColumns);
             return Outcome::done();
         }
-        return checkReturnLines(s, doc);
+        return documents::checkReturnedQuantities(
+            s, doc, receiptLines, { texts::receiptLineMissing, texts::returnExceedsReceipt });
     };
     return documents::saveDocument(session, kind.entry, draft.entry, rule);
 }

@@ -83,7 +83,7 @@ Outcome checkOrderLines(const shell::Session &session, ValidDocument &doc)
         taken[id3] += line.figures.quantity;
         if (taken[id3] > open->open + margin)
             return core::refuse(session.ui(),
-                texts::orderLineExceeded(line.row, open->order, accounts::plainNumber(open->open)));
+                texts::orderLineExceeded(line.row, open->order, core::plainNumber(open->open)));
     }
     return Outcome::done();
 }

@@ -94,7 +94,7 @@ Outcome confirmPrepayment(const shell::Session &session, const QString &customer
             decimals);
     if (core::roundTo(due - paid, decimals) <= prepayment)
         return Outcome::done();
-    const QString question = texts::prepaymentQuestion(accounts::plainNumber(prepayment));
+    const QString question = texts::prepaymentQuestion(core::plainNumber(prepayment));
     if (session.ui().ask(question))
         return Outcome::done();
     return Outcome::refused(question);

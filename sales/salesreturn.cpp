@@ -6,6 +6,7 @@
 #include "core/rounding.h"
 #include "core/transaction.h"
 #include "documents/lifecycle.h"
+#include "documents/returnlimits.h"
 #include "documents/texts.h"
 #include "sales/checksupport.h"
 #include "sales/entry.h"
@@ -31,55 +32,11 @@ namespace {
 using documents::ValidDocument;
 using documents::ValidLine;
 
-constexpr double margin = 0.000000001;
 const CostColumns returnCosts { "", "th_cbj", "th_zcb", "th_lsj" };
 
-struct SoldLine
-{
-    QString sale;
-    double quantity = 0; // ls_zsl
-    double returned = 0; // by the lines of other returns
-};
-
-std::optional<SoldLine> soldLine(
-    core::Connection &db, qint64 id2, const QString &goods, const QString &returnNumber)
-{
-    const QSqlRecord row = db.firstRow(
-        QStringLiteral("select b.gl_djh,b.ls_zsl from jxc_lsxssp b,jxc_lsxsd a where b.id2=? and "
-                       "b.g_sn=? and a.gl_djh=b.gl_djh and a.ls_status=? order by b.id limit 1"),
-        { id2, goods, 1 });
-    if (row.isEmpty())
-        return std::nullopt;
-    const double returned
-        = db.firstValue(QStringLiteral("select sum(th_zsl) from jxc_xsthsp where id2=? and g_sn=? "
-                                       "and gl_djh<>?"),
-                { id2, goods, returnNumber })
-              .toDouble();
-    return SoldLine { row.value(0).toString(), row.value(1).toDouble(), returned };
-}
-
-// Lines of this return against the same sales line count together.
-Outcome checkReturnedLines(const shell::Session &session, ValidDocument &doc)
-{
-    QHash<qint64, double> taken;
-    for (ValidLine &line : doc.lines) {
-        const qint64 id2 = line.columns.value(QStringLiteral("id2")).toLongLong();
-        line.columns.set(QStringLiteral("id2"), id2 > 0 ? id2 : 0);
-        if (id2 <= 0)
-            continue;
-        const auto sold = soldLine(session.db(), id2, line.goods, doc.number);
-        if (!sold)
-            return core::refuse(session.ui(), texts::saleLineMissing(line.row));
-        taken[id2] += line.figures.baseQuantity;
-        const double left = sold->quantity - sold->returned;
-        if (taken[id2] > left + margin)
-            return core::refuse(session.ui(),
-                texts::returnExceedsSale(line.row, sold->sale,
-                    accounts::plainNumber(
-                        core::roundTo(left, session.params().quantityDecimals()))));
-    }
-    return Outcome::done();
-}
+// A return line gives back what its sales line still holds.
+const documents::ReturnedLines soldLines { "jxc_lsxsd", "gl_djh", "ls_status", "jxc_lsxssp",
+    "gl_djh", "ls_zsl", "jxc_xsthsp", "th_zsl" };
 
 // The amounts due and refunded are stored negated, as the ledger's one formula reads them.
 void setReturnHeaderColumns(const shell::Session &session, const SaleHeader &h, ValidDocument &doc)
@@ -102,7 +59,8 @@ Outcome returnRule(const shell::Session &session, SaleHeader &header, ValidDocum
 {
     Outcome outcome = checkSaleHeader(session, header);
     if (outcome)
-        outcome = checkReturnedLines(session, doc);
+        outcome = documents::checkReturnedQuantities(
+            session, doc, soldLines, { texts::saleLineMissing, texts::returnExceedsSale });
     if (!outcome)
         return outcome;
     setReturnHeaderColumns(session, header, doc);

@@ -1,5 +1,7 @@
 #include "stock/texts.h"
 
+#include "core/rounding.h"
+
 namespace medistock::stock {
 
 namespace {
@@ -23,12 +25,6 @@ QString closingText(const QString &kind, bool negativeAllowed)
     return QStringLiteral("”：不能出库！");
 }
 
-// Whole numbers without a decimal point, others with the digits they have ("2", "2.5").
-QString plainNumber(double value)
-{
-    return QString::number(value, 'g', 15);
-}
-
 } // namespace
 
 QString batchShortageText(const QString &kind, const QString &goods, bool negativeAllowed)
@@ -42,7 +38,7 @@ QString batchShortageText(const QString &kind, const QString &goods, bool negati
 QString saleLimitText(const QString &goodsName, double limit)
 {
     return QStringLiteral("其中的药品“") + goodsName + QStringLiteral(" 每次最多销售数量为")
-        + plainNumber(limit) + QStringLiteral("”，") + twoBreaks
+        + core::plainNumber(limit) + QStringLiteral("”，") + twoBreaks
         + QStringLiteral("不能超过这个数量！");
 }
 

@@ -5,6 +5,7 @@
 #include "app/cli/registry.h"
 
 #include "accounts/documentsupport.h"
+#include "core/rounding.h"
 #include "core/operation.h"
 #include "sales/entry.h"
 #include "sales/fefo.h"
@@ -219,10 +220,10 @@ int runFefo(Context &context, Args &args)
     context.out() << QStringLiteral("产品批号\t有效期至\t生产日期\t库存数量\t出库数量") << Qt::endl;
     for (const BatchProposal &b : proposal.batches)
         context.out() << b.batch << '\t' << b.expiry << '\t' << b.produced << '\t'
-                      << accounts::plainNumber(b.stock) << '\t' << accounts::plainNumber(b.quantity)
+                      << core::plainNumber(b.stock) << '\t' << core::plainNumber(b.quantity)
                       << Qt::endl;
     if (proposal.shortfall > 0)
-        context.out() << QStringLiteral("库存不足：") << accounts::plainNumber(proposal.shortfall)
+        context.out() << QStringLiteral("库存不足：") << core::plainNumber(proposal.shortfall)
                       << Qt::endl;
     return ExitDone;
 }
