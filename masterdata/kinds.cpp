@@ -130,7 +130,7 @@ constexpr MasterKind kinds[] = {
         memberDates, {}, memberSearch, memberDefaults },
     { "unit", "单位", 1, "jxc_dw", "dw_sn", "dw_name", "单位名称", nullptr, nullptr, true, {},
         unitReferences, {} },
-    { "spec", "规格", 1, "jxc_ggxh", "gg_sn", "gg_name", "规格型号", nullptr, nullptr, true, {},
+    { "packsize", "规格", 1, "jxc_ggxh", "gg_sn", "gg_name", "规格型号", nullptr, nullptr, true, {},
         specReferences, {} },
     { "dosage", "药剂类型", 1, "jxc_yjlx", "lx_sn", "g_yjlx", "药剂类型", nullptr, nullptr, true,
         {}, dosageReferences, {} },

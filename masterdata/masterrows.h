@@ -27,7 +27,7 @@ QString keyColumn(const MasterKind &kind);
 
 // Checks and converts a row's values for writing, without writing: names of the table only;
 // numbers, whole numbers, flags and dates by the column's type; text within its width and cleaned
-// (medium strength: brackets, plus, minus and slash stay, as drug names and specifications need
+// (medium strength: brackets, plus, minus and slash stay, as drug names and pack sizes need
 // them); the name required and, in lists that ask for it, unique; the code unique; the mnemonic
 // filled from the name when it is not given. `existingKey` is empty for a new row, which also
 // takes the list's defaults for the columns not given.

@@ -34,7 +34,7 @@ QString Mnemonics::of(const QString &name) const
     const std::u32string characters = name.toStdU32String();
     int bracketDepth = 0;
     for (char32_t c : characters) {
-        // what stands in brackets is a specification, not part of the name people search by
+        // what stands in brackets is the pack size, not part of the name people search by
         if (c == U'(' || c == U'（' || c == U'[' || c == U'【') {
             ++bracketDepth;
             continue;

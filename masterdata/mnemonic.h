@@ -8,7 +8,7 @@ namespace medistock::masterdata {
 
 // The mnemonic code of a name: the upper-case pinyin initial of each Chinese character, with
 // Latin letters and digits kept as they are and everything else left out ("普通客户" -> "PTKH",
-// "维生素C片" -> "WSSCP"); what stands in brackets is the specification and is left out too. Built
+// "维生素C片" -> "WSSCP"); what stands in brackets is the pack size and is left out too. Built
 // on ICU's Han-to-Latin transliteration; a character with several readings takes the one ICU gives,
 // which is why the code stays editable.
 class Mnemonics

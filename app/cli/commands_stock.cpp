@@ -5,7 +5,7 @@
 #include "shell/session.h"
 #include "stock/checks.h"
 #include "stock/costs.h"
-#include "stock/inspection.h"
+#include "stock/stockview.h"
 #include "stock/texts.h"
 
 namespace medistock::cli {

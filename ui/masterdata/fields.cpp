@@ -28,7 +28,7 @@ struct Lookup
 
 constexpr Lookup lookups[] = {
     { "dw_name", "unit", "dw_name", "dw_name", nullptr, true },
-    { "gg_name", "spec", "gg_name", "gg_name", nullptr, true },
+    { "gg_name", "packsize", "gg_name", "gg_name", nullptr, true },
     { "g_yjlx", "dosage", "g_yjlx", "g_yjlx", nullptr, true },
     { "g_tym", "generic", "g_tym", "g_tym", nullptr, true },
     { "hj_name", "shelf", "hj_name", "hj_name", nullptr, true },

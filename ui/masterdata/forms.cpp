@@ -39,7 +39,7 @@ ListForm goodsForm()
             { mdtexts::stockPage, names({ "g_zdkc", "g_kc", "g_scjj" }), {} },
         },
         names({ "g_kc", "g_scjj" }),
-        names({ "unit", "spec", "dosage", "generic", "shelf", "gsp" }),
+        names({ "unit", "packsize", "dosage", "generic", "shelf", "gsp" }),
     };
 }
 

@@ -11,7 +11,7 @@ namespace medistock::ui {
 struct Workspace;
 class MasterListScreen;
 
-// One of the small lists (units, specifications, zones ...) in a window of its own, opened from
+// One of the small lists (units, pack sizes, zones ...) in a window of its own, opened from
 // the "基础资料" button of the screens whose rows draw on it. Esc closes it.
 class SmallListDialog : public QDialog
 {

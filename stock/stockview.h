@@ -14,8 +14,8 @@ class Session;
 
 namespace medistock::stock {
 
-// Reading the stores for inspection, and the two repairs (rerun and settle) as operations of
-// their own.
+// What the stock, ledger and cost commands show, and the two repairs (rerun and settle) as
+// operations of their own.
 
 struct GoodsTotals
 {

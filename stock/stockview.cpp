@@ -1,4 +1,4 @@
-#include "stock/inspection.h"
+#include "stock/stockview.h"
 
 #include "core/connection.h"
 #include "core/operation.h"
