@@ -7,12 +7,16 @@
 #include "core/transaction.h"
 #include "masterdata/texts.h"
 #include "shell/session.h"
+#include "shell/settings.h"
 
 #include <QSqlRecord>
 
 namespace medistock::masterdata {
 
 namespace {
+
+// "商品管理": the goods, their units, barcodes and prices, and the class tree.
+const int goodsRight = 1;
 
 const int classSequenceWidth = 4;
 
@@ -99,6 +103,9 @@ QList<GoodsUnit> goodsUnits(core::Connection &db, const QString &code)
 Result<qint64> addGoodsUnit(
     const shell::Session &session, const QString &code, const GoodsUnit &unit)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     core::Connection &db = session.db();
     qint64 id = 0;
     const Outcome outcome = core::guarded(session.ui(), [&]() -> Outcome {
@@ -137,6 +144,9 @@ Result<qint64> addGoodsUnit(
 
 Outcome removeGoodsUnit(const shell::Session &session, qint64 id)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     return core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());
         session.db().exec(QStringLiteral("delete from jxc_goodsdw where id=?"), { id });
@@ -159,6 +169,9 @@ QList<GoodsBarcode> goodsBarcodes(core::Connection &db, const QString &code)
 Result<qint64> addGoodsBarcode(
     const shell::Session &session, const QString &code, const GoodsBarcode &barcode)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     core::Connection &db = session.db();
     qint64 id = 0;
     const Outcome outcome = core::guarded(session.ui(), [&]() -> Outcome {
@@ -186,6 +199,9 @@ Result<qint64> addGoodsBarcode(
 
 Outcome removeGoodsBarcode(const shell::Session &session, qint64 id)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     return core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());
         session.db().exec(QStringLiteral("delete from jxc_goodstm where id=?"), { id });
@@ -207,6 +223,9 @@ QList<QPair<QString, double>> goodsPrices(core::Connection &db, const QString &c
 Outcome setGoodsPrice(
     const shell::Session &session, const QString &code, const QString &name, double price)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     core::Connection &db = session.db();
     return core::guarded(session.ui(), [&]() -> Outcome {
         const Outcome known = requireGoods(session, code);
@@ -230,6 +249,9 @@ Outcome setGoodsPrice(
 
 Outcome removeGoodsPrice(const shell::Session &session, const QString &code, const QString &name)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     return core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());
         session.db().exec(QStringLiteral("delete from jxc_goodsprice where g_sn=? and gp_name=?"),

@@ -9,6 +9,7 @@
 #include "masterdata/mnemonic.h"
 #include "masterdata/texts.h"
 #include "shell/session.h"
+#include "shell/settings.h"
 
 #include <QSqlRecord>
 
@@ -20,6 +21,9 @@
 namespace medistock::masterdata {
 
 namespace {
+
+// "商品管理": the goods, their units, barcodes and prices, and the class tree.
+const int goodsRight = 1;
 
 const int rootCid = 1;
 
@@ -91,6 +95,9 @@ QList<GoodsClass> goodsClasses(core::Connection &db)
 Result<int> addGoodsClass(
     const shell::Session &session, int parentCid, const QString &name, const QString &code)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     core::Connection &db = session.db();
     int cid = 0;
     const Outcome outcome = core::guarded(session.ui(), [&]() -> Outcome {
@@ -125,6 +132,9 @@ Result<int> addGoodsClass(
 
 Outcome renameGoodsClass(const shell::Session &session, int cid, const QString &name)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     core::Connection &db = session.db();
     return core::guarded(session.ui(), [&]() -> Outcome {
         const auto node = findClass(db, cid);
@@ -147,6 +157,9 @@ Outcome renameGoodsClass(const shell::Session &session, int cid, const QString &
 
 Outcome moveGoodsClass(const shell::Session &session, int cid, int newParentCid)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     core::Connection &db = session.db();
     return core::guarded(session.ui(), [&]() -> Outcome {
         const auto node = findClass(db, cid);
@@ -170,6 +183,9 @@ Outcome moveGoodsClass(const shell::Session &session, int cid, int newParentCid)
 
 Outcome deleteGoodsClass(const shell::Session &session, int cid)
 {
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
     core::Connection &db = session.db();
     return core::guarded(session.ui(), [&]() -> Outcome {
         const auto node = findClass(db, cid);

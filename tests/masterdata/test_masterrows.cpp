@@ -1,4 +1,6 @@
 #include "core/schemacatalogue.h"
+#include "masterdata/goods.h"
+#include "masterdata/goodsclass.h"
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "masterdata/mnemonic.h"
@@ -224,4 +226,12 @@ TEST_F(MasterRowsTest, ChangingAListNeedsItsRight)
                   { { QStringLiteral("g_name"), QStringLiteral("板蓝根") } })
                   .message(),
         QStringLiteral("您没有“商品管理”的权限！"));
+    // the goods' satellites and the class tree are the goods list's too
+    EXPECT_EQ(addGoodsClass(session(), 1, QStringLiteral("西药")).message(),
+        QStringLiteral("您没有“商品管理”的权限！"));
+    EXPECT_EQ(addGoodsBarcode(
+                  session(), QStringLiteral("00000000"), { 0, QStringLiteral("690"), QString() })
+                  .message(),
+        QStringLiteral("您没有“商品管理”的权限！"));
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_goodsclass")), 2);
 }
