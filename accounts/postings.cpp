@@ -4,6 +4,7 @@
 #include "accounts/invoices.h"
 #include "accounts/texts.h"
 #include "core/connection.h"
+#include "core/dberror.h"
 #include "shell/session.h"
 
 #include <QSqlQuery>
@@ -132,6 +133,15 @@ const MoneyColumns &purchaseReturnMoney()
     return c;
 }
 
+MoneyHeader requireMoneyHeader(
+    core::Connection &connection, const MoneyColumns &columns, const QString &number)
+{
+    const std::optional<MoneyHeader> header = readMoneyHeader(connection, columns, number);
+    if (!header)
+        throw core::DbError(texts::documentMissing(number));
+    return *header;
+}
+
 std::optional<MoneyHeader> readMoneyHeader(
     core::Connection &connection, const MoneyColumns &columns, const QString &number)
 {
@@ -255,6 +265,11 @@ void postDocumentMoney(
     postLedgerRow(session, columns, header);
     postInvoiceRow(session, columns, header);
     postFreightAndPacking(session, columns, header);
+}
+
+void postDocumentMoney(shell::Session &session, const MoneyColumns &columns, const QString &number)
+{
+    postDocumentMoney(session, columns, requireMoneyHeader(session.db(), columns, number));
 }
 
 // An empty number would match every row without one (the opening movements among them), and

@@ -76,6 +76,11 @@ struct MoneyHeader
 std::optional<MoneyHeader> readMoneyHeader(
     core::Connection &connection, const MoneyColumns &columns, const QString &number);
 
+// The header as a check posts it; a missing header is a database error (the check has read its
+// status just before, so it cannot be missing unless the file changed underneath).
+MoneyHeader requireMoneyHeader(
+    core::Connection &connection, const MoneyColumns &columns, const QString &number);
+
 // The steps a check posts, in this order, inside the caller's transaction:
 // 1. Cash row of the paid amount into the document's account, then that account's balances.
 void postCashRow(shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header);
@@ -109,6 +114,8 @@ void appendDocumentExpense(const shell::Session &session, const DocumentExpense 
 // Steps 1 to 4.
 void postDocumentMoney(
     shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header);
+// Steps 1 to 4 for the document's header as stored.
+void postDocumentMoney(shell::Session &session, const MoneyColumns &columns, const QString &number);
 
 // The removal on uncheck, in this order, each followed by its recalculation, inside the caller's
 // transaction:

@@ -37,6 +37,21 @@ Outcome requireGoods(const shell::Session &session, const QString &code)
     return core::refuse(session.ui(), texts::notFound(QStringLiteral("商品"), code));
 }
 
+// Deletes one satellite row of a goods (a unit, a barcode or a named price) under the goods right.
+Outcome deleteSatellite(
+    const shell::Session &session, const QString &sql, const QVariantList &params)
+{
+    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
+    if (!allowed)
+        return allowed;
+    return core::guarded(session.ui(), [&] {
+        core::Transaction transaction(session.db());
+        session.db().exec(sql, params);
+        transaction.commit();
+        return Outcome::done();
+    });
+}
+
 } // namespace
 
 QString goodsCodeFor(const shell::Session &session, const QString &classCode)
@@ -144,15 +159,7 @@ Result<qint64> addGoodsUnit(
 
 Outcome removeGoodsUnit(const shell::Session &session, qint64 id)
 {
-    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
-    if (!allowed)
-        return allowed;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        session.db().exec(QStringLiteral("delete from jxc_goodsdw where id=?"), { id });
-        transaction.commit();
-        return Outcome::done();
-    });
+    return deleteSatellite(session, QStringLiteral("delete from jxc_goodsdw where id=?"), { id });
 }
 
 QList<GoodsBarcode> goodsBarcodes(core::Connection &db, const QString &code)
@@ -199,15 +206,7 @@ Result<qint64> addGoodsBarcode(
 
 Outcome removeGoodsBarcode(const shell::Session &session, qint64 id)
 {
-    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
-    if (!allowed)
-        return allowed;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        session.db().exec(QStringLiteral("delete from jxc_goodstm where id=?"), { id });
-        transaction.commit();
-        return Outcome::done();
-    });
+    return deleteSatellite(session, QStringLiteral("delete from jxc_goodstm where id=?"), { id });
 }
 
 QList<QPair<QString, double>> goodsPrices(core::Connection &db, const QString &code)
@@ -249,16 +248,8 @@ Outcome setGoodsPrice(
 
 Outcome removeGoodsPrice(const shell::Session &session, const QString &code, const QString &name)
 {
-    const Outcome allowed = shell::requireRight(session, "qtcz", goodsRight);
-    if (!allowed)
-        return allowed;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        session.db().exec(QStringLiteral("delete from jxc_goodsprice where g_sn=? and gp_name=?"),
-            { code, name });
-        transaction.commit();
-        return Outcome::done();
-    });
+    return deleteSatellite(session,
+        QStringLiteral("delete from jxc_goodsprice where g_sn=? and gp_name=?"), { code, name });
 }
 
 } // namespace medistock::masterdata

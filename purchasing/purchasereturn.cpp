@@ -2,11 +2,9 @@
 
 #include "accounts/postings.h"
 #include "core/connection.h"
-#include "core/dberror.h"
 #include "core/operation.h"
 #include "core/transaction.h"
 #include "documents/lifecycle.h"
-#include "documents/texts.h"
 #include "purchasing/returnstock.h"
 #include "purchasing/texts.h"
 #include "shell/session.h"
@@ -17,15 +15,6 @@
 namespace medistock::purchasing {
 
 namespace {
-
-void postMoney(shell::Session &session, const QString &number)
-{
-    const auto header
-        = accounts::readMoneyHeader(session.db(), accounts::purchaseReturnMoney(), number);
-    if (!header)
-        throw core::DbError(documents::texts::documentMissing(number));
-    accounts::postDocumentMoney(session, accounts::purchaseReturnMoney(), *header);
-}
 
 // The receipts whose lines the return went back against, read before the links are cleared.
 QStringList sourceReceipts(shell::Session &session, const QString &number)
@@ -86,7 +75,7 @@ Outcome checkPurchaseReturn(shell::Session &session, const QString &number, cons
         if (!unchecked)
             return unchecked;
         markChecked(session, kind, header, values);
-        postMoney(session, number);
+        accounts::postDocumentMoney(session, accounts::purchaseReturnMoney(), number);
         postPurchaseReturnStock(session, number);
         removeUncheckedCopies(session, kind, number);
         transaction.commit();

@@ -2,12 +2,10 @@
 
 #include "accounts/postings.h"
 #include "core/connection.h"
-#include "core/dberror.h"
 #include "core/operation.h"
 #include "core/transaction.h"
 #include "documents/entry.h"
 #include "documents/lifecycle.h"
-#include "documents/texts.h"
 #include "purchasing/texts.h"
 #include "shell/session.h"
 #include "stock/checks.h"
@@ -16,15 +14,6 @@
 namespace medistock::purchasing {
 
 namespace {
-
-void postMoney(shell::Session &session, const QString &number)
-{
-    const auto header
-        = accounts::readMoneyHeader(session.db(), accounts::purchaseReceiptMoney(), number);
-    if (!header)
-        throw core::DbError(documents::texts::documentMissing(number));
-    accounts::postDocumentMoney(session, accounts::purchaseReceiptMoney(), *header);
-}
 
 // A receiving note that took goods in from the receipt must be deleted first.
 QString receivingNoteRefusal(shell::Session &session, const QString &number)
@@ -61,7 +50,7 @@ Outcome checkPurchaseReceipt(
         markChecked(session, kind, header, values);
         if (header.discount != 0)
             documents::writeDiscountLine(session, kind.entry, number, header.discount);
-        postMoney(session, number);
+        accounts::postDocumentMoney(session, accounts::purchaseReceiptMoney(), number);
         stock::postPurchaseReceiptStock(session, number);
         removeUncheckedCopies(session, kind, number);
         transaction.commit();

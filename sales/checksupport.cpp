@@ -1,7 +1,6 @@
 #include "sales/checksupport.h"
 
 #include "core/connection.h"
-#include "core/dberror.h"
 #include "core/operation.h"
 #include "documents/entry.h"
 #include "documents/lifecycle.h"
@@ -126,12 +125,10 @@ void removeUncheckedCopies(
 void postMoney(
     shell::Session &session, const CheckKind &kind, const QString &number, double writtenOff)
 {
-    auto header = accounts::readMoneyHeader(session.db(), kind.money, number);
-    if (!header)
-        throw core::DbError(documents::texts::documentMissing(number));
-    header->discount = writtenOff;
-    header->due -= writtenOff;
-    accounts::postDocumentMoney(session, kind.money, *header);
+    accounts::MoneyHeader header = accounts::requireMoneyHeader(session.db(), kind.money, number);
+    header.discount = writtenOff;
+    header.due -= writtenOff;
+    accounts::postDocumentMoney(session, kind.money, header);
 }
 
 void deletePosRows(const shell::Session &session, const QString &number)
