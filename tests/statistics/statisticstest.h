@@ -1,0 +1,45 @@
+#pragma once
+
+#include "documents/entry.h"
+#include "tests/support/accountset.h"
+
+namespace medistock::test {
+
+// Goods "200001" 阿莫西林胶囊 (盒, class "1001" 西药) and "200002" 板蓝根颗粒 (袋, class "100101"
+// 中成药, under 西药), "200003" 维生素C片 (瓶, class "1002" 保健品) without business; the supplier
+// "100002" 华东医药, the customers "100002" 华康药店 and "100003" 仁和诊所, the employees "100002"
+// 小周 (5% of the sales amount) and "100003" 小李 (10% of the profit above 1 per unit), and the
+// warehouse "100002" 分店仓库. Documents are saved and checked through their own modules, every
+// question answered yes; negative stock is allowed.
+class StatisticsTest : public SessionTest
+{
+public:
+    struct Line
+    {
+        QString goods;
+        QString quantity;
+        QString price;
+    };
+
+protected:
+    void SetUp() override;
+
+    // Checked documents into or out of warehouse 100001 (unless one is given), returning the
+    // number. A sale goes to customer 100002 by employee 100002 unless told otherwise.
+    QString receipt(const QString &date, const QList<Line> &lines);
+    QString purchaseReturn(const QString &date, const QList<Line> &lines);
+    QString sale(const QString &date, const QList<Line> &lines,
+        const QString &customer = QStringLiteral("100002"),
+        const QString &employee = QStringLiteral("100002"));
+    QString salesReturn(const QString &date, const QList<Line> &lines);
+    QString loss(const QString &date, const QList<Line> &lines);
+    QString overflow(const QString &date, const QList<Line> &lines);
+    QString transfer(const QString &date, const QList<Line> &lines, const QString &to);
+
+    // Rows of a select as "a|b|c".
+    QStringList rows(const QString &sql, const QVariantList &params = {});
+    // Everything except the log and the id counters.
+    QString snapshot();
+};
+
+} // namespace medistock::test
