@@ -25,6 +25,11 @@ QList<documents::LineDraft> drafts(const QList<StatisticsTest::Line> &lines)
         d.goods = line.goods;
         d.quantity = line.quantity;
         d.price = line.price;
+        d.batch = line.batch;
+        if (!line.batch.isEmpty()) {
+            d.produced = QStringLiteral("2024-12-01");
+            d.expiry = QStringLiteral("2027-11-30");
+        }
         result.append(d);
     }
     return result;

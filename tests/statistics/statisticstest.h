@@ -14,11 +14,14 @@ namespace medistock::test {
 class StatisticsTest : public SessionTest
 {
 public:
+    // A line; with a batch number it also carries the production date 2024-12-01 and the
+    // expiry 2027-11-30.
     struct Line
     {
         QString goods;
         QString quantity;
         QString price;
+        QString batch {};
     };
 
 protected:
