@@ -174,8 +174,8 @@ void syncPair(const shell::Session &session, const Pair &pair, const DateRange &
 {
     qint64 rerunFrom = 0;
     for (const WalkedRow &row : rowsOf(session, pair, range)) {
-        const double cost = stock::costAtLedgerPosition(
-            session, pair.goods, pair.warehouse, row.date, row.id);
+        const double cost
+            = stock::costAtLedgerPosition(session, pair.goods, pair.warehouse, row.date, row.id);
         bool amountChanged = false;
         if (rewriteLedgerRow(session, row, cost, amountChanged))
             ++summary.rowsChanged;

@@ -36,7 +36,7 @@ struct CostSyncSummary
 
 // Asks first, then rewrites in one transaction; right "进销存统计" (tjgl 13). `progress` counts
 // goods and warehouses; a cancel rolls everything back. A "No" is refused with an empty message.
-Result<CostSyncSummary> syncOutwardCosts(const shell::Session &session, const DateRange &range,
-    const Progress &progress = {});
+Result<CostSyncSummary> syncOutwardCosts(
+    const shell::Session &session, const DateRange &range, const Progress &progress = {});
 
 } // namespace medistock::statistics

@@ -81,8 +81,8 @@ QString headerSelect(const DocumentKind &kind)
 DocumentRow documentRow(const DocumentKind &kind, const QSqlQuery &q)
 {
     return { QLatin1String(kind.prefix), QString::fromUtf8(kind.title), q.value(0).toString(),
-        q.value(1).toString(), q.value(2).toString(), q.value(3).toString(),
-        q.value(4).toString(), q.value(5).toString(), q.value(6).toDouble(), q.value(7).toInt() };
+        q.value(1).toString(), q.value(2).toString(), q.value(3).toString(), q.value(4).toString(),
+        q.value(5).toString(), q.value(6).toDouble(), q.value(7).toInt() };
 }
 
 // The search of one kind; nothing when the kind cannot match (a party asked of a stock document).
@@ -133,8 +133,8 @@ QList<DocumentLine> linesOf(
 {
     const documents::LineColumns &l = kind.lines;
     const QString alias = QStringLiteral("l");
-    const QString unit = *l.unit ? QStringLiteral("l.") + QLatin1String(l.unit)
-                                 : QStringLiteral("b.dw_name");
+    const QString unit
+        = *l.unit ? QStringLiteral("l.") + QLatin1String(l.unit) : QStringLiteral("b.dw_name");
     const Sql sql { QStringLiteral("select l.%1,b.g_name,%2,%3,%4,%5,%6,%7 from %8 l left join "
                                    "jxc_goods b on b.g_sn=l.%1 where l.%9=? and l.%1<>? "
                                    "order by l.id")
@@ -164,8 +164,8 @@ Result<QList<DocumentRow>> searchDocuments(
     const shell::Session &session, const DocumentSearch &search)
 {
     const bool ranged = !search.range.from.isEmpty() || !search.range.to.isEmpty();
-    return readReport<QList<DocumentRow>>(
-        session, 11, ranged ? &search.range : nullptr, [&] { return findDocuments(session, search); });
+    return readReport<QList<DocumentRow>>(session, 11, ranged ? &search.range : nullptr,
+        [&] { return findDocuments(session, search); });
 }
 
 Result<DocumentView> documentView(const shell::Session &session, const QString &number)

@@ -23,14 +23,15 @@ const QString insertColumns = QStringLiteral(
     "hz_glkczje,a_name) ");
 
 // Step 2 and 4: the running columns of those rows into the opening or the closing columns.
-void insertStock(const shell::Session &session, const QString &operatorName, const Sql &ids,
-    bool closing)
+void insertStock(
+    const shell::Session &session, const QString &operatorName, const Sql &ids, bool closing)
 {
     const QString columns = closing
         ? QStringLiteral("0,0,0,0,0,0,coalesce(x.gl_kc,0),coalesce(x.gl_kczje,0)")
         : QStringLiteral("coalesce(x.gl_kc,0),coalesce(x.gl_kczje,0),0,0,0,0,0,0");
     Sql sql { insertColumns
-            + QStringLiteral("select x.g_sn,%1,? from jxc_goodslist x where x.id in (").arg(columns),
+            + QStringLiteral("select x.g_sn,%1,? from jxc_goodslist x where x.id in (")
+                  .arg(columns),
         { operatorName } };
     sql += ids;
     sql.text += QLatin1Char(')');
@@ -70,8 +71,7 @@ Outcome build(const shell::Session &session, const JxcRequest &request, const Pr
 {
     const QString operatorName = session.user().name;
     core::Transaction transaction(session.db());
-    session.db().exec(
-        QStringLiteral("delete from jxc_jxchz where a_name=?"), { operatorName });
+    session.db().exec(QStringLiteral("delete from jxc_jxchz where a_name=?"), { operatorName });
     insertStock(session, operatorName,
         lastLedgerRowIds(request.range.from, false, request.warehouse), false);
     if (!goOn(progress, 1, steps))
@@ -105,8 +105,8 @@ JxcRow jxcRow(const shell::Session &session, const QSqlQuery &q)
     row.unit = q.value(10).toString();
     row.packing = q.value(11).toString();
     row.className = q.value(12).toString();
-    row.difference = p.roundAmount(
-        row.openingAmount + row.inAmount - row.outAmount - row.closingAmount);
+    row.difference
+        = p.roundAmount(row.openingAmount + row.inAmount - row.outAmount - row.closingAmount);
     return row;
 }
 
@@ -144,8 +144,8 @@ QList<JxcRow> jxcRows(const shell::Session &session, const JxcFilter &filter)
     }
     sql.text += QStringLiteral(" order by k.g_sn");
     QList<JxcRow> rows;
-    session.db().forEach(sql.text, sql.params,
-        [&](const QSqlQuery &q) { rows.append(jxcRow(session, q)); });
+    session.db().forEach(
+        sql.text, sql.params, [&](const QSqlQuery &q) { rows.append(jxcRow(session, q)); });
     return rows;
 }
 

@@ -37,8 +37,8 @@ const QList<KindRule> &rules()
         { { "cj" }, Sign::Any, G::Purchase, "a.gl_dj", "a.gl_sl", "a.gl_je" },
         { { "xs" }, Sign::NotNegative, G::Sale, "a.gl_dj", "a.gl_sl", "a.gl_je", "a.gl_cbj",
             "a.gl_zcb" },
-        { { "xs", "xt" }, Sign::Any, G::SalesReturn, "a.gl_dj", "-a.gl_sl", "-a.gl_je",
-            "a.gl_cbj", "abs(a.gl_zcb)" },
+        { { "xs", "xt" }, Sign::Any, G::SalesReturn, "a.gl_dj", "-a.gl_sl", "-a.gl_je", "a.gl_cbj",
+            "abs(a.gl_zcb)" },
         { { "ct" }, Sign::Any, G::PurchaseReturn, "a.gl_dj", "-a.gl_sl", "-a.gl_je" },
         { { "qc", "by", "hh", "sc", "jg", "ws", "bh", "bf" }, Sign::Any, G::OtherIn, "a.gl_dj",
             "a.gl_sl", "a.gl_je" },
@@ -88,8 +88,8 @@ Sql movementFigure(
 {
     Sql sql { QStringLiteral("(case"), {} };
     for (const KindRule &rule : rules()) {
-        const bool wanted = isInward(rule.group) == inward
-            && (groups.isEmpty() || groups.contains(rule.group));
+        const bool wanted
+            = isInward(rule.group) == inward && (groups.isEmpty() || groups.contains(rule.group));
         sql.text += QStringLiteral(" when ");
         sql += condition(rule);
         sql.text += QStringLiteral(" then ")

@@ -37,8 +37,8 @@ Result<QList<PeriodMovementRow>> movementByPeriod(
 {
     const shell::Parameters &p = session.params();
     return readReport<QList<PeriodMovementRow>>(session, inward ? 1 : 4, &filter.range, [&] {
-        QList<PeriodMovementRow> rows = selectRows<PeriodMovementRow>(session,
-            periodMovementSelect(filter, unit, inward), [&](const QSqlQuery &q) {
+        QList<PeriodMovementRow> rows = selectRows<PeriodMovementRow>(
+            session, periodMovementSelect(filter, unit, inward), [&](const QSqlQuery &q) {
                 PeriodMovementRow row;
                 row.period = q.value(0).toString();
                 for (int g = 0; g < 3; ++g) {
@@ -84,7 +84,7 @@ Sql purchaseSelect(const ReportFilter &filter, PurchaseGrouping grouping)
                              "sum(case when a.gl_flag=? then a.gl_zje else 0 end),"
                              "sum(case when a.gl_flag=? then -a.gl_sl else 0 end),"
                              "sum(case when a.gl_flag=? then -a.gl_zje else 0 end)")
-                      .arg(group.select())
+                  .arg(group.select())
             + ledgerWithGoods() + QStringLiteral(" where "),
         { receipt, receipt, back, back } };
     sql += kindIn(QStringLiteral("a.gl_flag"), { receipt, back });

@@ -13,8 +13,7 @@ namespace medistock::statistics {
 // What every report does around its select: the right of its operation (tjgl position), a valid
 // range when it takes one, and a database error told and returned instead of thrown.
 template<class T, class Body>
-Result<T> readReport(
-    const shell::Session &session, int right, const DateRange *range, Body &&body)
+Result<T> readReport(const shell::Session &session, int right, const DateRange *range, Body &&body)
 {
     const Outcome allowed = shell::requireRight(session, "tjgl", right);
     if (!allowed)
@@ -39,8 +38,7 @@ template<class Row, class Make>
 QList<Row> selectRows(const shell::Session &session, const Sql &sql, Make &&make)
 {
     QList<Row> rows;
-    session.db().forEach(
-        sql.text, sql.params, [&](const QSqlQuery &q) { rows.append(make(q)); });
+    session.db().forEach(sql.text, sql.params, [&](const QSqlQuery &q) { rows.append(make(q)); });
     return rows;
 }
 
@@ -71,8 +69,10 @@ struct GroupColumns
     QString packing = QStringLiteral("null");
     QString unit = QStringLiteral("null");
 
-    QString select() const { return key + QLatin1Char(',') + name + QLatin1Char(',') + packing
-            + QLatin1Char(',') + unit; }
+    QString select() const
+    {
+        return key + QLatin1Char(',') + name + QLatin1Char(',') + packing + QLatin1Char(',') + unit;
+    }
 };
 
 inline GroupColumns byGoods()

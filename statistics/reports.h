@@ -46,7 +46,8 @@ namespace medistock::statistics {
 //   is the profit above u_zdlr per base unit, sum((gl_dj - gl_cbj - u_zdlr) x gl_sl) over the rows
 //   where gl_dj - gl_cbj > u_zdlr, or the whole profit when u_zdlr is 0. Commissions are rounded to
 //   the amount places.
-// - 商品销售排行 (10): goods ranked by sales quantity, amount, profit or profit rate, highest first,
+// - 商品销售排行 (10): goods ranked by sales quantity, amount, profit or profit rate, highest
+// first,
 //   ties by goods code; the first N (all when N is 0).
 // - 营业分析 (9): per day or month, sales documents, amount, cost, profit and rate.
 // - 库存成本统计 (8): stock as the ledger holds it at the end of a date, per goods, class or
@@ -119,8 +120,8 @@ Result<QList<SalesRow>> businessByPeriod(
     const shell::Session &session, const ReportFilter &filter, PeriodUnit unit);
 
 enum class RankMeasure { Quantity, Amount, Profit, Rate };
-Result<QList<SalesRow>> salesRanking(const shell::Session &session, const ReportFilter &filter,
-    RankMeasure measure, int top);
+Result<QList<SalesRow>> salesRanking(
+    const shell::Session &session, const ReportFilter &filter, RankMeasure measure, int top);
 
 struct SalesmanRow
 {
@@ -226,6 +227,7 @@ struct BatchStockRow
     QString goods;
     QString name;
     QString warehouse;
+    QString warehouseName;
     QString batch;
     QString expiry;
     QString produced;

@@ -16,7 +16,7 @@ Sql salesSelect(const ReportFilter &filter, const GroupColumns &group, bool with
 {
     Sql sql { QStringLiteral("select %1,count(distinct a.gl_djh),sum(a.gl_sl),sum(a.gl_zje),"
                              "sum(a.gl_zcb),sum(a.gl_lr)")
-                      .arg(group.select())
+                  .arg(group.select())
             + ledgerWithGoods() + QStringLiteral(" where "),
         {} };
     sql += kindIn(QStringLiteral("a.gl_flag"), salesKinds);
@@ -126,8 +126,8 @@ SalesmanRow salesmanRow(const shell::Parameters &p, const QSqlQuery &q)
 Result<QList<SalesRow>> salesBy(
     const shell::Session &session, const ReportFilter &filter, SalesGrouping grouping)
 {
-    return readReport<QList<SalesRow>>(
-        session, 5, &filter.range, [&] { return salesRows(session, filter, salesGroup(grouping)); });
+    return readReport<QList<SalesRow>>(session, 5, &filter.range,
+        [&] { return salesRows(session, filter, salesGroup(grouping)); });
 }
 
 Result<QList<SalesRow>> goodsSalesByPeriod(
@@ -135,17 +135,15 @@ Result<QList<SalesRow>> goodsSalesByPeriod(
 {
     if (filter.goods.isEmpty())
         return core::refuse(session.ui(), texts::goodsRequired());
-    return readReport<QList<SalesRow>>(session, 5, &filter.range, [&] {
-        return salesRows(session, filter, byPeriod(unit == PeriodUnit::Month));
-    });
+    return readReport<QList<SalesRow>>(session, 5, &filter.range,
+        [&] { return salesRows(session, filter, byPeriod(unit == PeriodUnit::Month)); });
 }
 
 Result<QList<SalesRow>> businessByPeriod(
     const shell::Session &session, const ReportFilter &filter, PeriodUnit unit)
 {
-    return readReport<QList<SalesRow>>(session, 9, &filter.range, [&] {
-        return salesRows(session, filter, byPeriod(unit == PeriodUnit::Month));
-    });
+    return readReport<QList<SalesRow>>(session, 9, &filter.range,
+        [&] { return salesRows(session, filter, byPeriod(unit == PeriodUnit::Month)); });
 }
 
 Result<QList<SalesRow>> salesRanking(

@@ -97,11 +97,10 @@ Result<QList<StockCostRow>> stockCostAsOf(const shell::Session &session, const Q
 {
     const DateRange day { date, date };
     return readReport<QList<StockCostRow>>(session, 8, &day, [&] {
-        QList<StockCostRow> rows = selectRows<StockCostRow>(session,
-            stockCostSelect(date, filter, grouping),
-            [&](const QSqlQuery &q) { return stockCostRow(session.params(), q); });
-        rows.removeIf(
-            [](const StockCostRow &row) { return row.quantity == 0 && row.amount == 0; });
+        QList<StockCostRow> rows
+            = selectRows<StockCostRow>(session, stockCostSelect(date, filter, grouping),
+                [&](const QSqlQuery &q) { return stockCostRow(session.params(), q); });
+        rows.removeIf([](const StockCostRow &row) { return row.quantity == 0 && row.amount == 0; });
         return rows;
     });
 }

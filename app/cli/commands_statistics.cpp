@@ -66,8 +66,8 @@ T choiceOf(Context &context, Args &args, const QString &option,
     for (const auto &[name, value] : choices)
         if (name == *text)
             return value;
-    throw Stop { context.usageError(QStringLiteral("无法识别的选项值：") + option + QLatin1Char(' ')
-        + *text) };
+    throw Stop { context.usageError(
+        QStringLiteral("无法识别的选项值：") + option + QLatin1Char(' ') + *text) };
 }
 
 void printJxc(Context &context, const QList<JxcRow> &rows)
@@ -91,8 +91,8 @@ JxcFilter buildJxc(Context &context, Args &args)
     const ReportFilter filter = filterOf(context, args, true);
     requireNoMore(context, args);
     shell::Session &session = context.session();
-    require(buildJxcSummary(session,
-        { filter.range, filter.warehouse, atPrice ? Valuation::Price : Valuation::Cost }));
+    require(buildJxcSummary(
+        session, { filter.range, filter.warehouse, atPrice ? Valuation::Price : Valuation::Cost }));
     return { filter.classCode, filter.keyword };
 }
 
@@ -106,7 +106,8 @@ int runJxc(Context &context, Args &args)
 int runDiff(Context &context, Args &args)
 {
     const JxcFilter filter = buildJxc(context, args);
-    printRow(context, { QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("差额") });
+    printRow(context,
+        { QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("差额") });
     for (const JxcRow &r : jxcDifferences(context.session(), filter))
         printRow(context, { r.goods, r.name, num(r.difference) });
     return ExitDone;
@@ -179,7 +180,8 @@ int runRanking(Context &context, Args &args)
 int runBusiness(Context &context, Args &args)
 {
     const PeriodUnit unit = choiceOf<PeriodUnit>(context, args, QStringLiteral("--by"),
-        { { QStringLiteral("month"), PeriodUnit::Month }, { QStringLiteral("day"), PeriodUnit::Day } });
+        { { QStringLiteral("month"), PeriodUnit::Month },
+            { QStringLiteral("day"), PeriodUnit::Day } });
     const ReportFilter filter = filterOf(context, args, true);
     requireNoMore(context, args);
     printSales(context, valueOf(businessByPeriod(context.session(), filter, unit)));
@@ -237,12 +239,13 @@ int runPeriods(Context &context, Args &args, PeriodUnit unit)
     const ReportFilter filter = filterOf(context, args, true);
     requireNoMore(context, args);
     shell::Session &session = context.session();
-    const QList<PeriodMovementRow> rows = valueOf(outward
-            ? outwardByPeriod(session, filter, unit)
-            : inwardByPeriod(session, filter, unit));
+    const QList<PeriodMovementRow> rows = valueOf(
+        outward ? outwardByPeriod(session, filter, unit) : inwardByPeriod(session, filter, unit));
     const QStringList groups = outward
-        ? QStringList { QStringLiteral("销售出库"), QStringLiteral("采购退货"), QStringLiteral("其他出库") }
-        : QStringList { QStringLiteral("采购入库"), QStringLiteral("销售退货"), QStringLiteral("其他入库") };
+        ? QStringList { QStringLiteral("销售出库"), QStringLiteral("采购退货"),
+              QStringLiteral("其他出库") }
+        : QStringList { QStringLiteral("采购入库"), QStringLiteral("销售退货"),
+              QStringLiteral("其他入库") };
     QStringList header { QStringLiteral("日期") };
     for (const QString &group : groups)
         header << group + QStringLiteral("数量") << group + QStringLiteral("金额");
@@ -287,9 +290,8 @@ void printStockValues(Context &context, const QList<StockValueRow> &rows)
             QStringLiteral("零售金额") });
     for (const StockValueRow &r : rows)
         printRow(context,
-            { r.goods, r.name, r.packing, r.unit, r.className, num(r.quantity),
-                num(r.costAmount), num(r.purchaseAmount), num(r.saleAmount),
-                num(r.retailAmount) });
+            { r.goods, r.name, r.packing, r.unit, r.className, num(r.quantity), num(r.costAmount),
+                num(r.purchaseAmount), num(r.saleAmount), num(r.retailAmount) });
 }
 
 int runStockCost(Context &context, Args &args)
@@ -321,7 +323,8 @@ int runStats(Context &context, Args &args)
         { QStringLiteral("ranking"), runRanking }, { QStringLiteral("purchases"), runPurchases },
         { QStringLiteral("salesmen"), runSalesmen }, { QStringLiteral("daily"), runDaily },
         { QStringLiteral("monthly"), runMonthly }, { QStringLiteral("stockcost"), runStockCost },
-        { QStringLiteral("business"), runBusiness } };
+        { QStringLiteral("business"), runBusiness }
+    };
     // The report's name comes first; its options follow.
     const QStringList arguments = args.positional();
     if (arguments.isEmpty())

@@ -13,6 +13,7 @@
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/shell/registration.h"
+#include "ui/statistics/registration.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -40,6 +41,7 @@ void registerScreens(ui::ScreenRegistry &registry)
 {
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerStatisticsScreens(registry);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 // program can be seen without a display. Runs on the offscreen platform unless another one is
 // chosen.
 #include "app/screenshots/masterdata.h"
+#include "app/screenshots/statistics.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -26,6 +27,7 @@
 #include "ui/shell/registration.h"
 #include "ui/shell/roleeditor.h"
 #include "ui/shell/settingsscreen.h"
+#include "ui/statistics/registration.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -230,6 +232,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::ScreenRegistry registry;
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerStatisticsScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -251,8 +254,9 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shooter.shoot(&company, QStringLiteral("11-company"));
     company.hide();
 
-    shootMasterData([&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); },
-        window, workspace, scratch);
+    const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
+    shootMasterData(shoot, window, workspace, scratch);
+    shootStatistics(shoot, window, workspace);
 }
 
 } // namespace

@@ -65,8 +65,9 @@ void StatisticsTest::SetUp()
     SessionTest::SetUp();
     if (HasFatalFailure())
         return;
-    db().exec(QStringLiteral("insert into jxc_goodsclass (gc_sn,gc_name,gc_cid,gc_pid) values "
-                             "('1001','西药',1,0),('100101','中成药',2,1),('1002','保健品',3,0)"));
+    db().exec(
+        QStringLiteral("insert into jxc_goodsclass (gc_sn,gc_name,gc_cid,gc_pid) values "
+                       "('1001','西药',11,1),('100101','中成药',12,11),('1002','保健品',13,1)"));
     addGoods(db(), { .code = QStringLiteral("200001"), .name = QStringLiteral("阿莫西林胶囊") });
     addGoods(db(),
         { .code = QStringLiteral("200002"),
@@ -111,8 +112,8 @@ QString StatisticsTest::purchaseReturn(const QString &date, const QList<Line> &l
     return number;
 }
 
-QString StatisticsTest::sale(const QString &date, const QList<Line> &lines,
-    const QString &customer, const QString &employee)
+QString StatisticsTest::sale(
+    const QString &date, const QList<Line> &lines, const QString &customer, const QString &employee)
 {
     sales::SaleDraft d;
     d.entry = entry(date, customer, lines, employee);

@@ -22,8 +22,8 @@ protected:
 
     test::CliRun stats(const QStringList &arguments)
     {
-        return runCli(QStringList { "--data", folder(), "--today", "2025-03-14", "stats" }
-            + arguments);
+        return runCli(
+            QStringList { "--data", folder(), "--today", "2025-03-14", "stats" } + arguments);
     }
 };
 
@@ -48,9 +48,11 @@ TEST_F(StatsCommand, JxcPrintsTheSummaryAndDiffTheGoodsWithADifference)
 TEST_F(StatsCommand, CostSyncAsksAndReportsWhatItRewrote)
 {
     receipt("2025-01-10", { { "200001", "100", "12" } });
-    const test::CliRun declined = stats({ "costsync", "--from", "2025-01-01", "--to", "2025-01-31" });
+    const test::CliRun declined
+        = stats({ "costsync", "--from", "2025-01-01", "--to", "2025-01-31" });
     EXPECT_EQ(declined.status, 1);
-    EXPECT_TRUE(declined.err.contains(statistics::texts::costSyncQuestion("2025-01-01", "2025-01-31")));
+    EXPECT_TRUE(
+        declined.err.contains(statistics::texts::costSyncQuestion("2025-01-01", "2025-01-31")));
     const test::CliRun synced = runCli(QStringList { "--data", folder(), "--yes", "stats",
         "costsync", "--from", "2025-01-01", "--to", "2025-01-31" });
     ASSERT_EQ(synced.status, 0) << synced.err.toStdString();
@@ -70,8 +72,8 @@ TEST_F(StatsCommand, ReportsTakeTheirGroupingAndRefuseWhatTheyDoNotKnow)
     EXPECT_EQ(monthly.out.split('\n').value(1), "2025-01\t40\t340\t0\t0\t0\t0\t40\t340");
 
     EXPECT_EQ(stats({ "profit", "--from", "2025-01-01", "--to", "2025-01-31" }).status, 2);
-    EXPECT_EQ(stats({ "sales", "--by", "colour", "--from", "2025-01-01", "--to", "2025-01-31" })
-                  .status,
+    EXPECT_EQ(
+        stats({ "sales", "--by", "colour", "--from", "2025-01-01", "--to", "2025-01-31" }).status,
         2);
     EXPECT_EQ(stats({ "jxc", "--from", "2025-01-01" }).status, 2);
     const test::CliRun reversed = stats({ "jxc", "--from", "2025-02-01", "--to", "2025-01-01" });

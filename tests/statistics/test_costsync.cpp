@@ -54,7 +54,8 @@ TEST_F(CostSync, RewritesOutwardCostsToTheRunningAverageAndTheirProfitAccordingl
     EXPECT_EQ(ledger(m_sale), QStringList { "xs|30|450|450|10|300|150" });
     ui.clear();
 
-    const Result<CostSyncSummary> synced = syncOutwardCosts(session(), { "2025-01-01", "2025-01-31" });
+    const Result<CostSyncSummary> synced
+        = syncOutwardCosts(session(), { "2025-01-01", "2025-01-31" });
     ASSERT_TRUE(synced.ok()) << synced.message().toStdString();
     EXPECT_EQ(ui.asked, QStringList { texts::costSyncQuestion("2025-01-01", "2025-01-31") });
     EXPECT_EQ(synced->pairs, 1);
@@ -64,13 +65,13 @@ TEST_F(CostSync, RewritesOutwardCostsToTheRunningAverageAndTheirProfitAccordingl
 
     // The sale: cost 11, total cost 330, profit 450 - 330; its line follows.
     EXPECT_EQ(ledger(m_sale), QStringList { "xs|30|450|450|11|330|120" });
-    EXPECT_EQ(rows("select ls_sl,ls_zcb from jxc_lsxssp where gl_djh=? and g_sn='200001'",
-                  { m_sale }),
+    EXPECT_EQ(
+        rows("select ls_sl,ls_zcb from jxc_lsxssp where gl_djh=? and g_sn='200001'", { m_sale }),
         QStringList { "30|330" });
     // The return comes back at 11 too.
     EXPECT_EQ(ledger(m_return), QStringList { "xt|-5|-75|-75|11|-55|-20" });
-    EXPECT_EQ(rows("select th_sl,th_zcb from jxc_xsthsp where gl_djh=? and g_sn='200001'",
-                  { m_return }),
+    EXPECT_EQ(
+        rows("select th_sl,th_zcb from jxc_xsthsp where gl_djh=? and g_sn='200001'", { m_return }),
         QStringList { "5|55" });
     // A loss is valued at its cost alone: amount and total follow, profit 0.
     EXPECT_EQ(ledger(m_loss), QStringList { "bs|-2|-22|-22|11|-22|0" });
@@ -95,7 +96,8 @@ TEST_F(CostSync, LeavesTheLedgerAsARerunWouldWriteItAndASecondRunChangesNothing)
     transaction.commit();
 
     const QString before = snapshot();
-    const Result<CostSyncSummary> again = syncOutwardCosts(session(), { "2025-01-01", "2025-01-31" });
+    const Result<CostSyncSummary> again
+        = syncOutwardCosts(session(), { "2025-01-01", "2025-01-31" });
     ASSERT_TRUE(again.ok());
     EXPECT_EQ(again->rows, 3);
     EXPECT_EQ(again->rowsChanged, 0);
@@ -105,7 +107,8 @@ TEST_F(CostSync, LeavesTheLedgerAsARerunWouldWriteItAndASecondRunChangesNothing)
 
 TEST_F(CostSync, OnlyTheRangeIsWalked)
 {
-    const Result<CostSyncSummary> synced = syncOutwardCosts(session(), { "2025-01-21", "2025-01-31" });
+    const Result<CostSyncSummary> synced
+        = syncOutwardCosts(session(), { "2025-01-21", "2025-01-31" });
     ASSERT_TRUE(synced.ok());
     EXPECT_EQ(synced->rows, 2);
     EXPECT_EQ(ledger(m_sale), QStringList { "xs|30|450|450|10|300|150" });
@@ -117,7 +120,8 @@ TEST_F(CostSync, ANoARefusalOrACancelLeavesEverythingAsItWas)
     const QString before = snapshot();
     ui.clear();
     ui.answerNext(false);
-    const Result<CostSyncSummary> declined = syncOutwardCosts(session(), { "2025-01-01", "2025-01-31" });
+    const Result<CostSyncSummary> declined
+        = syncOutwardCosts(session(), { "2025-01-01", "2025-01-31" });
     EXPECT_FALSE(declined.ok());
     EXPECT_TRUE(declined.message().isEmpty());
     EXPECT_EQ(snapshot(), before);

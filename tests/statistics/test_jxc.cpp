@@ -56,7 +56,8 @@ protected:
 
     QList<JxcRow> build(const QString &from, const QString &to, const QString &warehouse = {})
     {
-        const Outcome built = buildJxcSummary(session(), { .range = { from, to }, .warehouse = warehouse });
+        const Outcome built
+            = buildJxcSummary(session(), { .range = { from, to }, .warehouse = warehouse });
         EXPECT_TRUE(built.ok()) << built.message().toStdString();
         return jxcRows(session());
     }
@@ -95,7 +96,8 @@ TEST_F(JxcSummary, RowsAreTheOperatorsOwnAndAreNarrowedByClassAndKeyword)
     EXPECT_EQ(jxcRows(session(), { {}, QStringLiteral("YP") }).size(), 2);
 
     // Another operator's summary leaves admin's rows alone.
-    db().exec(QStringLiteral("insert into jxc_jxchz (g_sn,hz_kc,a_name) values ('200001',5,'小王')"));
+    db().exec(
+        QStringLiteral("insert into jxc_jxchz (g_sn,hz_kc,a_name) values ('200001',5,'小王')"));
     build("2025-01-01", "2025-01-31");
     EXPECT_EQ(rowCount(db(), "jxc_jxchz"), 5);
     EXPECT_EQ(jxcRows(session()).value(0).closingQuantity, 70);
@@ -129,8 +131,8 @@ TEST_F(JxcSummary, RefusalsAndACancelLeaveTheOperatorsRowsAsTheyWere)
     EXPECT_EQ(ui.informed.last(), texts::badDate());
 
     int calls = 0;
-    const Outcome cancelled = buildJxcSummary(session(), { .range = { "2025-01-01", "2025-01-31" } },
-        [&](int done, int total) {
+    const Outcome cancelled = buildJxcSummary(
+        session(), { .range = { "2025-01-01", "2025-01-31" } }, [&](int done, int total) {
             EXPECT_EQ(total, 4);
             return ++calls < 2 && done == 1;
         });

@@ -56,9 +56,9 @@ TEST_P(KindTable, CountsEachKindOnItsSideWithItsSign)
 {
     const KindCase c = GetParam();
     insertRow(c);
-    ASSERT_TRUE(
-        buildJxcSummary(
-        session(), { .range = { "2025-02-01", "2025-02-28" }, .valuation = c.valuation }).ok());
+    ASSERT_TRUE(buildJxcSummary(
+        session(), { .range = { "2025-02-01", "2025-02-28" }, .valuation = c.valuation })
+                    .ok());
     const QList<JxcRow> rows = jxcRows(session(), { {}, QStringLiteral("200003") });
     ASSERT_EQ(rows.size(), 1);
     EXPECT_EQ(QStringLiteral("in %1/%2 out %3/%4")
@@ -114,7 +114,7 @@ TEST_F(StatisticsTest, TheMovementViewShowsEachRowOnItsSideWithTheRunningStock)
             number(r.inQuantity), number(r.inAmount), "|", number(r.outPrice),
             number(r.outQuantity), number(r.outAmount), "|", QString::number(r.stock),
             QString::number(r.stockValue) }
-                .join(' '));
+                         .join(' '));
     // The transfer posts its receiving side first.
     EXPECT_EQ(shown,
         (QStringList { "2025-01-05 采购进货 主仓库 10 100 1000 | - - - | 100 1000",

@@ -98,13 +98,15 @@ TEST_F(Reports, SalesAreGroupedByGoodsClassCustomerAndSupplierNetOfReturns)
         (QStringList { "1001 西药 : 3 docs, 38 for 580, cost 384.24, profit 195.76 (33.75%)",
             "100101 中成药 : 1 docs, 10 for 60, cost 40, profit 20 (33.33%)" }));
     EXPECT_EQ(shown(salesBy(session(), quarter(), SalesGrouping::Supplier)),
-        QStringList { "100002 华东医药 : 3 docs, 48 for 640, cost 424.24, profit 215.76 (33.71%)" });
+        QStringList {
+            "100002 华东医药 : 3 docs, 48 for 640, cost 424.24, profit 215.76 (33.71%)" });
 
     ReportFilter february = quarter();
     february.range = { "2025-02-01", "2025-02-28" };
     february.party = QStringLiteral("100002");
     EXPECT_EQ(shown(salesBy(session(), february, SalesGrouping::Goods)),
-        QStringList { "200001 阿莫西林胶囊 盒: 1 docs, -2 for -30, cost -21.06, profit -8.94 (29.8%)" });
+        QStringList {
+            "200001 阿莫西林胶囊 盒: 1 docs, -2 for -30, cost -21.06, profit -8.94 (29.8%)" });
 }
 
 TEST_F(Reports, OneGoodsAndTheBusinessArePerMonthOrDay)
@@ -158,7 +160,8 @@ TEST_F(Reports, SalesmenEarnTheirCommissionByAmountOrByProfitAboveTheirMinimum)
                          .arg(r.profitCommission));
     // 小李: (16 - 10.53 - 1) x 10 boxes = 44.7 above his minimum, 10% of it.
     EXPECT_EQ(lines,
-        (QStringList { "100002 小周: 2 docs, 480, profit 161.06, 按销售额提成 5%: base 161.06, 24 + 0",
+        (QStringList {
+            "100002 小周: 2 docs, 480, profit 161.06, 按销售额提成 5%: base 161.06, 24 + 0",
             "100003 小李: 1 docs, 160, profit 54.7, 按利润提成 10%: base 44.7, 0 + 4.47" }));
 }
 
@@ -176,11 +179,11 @@ TEST_F(Reports, PurchasesAreReceiptsLessReturnsByGoodsSupplierAndEmployee)
 TEST_F(Reports, InwardAndOutwardArePerMonthInTheirThreeGroups)
 {
     EXPECT_EQ(shown(inwardByPeriod(session(), quarter(), PeriodUnit::Month)),
-        (QStringList { "2025-01 150/1200 0/0 0/0 = 150/1200",
-            "2025-02 30/360 2/21.06 0/0 = 32/381.06" }));
+        (QStringList {
+            "2025-01 150/1200 0/0 0/0 = 150/1200", "2025-02 30/360 2/21.06 0/0 = 32/381.06" }));
     EXPECT_EQ(shown(outwardByPeriod(session(), quarter(), PeriodUnit::Month)),
-        (QStringList { "2025-01 40/340 0/0 0/0 = 40/340",
-            "2025-02 10/105.3 5/60 0/0 = 15/165.3" }));
+        (QStringList {
+            "2025-01 40/340 0/0 0/0 = 40/340", "2025-02 10/105.3 5/60 0/0 = 15/165.3" }));
     ReportFilter branch = quarter();
     branch.warehouse = QStringLiteral("100002");
     EXPECT_TRUE(shown(inwardByPeriod(session(), branch, PeriodUnit::Day)).isEmpty());
@@ -190,7 +193,8 @@ TEST_F(Reports, StockIsValuedAsTheLedgerHeldItAndAtTodaysPrices)
 {
     const auto costs = [&](const QString &date, StockGrouping grouping) {
         QStringList lines;
-        const Result<QList<StockCostRow>> rows = stockCostAsOf(session(), date, quarter(), grouping);
+        const Result<QList<StockCostRow>> rows
+            = stockCostAsOf(session(), date, quarter(), grouping);
         for (const StockCostRow &r : rows.value())
             lines.append(QStringLiteral("%1 %2: %3 %4 at %5")
                              .arg(r.key, r.name)
@@ -200,7 +204,8 @@ TEST_F(Reports, StockIsValuedAsTheLedgerHeldItAndAtTodaysPrices)
         return lines;
     };
     EXPECT_EQ(costs("2025-02-28", StockGrouping::Goods),
-        (QStringList { "200001 阿莫西林胶囊: 87 916.11 at 10.53", "200002 板蓝根颗粒: 40 160 at 4" }));
+        (QStringList {
+            "200001 阿莫西林胶囊: 87 916.11 at 10.53", "200002 板蓝根颗粒: 40 160 at 4" }));
     EXPECT_EQ(costs("2025-01-31", StockGrouping::Class),
         (QStringList { "1001 西药: 70 700 at 10", "100101 中成药: 40 160 at 4" }));
     EXPECT_EQ(costs("2025-02-28", StockGrouping::Warehouse),
@@ -219,7 +224,8 @@ TEST_F(Reports, StockIsValuedAsTheLedgerHeldItAndAtTodaysPrices)
                          .arg(r.saleAmount)
                          .arg(r.retailAmount));
     EXPECT_EQ(lines,
-        (QStringList { "200001 阿莫西林胶囊 西药: 87, cost 916.11, bought 783, sold 1392, retail 1566",
+        (QStringList {
+            "200001 阿莫西林胶囊 西药: 87, cost 916.11, bought 783, sold 1392, retail 1566",
             "200002 板蓝根颗粒 中成药: 40, cost 160, bought 0, sold 0, retail 0" }));
 }
 
@@ -275,10 +281,12 @@ TEST_F(StatisticsTest, ABatchShowsItsWholeHistoryWithItsRunningQuantity)
     ASSERT_TRUE(history.ok()) << history.message().toStdString();
     QStringList lines;
     for (int i = 0; i < history->rows.size(); ++i)
-        lines.append(QStringLiteral("%1 %2 %3").arg(history->rows[i].date,
-            kindName(history->rows[i].kind), QString::number(history->balances[i])));
+        lines.append(QStringLiteral("%1 %2 %3")
+                         .arg(history->rows[i].date, kindName(history->rows[i].kind),
+                             QString::number(history->balances[i])));
     EXPECT_EQ(lines,
-        (QStringList { "2025-01-05 采购进货 100", "2025-01-20 商品销售 70", "2025-02-01 商品报损 65" }));
+        (QStringList {
+            "2025-01-05 采购进货 100", "2025-01-20 商品销售 70", "2025-02-01 商品报损 65" }));
     ASSERT_EQ(history->stock.size(), 1);
     EXPECT_EQ(history->stock[0].quantity, 65);
     EXPECT_EQ(history->stock[0].expiry, QStringLiteral("2027-11-30"));
