@@ -227,7 +227,7 @@ QString cachePath(const LedgerShape &shape)
     QString folder = qEnvironmentVariable("MEDISTOCK_BENCH_CACHE");
     if (folder.isEmpty())
         folder = QDir::tempPath();
-    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v1-%1-%2-%3.db")
+    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v2-%1-%2-%3.db")
                                      .arg(shape.goods)
                                      .arg(shape.rows)
                                      .arg(shape.busyRows));
