@@ -90,6 +90,7 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
         removeUncheckedCopies(session, kind, number);
         postMoney(session, kind, number);
         const int goods = postReturnStock(session, number);
+        countReturnedOnSales(session, number, 1);
         memberPointsNotKeptYet(session, number, MemberEvent::ReturnChecked);
         session.log(texts::returnCheckedLog(number, goods));
     } else {
@@ -99,16 +100,16 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
     return Outcome::done();
 }
 
-// The sales lines it returned are free again, and a sale with a line not wholly issued is open
-// for issuing again.
+// The sales lines it returned give back what it returned, and a sale with a line not wholly
+// issued is open for issuing again.
 void freeReturnedSales(const shell::Session &session, const QString &number)
 {
     core::Connection &db = session.db();
     QList<qint64> lines;
     db.forEach(QStringLiteral("select id2 from jxc_xsthsp where gl_djh=? and id2>0 order by id"),
         { number }, [&](const QSqlQuery &q) { lines.append(q.value(0).toLongLong()); });
+    countReturnedOnSales(session, number, -1);
     for (const qint64 id2 : lines) {
-        db.exec(QStringLiteral("update jxc_lsxssp set ls_qxsl=? where id2=?"), { 0, id2 });
         const QString sale = db.firstText(
             QStringLiteral("select gl_djh from jxc_lsxssp where id2=? order by id limit 1"),
             { id2 });

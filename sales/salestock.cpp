@@ -221,7 +221,7 @@ QList<OrderLink> orderLinks(const shell::Session &session, const QString &number
 void deliverOrderLines(const shell::Session &session, const QString &number)
 {
     for (const OrderLink &link : orderLinks(session, number)) {
-        session.db().exec(QStringLiteral("update jxc_xssp set ls_cksl=ls_cksl+? where id2=?"),
+        session.db().exec(QStringLiteral("update jxc_xssp set ls_cksl=round(ls_cksl+?,8) where id2=?"),
             { link.quantity, link.orderLine });
         session.db().exec(QStringLiteral("update jxc_xssp set ls_dhbz=? where id2=? and "
                                          "ls_cksl>=ls_sl"),
@@ -233,23 +233,12 @@ void undeliverOrderLines(const shell::Session &session, const QString &number)
 {
     for (const OrderLink &link : orderLinks(session, number)) {
         session.db().exec(
-            QStringLiteral("update jxc_xssp set ls_cksl=ls_cksl-(?),ls_dhbz=? where id2=?"),
+            QStringLiteral("update jxc_xssp set ls_cksl=round(ls_cksl-(?),8),ls_dhbz=? where id2=?"),
             { link.quantity, 0, link.orderLine });
         session.db().exec(
             QStringLiteral("update jxc_xssp set ls_cksl=? where ls_cksl<=? and id2=?"),
             { 0, 0, link.orderLine });
     }
-}
-
-// A returned sales line counts what came back, in its own unit.
-void markReturnedLines(const shell::Session &session, const QString &number)
-{
-    session.db().exec(
-        QStringLiteral("update jxc_lsxssp set ls_qxsl=coalesce(ls_qxsl,0)+(select sum(b.th_zsl) "
-                       "from jxc_xsthsp b where b.gl_djh=? and b.id2=jxc_lsxssp.id2)/(case when "
-                       "g_zhxs>0 then g_zhxs else 1 end) where id2 in (select id2 from jxc_xsthsp "
-                       "where gl_djh=? and id2>0)"),
-        { number, number });
 }
 
 } // namespace
@@ -298,10 +287,19 @@ int postReturnStock(const shell::Session &session, const QString &number)
     const QList<PostedRow> rows = postedRows(session, number, false);
     for (const PostedRow &row : rows)
         moveStock(session, row, 1, 1, false);
-    markReturnedLines(session, number);
     settle(session, header.warehouse, session.today());
     transaction.commit();
     return int(rows.size());
+}
+
+void countReturnedOnSales(const shell::Session &session, const QString &number, int direction)
+{
+    session.db().exec(
+        QStringLiteral("update jxc_lsxssp set ls_qxsl=round(coalesce(ls_qxsl,0)+?*(select "
+                       "sum(b.th_zsl) from jxc_xsthsp b where b.gl_djh=? and "
+                       "b.id2=jxc_lsxssp.id2)/(case when g_zhxs>0 then g_zhxs else 1 end),8) "
+                       "where id2 in (select id2 from jxc_xsthsp where gl_djh=? and id2>0)"),
+        { direction, number, number });
 }
 
 void reverseReturnStock(const shell::Session &session, const QString &number)

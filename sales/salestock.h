@@ -26,11 +26,15 @@ void reverseSaleStock(const shell::Session &session, const QString &number);
 
 // Posts a checked return: ledger rows "xt" with quantities and amounts negated, then per row the
 // warehouse stock up and its quantity sold down, the rerun, the goods' stock up and its sale count
-// up, the batch stock up; the sales lines returned against marked with what came back, and the
-// settlement. Returns the number of goods rows.
+// up, the batch stock up, and the settlement. Returns the number of goods rows.
 int postReturnStock(const shell::Session &session, const QString &number);
 
 // Takes a posted return's goods back out of stock, row by row; the settlement of its date.
 void reverseReturnStock(const shell::Session &session, const QString &number);
+
+// The sales lines a return gives back count what came back in their own unit (ls_qxsl):
+// `direction` +1 when the return is checked, -1 when it is unchecked, so that another return of
+// the same line keeps its count.
+void countReturnedOnSales(const shell::Session &session, const QString &number, int direction);
 
 } // namespace medistock::sales
