@@ -301,6 +301,18 @@ QString receiptBusyYearBack()
     return QStringLiteral("CJ24031499003");
 }
 
+stock::PostingHeader receiptHeader(const QString &number)
+{
+    const QDate date = number == receiptToday() ? benchToday() : benchToday().addYears(-1);
+    stock::PostingHeader header;
+    header.number = number;
+    header.date = date.toString(QStringLiteral("yyyy-MM-dd"));
+    header.warehouse = mainWarehouse();
+    header.warehouseName = QStringLiteral("主仓库");
+    header.party = header.employee = QStringLiteral("100001");
+    return header;
+}
+
 BenchSet::BenchSet(const LedgerShape &shape)
 {
     const QString cached = cachePath(shape);

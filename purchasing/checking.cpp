@@ -6,7 +6,7 @@
 #include "core/connection.h"
 #include "core/operation.h"
 #include "core/textclean.h"
-#include "documents/entry.h"
+#include "core/transaction.h"
 #include "documents/lifecycle.h"
 #include "documents/texts.h"
 #include "purchasing/texts.h"
@@ -20,9 +20,9 @@ namespace medistock::purchasing {
 
 namespace {
 
-QLatin1String name(const char *column)
+QString name(const char *column)
 {
-    return QLatin1String(column);
+    return QString::fromLatin1(column);
 }
 
 Outcome readDialog(const shell::Session &session, const PurchaseHeaderRow &header,
@@ -53,7 +53,7 @@ std::optional<PurchaseHeaderRow> readPurchaseHeader(
     const documents::HeaderColumns &h = kind.entry.header;
     const accounts::MoneyColumns &m = kind.money;
     // A return keeps no discount: its header reads the status once more in that place.
-    const QLatin1String discount = *m.discount ? name(m.discount) : name(h.status);
+    const QString discount = *m.discount ? name(m.discount) : name(h.status);
     const QSqlRecord row = session.db().firstRow(
         QStringLiteral("select id,%1,%2,%3,%4,%5,%6,%7,%8,%9,%10,%11 from %12 where %1=? order by "
                        "%11 desc,id limit 1")
@@ -83,17 +83,18 @@ Outcome prepareCheck(const shell::Session &session, const PurchaseKind &kind, co
     const CheckInput &input, PurchaseHeaderRow &header, CheckValues &values)
 {
     return core::guarded(session.ui(), [&] {
-        Outcome outcome = shell::requireRight(session, "cggl", kind.checkRight);
+        const Outcome outcome = shell::requireRight(session, "cggl", kind.checkRight);
         if (!outcome)
             return outcome;
         const auto found = readPurchaseHeader(session, kind, number);
         if (!found)
             return core::refuse(session.ui(), documents::texts::documentMissing(number));
-        if (found->status != 0)
-            return core::refuse(session.ui(), documents::texts::alreadyChecked(number));
         header = *found;
-        if (!(outcome = documents::requireOpenPeriod(session, header.date)))
-            return outcome;
+        if (header.status == 1)
+            return Outcome::done();
+        const Outcome open = documents::requireOpenPeriod(session, header.date);
+        if (!open)
+            return open;
         return readDialog(session, header, input, values);
     });
 }
@@ -121,47 +122,39 @@ Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
     });
 }
 
-Outcome requireStatus(
-    const shell::Session &session, const PurchaseKind &kind, const QString &number, int status)
+Outcome removeStrayCopies(const shell::Session &session, const PurchaseKind &kind,
+    const QString &number)
 {
-    const std::optional<int> now = documents::documentStatus(session.db(), kind.entry, number);
-    if (!now)
-        return core::refuse(session.ui(), documents::texts::documentMissing(number));
-    if (*now == status)
+    return core::guarded(session.ui(), [&] {
+        core::Transaction transaction(session.db());
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        transaction.commit();
         return Outcome::done();
-    return core::refuse(session.ui(),
-        status == 0 ? documents::texts::alreadyChecked(number)
-                    : documents::texts::notChecked(number));
+    });
 }
 
-void markChecked(const shell::Session &session, const PurchaseKind &kind,
+accounts::MoneyHeader markChecked(const shell::Session &session, const PurchaseKind &kind,
     const PurchaseHeaderRow &header, const CheckValues &values)
 {
-    const documents::HeaderColumns &h = kind.entry.header;
     const accounts::MoneyColumns &m = kind.money;
-    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=?,%5=?,%6=?,%7=?,%8=? where id=?")
-                          .arg(name(h.table), name(h.status), name(h.checker), name(h.checkDate),
-                              name(kind.mode), name(m.paid), name(h.note), name(m.account)),
-        { 1, session.user().name, session.today(), values.mode.toInt(), values.paid, values.note,
-            values.account, header.id });
+    documents::ColumnValues confirmed;
+    confirmed.set(name(kind.mode), values.mode.toInt());
+    confirmed.set(name(m.paid), values.paid);
+    confirmed.set(name(m.note), values.note);
+    confirmed.set(name(m.account), values.account);
+    documents::markChecked(session, kind.entry, header.id, confirmed);
+    return accounts::requireMoneyHeader(session.db(), m, header.number);
 }
 
-void markUnchecked(const shell::Session &session, const PurchaseKind &kind, const QString &number)
+stock::PostingHeader postingHeader(const accounts::MoneyHeader &h)
 {
-    const documents::HeaderColumns &h = kind.entry.header;
-    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=?,%5=? where %6=?")
-                          .arg(name(h.table), name(h.status), name(h.checkDate), name(h.checker),
-                              name(kind.paidBack), name(h.number)),
-        { 0, QString(), QString(), 0, number });
+    return { h.number, h.date, h.warehouse, h.warehouseName, h.party, h.partyName, h.salesman,
+        h.salesmanName, h.note, h.sourceNumber };
 }
 
-void removeUncheckedCopies(
-    const shell::Session &session, const PurchaseKind &kind, const QString &number)
+stock::PostingHeader reversalHeader(const PurchaseHeaderRow &header)
 {
-    const documents::HeaderColumns &h = kind.entry.header;
-    session.db().exec(QStringLiteral("delete from %1 where %2=? and %3=?")
-                          .arg(name(h.table), name(h.status), name(h.number)),
-        { 0, number });
+    return { .number = header.number, .date = header.date, .warehouse = header.warehouse };
 }
 
 } // namespace medistock::purchasing

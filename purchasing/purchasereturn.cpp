@@ -54,6 +54,43 @@ void reopenReceipts(shell::Session &session, const QStringList &receipts)
                 QStringLiteral("update jxc_jhd set j_crk=? where j_sn=?"), { 0, receipt });
 }
 
+Outcome post(shell::Session &session, const PurchaseHeaderRow &header, const CheckValues &values)
+{
+    const PurchaseKind &kind = purchaseReturn();
+    const QString &number = header.number;
+    core::Transaction transaction(session.db());
+    const Outcome unchecked = documents::requireStatus(session, kind.entry, number, 0);
+    if (!unchecked)
+        return unchecked;
+    const accounts::MoneyHeader posted = markChecked(session, kind, header, values);
+    accounts::postDocumentMoney(session, kind.money, posted);
+    postPurchaseReturnStock(session, postingHeader(posted));
+    documents::removeUncheckedCopies(session, kind.entry, number);
+    transaction.commit();
+    return Outcome::done();
+}
+
+Outcome unpost(shell::Session &session, const PurchaseHeaderRow &header)
+{
+    const PurchaseKind &kind = purchaseReturn();
+    const QString &number = header.number;
+    core::Transaction transaction(session.db());
+    const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
+    if (!checked)
+        return checked;
+    session.log(texts::returnUncheckedLog(number));
+    documents::removeUncheckedCopies(session, kind.entry, number);
+    const QStringList receipts = sourceReceipts(session, number);
+    reopenReceiptLines(session, number);
+    reversePurchaseReturnStock(session, reversalHeader(header));
+    clearLinks(session, number);
+    reopenReceipts(session, receipts);
+    documents::markUnchecked(session, kind.entry, number, { QString::fromLatin1(kind.paidBack) });
+    accounts::removeDocumentPostings(session, number);
+    transaction.commit();
+    return Outcome::done();
+}
+
 } // namespace
 
 Outcome checkPurchaseReturn(shell::Session &session, const QString &number, const CheckInput &input)
@@ -62,6 +99,8 @@ Outcome checkPurchaseReturn(shell::Session &session, const QString &number, cons
     PurchaseHeaderRow header;
     CheckValues values;
     Outcome outcome = prepareCheck(session, kind, number, input, header, values);
+    if (outcome && header.status == 1)
+        return removeStrayCopies(session, kind, number);
     if (outcome)
         outcome = core::guarded(session.ui(), [&] {
             return stock::confirmBatchCheck(
@@ -69,46 +108,19 @@ Outcome checkPurchaseReturn(shell::Session &session, const QString &number, cons
         });
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        const Outcome unchecked = requireStatus(session, kind, number, 0);
-        if (!unchecked)
-            return unchecked;
-        markChecked(session, kind, header, values);
-        accounts::postDocumentMoney(session, accounts::purchaseReturnMoney(), number);
-        postPurchaseReturnStock(session, number);
-        removeUncheckedCopies(session, kind, number);
-        transaction.commit();
-        return Outcome::done();
-    });
+    return core::guarded(session.ui(), [&] { return post(session, header, values); });
 }
 
 Outcome uncheckPurchaseReturn(shell::Session &session, const QString &number)
 {
-    const PurchaseKind &kind = purchaseReturn();
     PurchaseHeaderRow header;
-    Outcome outcome = prepareUncheck(session, kind, number, texts::noUncheckReturnRight(), header);
+    Outcome outcome = prepareUncheck(
+        session, purchaseReturn(), number, texts::noUncheckReturnRight(), header);
     if (outcome)
         outcome = documents::confirmUncheck(session, number);
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        const Outcome checked = requireStatus(session, kind, number, 1);
-        if (!checked)
-            return checked;
-        session.log(texts::returnUncheckedLog(number));
-        removeUncheckedCopies(session, kind, number);
-        const QStringList receipts = sourceReceipts(session, number);
-        reopenReceiptLines(session, number);
-        reversePurchaseReturnStock(session, number);
-        clearLinks(session, number);
-        reopenReceipts(session, receipts);
-        markUnchecked(session, kind, number);
-        accounts::removeDocumentPostings(session, number);
-        transaction.commit();
-        return Outcome::done();
-    });
+    return core::guarded(session.ui(), [&] { return unpost(session, header); });
 }
 
 } // namespace medistock::purchasing

@@ -86,15 +86,16 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
     const CheckKind &kind = returnChecking();
     core::Transaction transaction(session.db());
     if (documents::documentStatus(session.db(), kind.entry, number) != 1) {
-        markChecked(session, kind, row.id);
-        removeUncheckedCopies(session, kind, number);
-        postMoney(session, kind, number);
-        const int goods = postReturnStock(session, number);
+        documents::markChecked(session, kind.entry, row.id);
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        const accounts::MoneyHeader header = readPostedHeader(session, kind, number);
+        postMoney(session, kind, header);
+        const int goods = postReturnStock(session, postingHeader(header));
         countReturnedOnSales(session, number, 1);
         memberPointsNotKeptYet(session, number, MemberEvent::ReturnChecked);
         session.log(texts::returnCheckedLog(number, goods));
     } else {
-        removeUncheckedCopies(session, kind, number);
+        documents::removeUncheckedCopies(session, kind.entry, number);
     }
     transaction.commit();
     return Outcome::done();
@@ -122,15 +123,16 @@ void freeReturnedSales(const shell::Session &session, const QString &number)
     db.exec(QStringLiteral("update jxc_xsthd set th_note=? where gl_djh=?"), { QString(), number });
 }
 
-Outcome unpost(shell::Session &session, const QString &number)
+Outcome unpost(shell::Session &session, const CheckRow &row)
 {
     const CheckKind &kind = returnChecking();
+    const QString &number = row.number;
     core::Transaction transaction(session.db());
-    const Outcome checked = requireStatus(session, kind, number, 1);
+    const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
     if (!checked)
         return checked;
-    removeUncheckedCopies(session, kind, number);
-    reverseReturnStock(session, number);
+    documents::removeUncheckedCopies(session, kind.entry, number);
+    reverseReturnStock(session, reversalHeader(row));
     freeReturnedSales(session, number);
     memberPointsNotKeptYet(session, number, MemberEvent::ReturnUnchecked);
     deletePosRows(session, number);
@@ -201,7 +203,7 @@ Outcome uncheckSalesReturn(shell::Session &session, const QString &number)
         });
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] { return unpost(session, number); });
+    return core::guarded(session.ui(), [&] { return unpost(session, row); });
 }
 
 } // namespace medistock::sales

@@ -126,6 +126,12 @@ void applyGoodsTotals(
         { stock, purchases, sales, goods });
 }
 
+void countEmployeePurchase(const shell::Session &session, const QString &employee)
+{
+    session.db().exec(
+        QStringLiteral("update jxc_user set u_cgpl=u_cgpl+1 where u_sn=?"), { employee });
+}
+
 void recordLastPurchase(
     const shell::Session &session, const QString &goods, double price, const QString &supplier)
 {

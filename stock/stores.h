@@ -56,6 +56,9 @@ void subtractBatchStock(const shell::Session &session, const BatchKey &batch, do
 // Adds to the goods row's total stock g_kc and its purchase and sale counters g_cgpl, g_xspl.
 void applyGoodsTotals(
     const shell::Session &session, const QString &goods, double stock, int purchases, int sales);
+// Counts a purchase document for its employee (u_cgpl). Nothing takes the count back: an uncheck
+// lowers only the goods' g_cgpl.
+void countEmployeePurchase(const shell::Session &session, const QString &employee);
 // Writes the last purchase price g_scjj (per base unit) and the last supplier ghs_sn.
 void recordLastPurchase(
     const shell::Session &session, const QString &goods, double price, const QString &supplier);
