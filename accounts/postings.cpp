@@ -231,6 +231,11 @@ void postInvoiceRow(shell::Session &session, const MoneyColumns &columns, const 
     recalculateInvoices(db, columns.partyKind, header.party, header.date);
 }
 
+bool isFreightTerms(const QString &terms)
+{
+    return terms.isEmpty() || terms == texts::wePayFreight() || terms == texts::theyPayFreight();
+}
+
 void postFreightAndPacking(
     shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header)
 {

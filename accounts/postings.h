@@ -95,6 +95,8 @@ void postLedgerRow(shell::Session &session, const MoneyColumns &columns, const M
 //    register is on (cs_kp), then the party's invoice balances.
 void postInvoiceRow(
     shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header);
+// The freight terms a document may keep: "我方付运费", "对方付运费", or none (empty).
+bool isFreightTerms(const QString &terms);
 // 4. Under "我方付运费": for freight and packing fee above 0 an expense row ("运费"/"包装费",
 //    -1 x the fee, "现金", checked) and a "费用付款" cash row of -1 x the fee whose note names the
 //    document; then the cash balances.

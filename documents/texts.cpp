@@ -200,4 +200,9 @@ QString deletedLog(const QString &title, const QString &number)
     return QStringLiteral("删除未审核") + title + number;
 }
 
+QString deletedCheckedLog(const QString &title, const QString &number)
+{
+    return QStringLiteral("删除已审核") + title + number;
+}
+
 } // namespace medistock::documents::texts

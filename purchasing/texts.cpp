@@ -79,14 +79,4 @@ QString returnTitle()
     return QStringLiteral("采购退货单");
 }
 
-QString wePayFreight()
-{
-    return QStringLiteral("我方付运费");
-}
-
-QString theyPayFreight()
-{
-    return QStringLiteral("对方付运费");
-}
-
 } // namespace medistock::purchasing::texts

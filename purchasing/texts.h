@@ -24,7 +24,5 @@ QString returnUncheckedLog(const QString &number);
 // Words
 QString receiptTitle(); // "采购进货单"
 QString returnTitle(); // "采购退货单"
-QString wePayFreight(); // "我方付运费"
-QString theyPayFreight(); // "对方付运费"
 
 } // namespace medistock::purchasing::texts

@@ -58,7 +58,7 @@ documents::LineDraft splitLine(const documents::LineDraft &line, const BatchProp
         part.produced = batch->produced;
     }
     const double units = baseQuantity / factor;
-    if (factor == 1 || std::abs(units - std::round(units)) < 0.000000001) {
+    if (factor == 1 || std::abs(units - std::round(units)) < core::comparisonMargin) {
         part.quantity = quantityText(units, decimals);
     } else {
         part.unit.clear();
