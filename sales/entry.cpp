@@ -219,8 +219,10 @@ Outcome orderRule(const shell::Session &session, SaleHeader &header, ValidDocume
 Result<QString> saveSale(shell::Session &session, const SaleDraft &draft)
 {
     SaleHeader header = draft.header;
+    documents::DocumentDraft entry = draft.entry;
+    fillCustomerPrices(session, entry);
     const Result<QString> saved = documents::saveDocument(
-        session, saleKind(), draft.entry,
+        session, saleKind(), entry,
         [&](const shell::Session &s, ValidDocument &doc) { return saleRule(s, header, doc); },
         [](const shell::Session &s, const ValidDocument &doc, const QString &number) {
             markLines(s, doc, number);
@@ -233,7 +235,9 @@ Result<QString> saveSale(shell::Session &session, const SaleDraft &draft)
 Result<QString> saveSalesOrder(shell::Session &session, const SaleDraft &draft)
 {
     SaleHeader header = draft.header;
-    const Result<QString> saved = documents::saveDocument(session, salesOrderKind(), draft.entry,
+    documents::DocumentDraft entry = draft.entry;
+    fillCustomerPrices(session, entry);
+    const Result<QString> saved = documents::saveDocument(session, salesOrderKind(), entry,
         [&](const shell::Session &s, ValidDocument &doc) { return orderRule(s, header, doc); });
     if (saved && checksOnSave(session.params()))
         checkSalesOrder(session, saved.value(), CheckStart::OnSave);

@@ -10,6 +10,7 @@
 #include "core/operation.h"
 #include "core/rounding.h"
 #include "sales/options.h"
+#include "sales/prices.h"
 #include "sales/texts.h"
 #include "shell/session.h"
 
@@ -33,6 +34,15 @@ Outcome checkSaleHeader(const shell::Session &session, SaleHeader &h)
     if (h.paid < 0 || h.invoiceAmount < 0 || h.freight < 0 || h.packing < 0)
         return core::refuse(session.ui(), texts::amountNegative());
     return Outcome::done();
+}
+
+void fillCustomerPrices(const shell::Session &session, documents::DocumentDraft &draft)
+{
+    for (documents::LineDraft &line : draft.lines)
+        if (line.price.trimmed().isEmpty())
+            line.price = QString::number(linePrice(session, line.goods.trimmed(),
+                                             draft.party.trimmed(), line.unit.trimmed()),
+                'g', 15);
 }
 
 double documentDue(const shell::Session &session, const documents::ValidDocument &doc)

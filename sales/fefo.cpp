@@ -63,7 +63,9 @@ documents::LineDraft splitLine(const documents::LineDraft &line, const BatchProp
     } else {
         part.unit.clear();
         part.quantity = quantityText(baseQuantity, decimals);
-        part.price = QString::number(line.price.toDouble() / factor, 'g', 15);
+        // A line without a price keeps none: the base unit's customer price is filled in later.
+        if (!line.price.trimmed().isEmpty())
+            part.price = QString::number(line.price.toDouble() / factor, 'g', 15);
     }
     return part;
 }

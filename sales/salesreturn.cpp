@@ -148,8 +148,10 @@ Outcome unpost(shell::Session &session, const CheckRow &row)
 Result<QString> saveSalesReturn(shell::Session &session, const SaleDraft &draft)
 {
     SaleHeader header = draft.header;
+    documents::DocumentDraft entry = draft.entry;
+    fillCustomerPrices(session, entry);
     const Result<QString> saved = documents::saveDocument(
-        session, salesReturnKind(), draft.entry,
+        session, salesReturnKind(), entry,
         [&](const shell::Session &s, ValidDocument &doc) { return returnRule(s, header, doc); },
         [](const shell::Session &s, const ValidDocument &, const QString &number) {
             markReturnedSales(s, number);
