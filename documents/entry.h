@@ -47,7 +47,7 @@ struct LineDraft
     QString discountRate; // empty: 1
     QString batch;
     QString produced; // "yyyy-MM-dd" or empty
-    QString expiry; // "yyyy-MM-dd" or empty
+    QString expiry; // "yyyy-MM-dd", "yyyy-MM", "0000-00" or empty (documents/expiry.h)
     QString remark;
     ColumnValues columns; // the kind's own line columns
 };

@@ -133,7 +133,10 @@ QString producedInvalid(int row, const QString &date)
 
 QString expiryInvalid(int row, const QString &date)
 {
-    return line(row) + QStringLiteral("有效期“%1”不是有效的日期（yyyy-MM-dd）！").arg(date);
+    return line(row)
+        + QStringLiteral("有效期“%1”不是有效的有效期（yyyy-MM-dd 或 yyyy-MM，无有效期为 "
+                         "0000-00）！")
+              .arg(date);
 }
 
 QString expiryBeforeProduced(int row)
