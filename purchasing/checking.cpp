@@ -2,6 +2,7 @@
 
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
+#include "accounts/postings.h"
 #include "accounts/texts.h"
 #include "core/connection.h"
 #include "core/operation.h"
@@ -133,6 +134,9 @@ Outcome removeStrayCopies(const shell::Session &session, const PurchaseKind &kin
     });
 }
 
+namespace {
+
+// Status 1 with the dialog's values; then the header as the postings take it, read once.
 accounts::MoneyHeader markChecked(const shell::Session &session, const PurchaseKind &kind,
     const PurchaseHeaderRow &header, const CheckValues &values)
 {
@@ -152,9 +156,47 @@ stock::PostingHeader postingHeader(const accounts::MoneyHeader &h)
         h.salesmanName, h.note, h.sourceNumber };
 }
 
-stock::PostingHeader reversalHeader(const PurchaseHeaderRow &header)
+} // namespace
+
+Outcome postCheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckValues &values,
+    const std::function<void(const stock::PostingHeader &)> &postStock)
 {
-    return { .number = header.number, .date = header.date, .warehouse = header.warehouse };
+    return core::guarded(session.ui(), [&] {
+        const QString &number = header.number;
+        core::Transaction transaction(session.db());
+        const Outcome unchecked = documents::requireStatus(session, kind.entry, number, 0);
+        if (!unchecked)
+            return unchecked;
+        const accounts::MoneyHeader posted = markChecked(session, kind, header, values);
+        if (header.discount != 0)
+            documents::writeDiscountLine(session, kind.entry, number, header.discount);
+        accounts::postDocumentMoney(session, kind.money, posted);
+        postStock(postingHeader(posted));
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        transaction.commit();
+        return Outcome::done();
+    });
+}
+
+Outcome postUncheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const QString &log,
+    const std::function<void(const stock::PostingHeader &)> &reverse)
+{
+    return core::guarded(session.ui(), [&] {
+        const QString &number = header.number;
+        core::Transaction transaction(session.db());
+        const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
+        if (!checked)
+            return checked;
+        session.log(log);
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        reverse({ .number = number, .date = header.date, .warehouse = header.warehouse });
+        documents::markUnchecked(session, kind.entry, number, { name(kind.paidBack) });
+        accounts::removeDocumentPostings(session, number);
+        transaction.commit();
+        return Outcome::done();
+    });
 }
 
 } // namespace medistock::purchasing

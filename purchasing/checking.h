@@ -73,13 +73,18 @@ Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
 Outcome removeStrayCopies(const shell::Session &session, const PurchaseKind &kind,
     const QString &number);
 
-// Inside the check's transaction: the header marked checked with the dialog's values, then read
-// once, as the money and stock postings take it.
-accounts::MoneyHeader markChecked(const shell::Session &session, const PurchaseKind &kind,
-    const PurchaseHeaderRow &header, const CheckValues &values);
-// The header as the stock postings copy it.
-stock::PostingHeader postingHeader(const accounts::MoneyHeader &header);
-// What an uncheck's stock reversal needs of the header read before it: number, date, warehouse.
-stock::PostingHeader reversalHeader(const PurchaseHeaderRow &header);
+// The check's transaction, in the order of the rules: the status read again; the header marked
+// checked with the dialog's values and read once; the discount line; the money postings; the
+// kind's stock posting `postStock` with that header; an unchecked copy of the number removed.
+Outcome postCheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckValues &values,
+    const std::function<void(const stock::PostingHeader &)> &postStock);
+
+// The uncheck's transaction: the status read again; the log line `log`; an unchecked copy
+// removed; the kind's stock reversal and links `reverse`, given the number, date and warehouse
+// read before; the header reset; every money row removed with its recalculations.
+Outcome postUncheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const QString &log,
+    const std::function<void(const stock::PostingHeader &)> &reverse);
 
 } // namespace medistock::purchasing

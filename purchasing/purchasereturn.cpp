@@ -1,9 +1,7 @@
 #include "purchasing/purchasereturn.h"
 
-#include "accounts/postings.h"
 #include "core/connection.h"
 #include "core/operation.h"
-#include "core/transaction.h"
 #include "documents/lifecycle.h"
 #include "purchasing/returnstock.h"
 #include "purchasing/texts.h"
@@ -54,43 +52,6 @@ void reopenReceipts(shell::Session &session, const QStringList &receipts)
                 QStringLiteral("update jxc_jhd set j_crk=? where j_sn=?"), { 0, receipt });
 }
 
-Outcome post(shell::Session &session, const PurchaseHeaderRow &header, const CheckValues &values)
-{
-    const PurchaseKind &kind = purchaseReturn();
-    const QString &number = header.number;
-    core::Transaction transaction(session.db());
-    const Outcome unchecked = documents::requireStatus(session, kind.entry, number, 0);
-    if (!unchecked)
-        return unchecked;
-    const accounts::MoneyHeader posted = markChecked(session, kind, header, values);
-    accounts::postDocumentMoney(session, kind.money, posted);
-    postPurchaseReturnStock(session, postingHeader(posted));
-    documents::removeUncheckedCopies(session, kind.entry, number);
-    transaction.commit();
-    return Outcome::done();
-}
-
-Outcome unpost(shell::Session &session, const PurchaseHeaderRow &header)
-{
-    const PurchaseKind &kind = purchaseReturn();
-    const QString &number = header.number;
-    core::Transaction transaction(session.db());
-    const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
-    if (!checked)
-        return checked;
-    session.log(texts::returnUncheckedLog(number));
-    documents::removeUncheckedCopies(session, kind.entry, number);
-    const QStringList receipts = sourceReceipts(session, number);
-    reopenReceiptLines(session, number);
-    reversePurchaseReturnStock(session, reversalHeader(header));
-    clearLinks(session, number);
-    reopenReceipts(session, receipts);
-    documents::markUnchecked(session, kind.entry, number, { QString::fromLatin1(kind.paidBack) });
-    accounts::removeDocumentPostings(session, number);
-    transaction.commit();
-    return Outcome::done();
-}
-
 } // namespace
 
 Outcome checkPurchaseReturn(shell::Session &session, const QString &number, const CheckInput &input)
@@ -108,19 +69,28 @@ Outcome checkPurchaseReturn(shell::Session &session, const QString &number, cons
         });
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] { return post(session, header, values); });
+    return postCheck(session, kind, header, values, [&](const stock::PostingHeader &posted) {
+        postPurchaseReturnStock(session, posted);
+    });
 }
 
 Outcome uncheckPurchaseReturn(shell::Session &session, const QString &number)
 {
+    const PurchaseKind &kind = purchaseReturn();
     PurchaseHeaderRow header;
-    Outcome outcome = prepareUncheck(
-        session, purchaseReturn(), number, texts::noUncheckReturnRight(), header);
+    Outcome outcome = prepareUncheck(session, kind, number, texts::noUncheckReturnRight(), header);
     if (outcome)
         outcome = documents::confirmUncheck(session, number);
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] { return unpost(session, header); });
+    return postUncheck(session, kind, header, texts::returnUncheckedLog(number),
+        [&](const stock::PostingHeader &posted) {
+            const QStringList receipts = sourceReceipts(session, number);
+            reopenReceiptLines(session, number);
+            reversePurchaseReturnStock(session, posted);
+            clearLinks(session, number);
+            reopenReceipts(session, receipts);
+        });
 }
 
 } // namespace medistock::purchasing

@@ -1,10 +1,7 @@
 #include "purchasing/receipt.h"
 
-#include "accounts/postings.h"
 #include "core/connection.h"
 #include "core/operation.h"
-#include "core/transaction.h"
-#include "documents/entry.h"
 #include "documents/lifecycle.h"
 #include "purchasing/texts.h"
 #include "shell/session.h"
@@ -37,42 +34,6 @@ void resetLines(shell::Session &session, const QString &number)
         { 0, 0, 0, number });
 }
 
-Outcome post(shell::Session &session, const PurchaseHeaderRow &header, const CheckValues &values)
-{
-    const PurchaseKind &kind = purchaseReceipt();
-    const QString &number = header.number;
-    core::Transaction transaction(session.db());
-    const Outcome unchecked = documents::requireStatus(session, kind.entry, number, 0);
-    if (!unchecked)
-        return unchecked;
-    const accounts::MoneyHeader posted = markChecked(session, kind, header, values);
-    if (header.discount != 0)
-        documents::writeDiscountLine(session, kind.entry, number, header.discount);
-    accounts::postDocumentMoney(session, kind.money, posted);
-    stock::postPurchaseReceiptStock(session, postingHeader(posted));
-    documents::removeUncheckedCopies(session, kind.entry, number);
-    transaction.commit();
-    return Outcome::done();
-}
-
-Outcome unpost(shell::Session &session, const PurchaseHeaderRow &header)
-{
-    const PurchaseKind &kind = purchaseReceipt();
-    const QString &number = header.number;
-    core::Transaction transaction(session.db());
-    const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
-    if (!checked)
-        return checked;
-    session.log(texts::receiptUncheckedLog(number));
-    documents::removeUncheckedCopies(session, kind.entry, number);
-    stock::reversePurchaseReceiptStock(session, reversalHeader(header));
-    documents::markUnchecked(session, kind.entry, number, { QString::fromLatin1(kind.paidBack) });
-    accounts::removeDocumentPostings(session, number);
-    resetLines(session, number);
-    transaction.commit();
-    return Outcome::done();
-}
-
 } // namespace
 
 Outcome checkPurchaseReceipt(
@@ -86,13 +47,16 @@ Outcome checkPurchaseReceipt(
         return ready;
     if (header.status == 1)
         return removeStrayCopies(session, kind, number);
-    return core::guarded(session.ui(), [&] { return post(session, header, values); });
+    return postCheck(session, kind, header, values, [&](const stock::PostingHeader &posted) {
+        stock::postPurchaseReceiptStock(session, posted);
+    });
 }
 
 Outcome uncheckPurchaseReceipt(shell::Session &session, const QString &number)
 {
+    const PurchaseKind &kind = purchaseReceipt();
     PurchaseHeaderRow header;
-    Outcome outcome = prepareUncheck(session, purchaseReceipt(), number,
+    Outcome outcome = prepareUncheck(session, kind, number,
         texts::noUncheckReceiptRight(), header, [&] { return dependantRefusal(session, number); });
     if (outcome)
         outcome = documents::confirmUncheck(session, number);
@@ -103,7 +67,11 @@ Outcome uncheckPurchaseReceipt(shell::Session &session, const QString &number)
         });
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] { return unpost(session, header); });
+    return postUncheck(session, kind, header, texts::receiptUncheckedLog(number),
+        [&](const stock::PostingHeader &posted) {
+            stock::reversePurchaseReceiptStock(session, posted);
+            resetLines(session, number);
+        });
 }
 
 } // namespace medistock::purchasing
