@@ -36,6 +36,9 @@ struct SaleDraft
     SaleHeader header;
 };
 
+// Each of the three saves first gives a line typed without a price the customer's price for its
+// unit (fillCustomerPrices).
+
 // Saves a sale through the shared entry, in this order: the shared checks, the sales header, the
 // order lines' open quantities, expired batches (refused with "过期商品不能销售", else asked),
 // each line's cost as of the sale date (or the one it was taken over with), the stock of each
