@@ -1,3 +1,4 @@
+#include "sales/entry.h"
 #include "sales/salecheck.h"
 #include "stock/checks.h"
 #include "tests/sales/salestest.h"
@@ -64,8 +65,10 @@ TEST_F(EightPlaces, ReceivingPointOneAndPointTwoThenSellingPointThreeLeavesExact
         QStringList { "0" });
 }
 
-// A batch emptied to exactly 0 is, as a batch of zero, not held against a later sale: with
-// negative stock forbidden, the check of a sale of 1 from it goes through.
+// A batch emptied to exactly 0 is a batch of zero: with negative stock forbidden, a sale of 1
+// from it is refused on saving by the warehouse's stock, as any sale from an empty warehouse, and
+// a sale saved before is not held back by the batch check, which leaves batches without stock
+// alone.
 TEST_F(EightPlaces, AnEmptiedBatchIsNotReportedShortWhenNegativeStockIsForbidden)
 {
     checkedSaleFromB9(QStringLiteral("0.3"));
@@ -74,6 +77,11 @@ TEST_F(EightPlaces, AnEmptiedBatchIsNotReportedShortWhenNegativeStockIsForbidden
     l.expiry = QStringLiteral("2026-01-31");
     sales::SaleDraft d = draft({ l });
     d.entry.warehouse = QStringLiteral("100002");
+    setParameter(QStringLiteral("cs_kc"), 0);
+    ui.clear();
+    EXPECT_FALSE(sales::saveSale(session(), d));
+    EXPECT_EQ(ui.informed, QStringList { "当前仓库中商品‘阿莫西林胶囊’库存不足，不能销售。" });
+    setParameter(QStringLiteral("cs_kc"), 1);
     const QString number = saveSale(d);
     setParameter(QStringLiteral("cs_kc"), 0);
     EXPECT_EQ(stock::batchCheck(session(), number, QStringLiteral("100002"), QStringLiteral("XS")),
