@@ -308,7 +308,7 @@ Outcome deleteDocument(const shell::Session &session, const DocumentKind &kind,
             { number });
         const QString title = QString::fromUtf8(kind.title);
         session.log(status == 0 ? texts::deletedLog(title, number)
-                                 : texts::deletedCheckedLog(title, number));
+                                : texts::deletedCheckedLog(title, number));
         transaction.commit();
         return Outcome::done();
     });

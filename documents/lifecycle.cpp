@@ -74,8 +74,9 @@ void markUnchecked(const shell::Session &session, const DocumentKind &kind, cons
     const QStringList &cleared)
 {
     const HeaderColumns &h = kind.header;
-    QString assignments = QStringLiteral("%1=?,%2=?,%3=?").arg(QLatin1String(h.status),
-        QLatin1String(h.checker), QLatin1String(h.checkDate));
+    QString assignments
+        = QStringLiteral("%1=?,%2=?,%3=?")
+              .arg(QLatin1String(h.status), QLatin1String(h.checker), QLatin1String(h.checkDate));
     QVariantList params { 0, QString(), QString() };
     for (const QString &column : cleared) {
         assignments += QStringLiteral(",%1=?").arg(column);

@@ -123,8 +123,8 @@ Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
     });
 }
 
-Outcome removeStrayCopies(const shell::Session &session, const PurchaseKind &kind,
-    const QString &number)
+Outcome removeStrayCopies(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number)
 {
     return core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());

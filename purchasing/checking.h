@@ -70,8 +70,8 @@ Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
 
 // A document checked already (here or on another workstation) is not posted again: only an
 // unchecked copy of its number left beside it is removed, in a transaction of its own.
-Outcome removeStrayCopies(const shell::Session &session, const PurchaseKind &kind,
-    const QString &number);
+Outcome removeStrayCopies(
+    const shell::Session &session, const PurchaseKind &kind, const QString &number);
 
 // The check's transaction, in the order of the rules: the status read again; the header marked
 // checked with the dialog's values and read once; the discount line; the money postings; the

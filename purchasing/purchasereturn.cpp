@@ -69,9 +69,8 @@ Outcome checkPurchaseReturn(shell::Session &session, const QString &number, cons
         });
     if (!outcome)
         return outcome;
-    return postCheck(session, kind, header, values, [&](const stock::PostingHeader &posted) {
-        postPurchaseReturnStock(session, posted);
-    });
+    return postCheck(session, kind, header, values,
+        [&](const stock::PostingHeader &posted) { postPurchaseReturnStock(session, posted); });
 }
 
 Outcome uncheckPurchaseReturn(shell::Session &session, const QString &number)

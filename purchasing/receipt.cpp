@@ -56,8 +56,8 @@ Outcome uncheckPurchaseReceipt(shell::Session &session, const QString &number)
 {
     const PurchaseKind &kind = purchaseReceipt();
     PurchaseHeaderRow header;
-    Outcome outcome = prepareUncheck(session, kind, number,
-        texts::noUncheckReceiptRight(), header, [&] { return dependantRefusal(session, number); });
+    Outcome outcome = prepareUncheck(session, kind, number, texts::noUncheckReceiptRight(), header,
+        [&] { return dependantRefusal(session, number); });
     if (outcome)
         outcome = documents::confirmUncheck(session, number);
     if (outcome)

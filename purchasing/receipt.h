@@ -21,10 +21,10 @@ Outcome checkPurchaseReceipt(
     shell::Session &session, const QString &number, const CheckInput &input = {});
 
 // Unchecks a purchase receipt: refused without the uncheck right, while a receiving note or a
-// checked purchase return depends on it, unless it is checked, by the checker rule and the closed-period test; asks the question
-// and the batch check "CJ" before its transaction. Then logs, takes the stock posting back,
-// resets the header and the lines' received quantities, done flags and identities, and removes
-// every money row with its recalculations.
+// checked purchase return depends on it, unless it is checked, by the checker rule and the
+// closed-period test; asks the question and the batch check "CJ" before its transaction. Then logs,
+// takes the stock posting back, resets the header and the lines' received quantities, done flags
+// and identities, and removes every money row with its recalculations.
 Outcome uncheckPurchaseReceipt(shell::Session &session, const QString &number);
 
 } // namespace medistock::purchasing

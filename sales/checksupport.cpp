@@ -105,8 +105,8 @@ stock::PostingHeader reversalHeader(const CheckRow &row)
     return { .number = row.number, .date = row.date, .warehouse = row.warehouse };
 }
 
-void postMoney(shell::Session &session, const CheckKind &kind, accounts::MoneyHeader header,
-    double writtenOff)
+void postMoney(
+    shell::Session &session, const CheckKind &kind, accounts::MoneyHeader header, double writtenOff)
 {
     header.discount = writtenOff;
     header.due -= writtenOff;

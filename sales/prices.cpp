@@ -117,7 +117,8 @@ double linePrice(const shell::Session &session, const QString &goods, const QStr
     const QString &unit)
 {
     const QString baseUnit = session.db().firstText(
-        QStringLiteral("select dw_name from jxc_goods where g_sn=? order by id limit 1"), { goods });
+        QStringLiteral("select dw_name from jxc_goods where g_sn=? order by id limit 1"),
+        { goods });
     if (unit.isEmpty() || unit == baseUnit)
         return customerPrice(session, goods, customer);
     return customerUnitPrice(session, goods, customer, unit);

@@ -152,7 +152,8 @@ QList<OrderLink> orderLinks(const shell::Session &session, const QString &number
 void deliverOrderLines(const shell::Session &session, const QString &number)
 {
     for (const OrderLink &link : orderLinks(session, number)) {
-        session.db().exec(QStringLiteral("update jxc_xssp set ls_cksl=round(ls_cksl+?,8) where id2=?"),
+        session.db().exec(
+            QStringLiteral("update jxc_xssp set ls_cksl=round(ls_cksl+?,8) where id2=?"),
             { link.quantity, link.orderLine });
         session.db().exec(QStringLiteral("update jxc_xssp set ls_dhbz=? where id2=? and "
                                          "ls_cksl>=ls_sl"),
@@ -164,7 +165,8 @@ void undeliverOrderLines(const shell::Session &session, const QString &number)
 {
     for (const OrderLink &link : orderLinks(session, number)) {
         session.db().exec(
-            QStringLiteral("update jxc_xssp set ls_cksl=round(ls_cksl-(?),8),ls_dhbz=? where id2=?"),
+            QStringLiteral(
+                "update jxc_xssp set ls_cksl=round(ls_cksl-(?),8),ls_dhbz=? where id2=?"),
             { link.quantity, 0, link.orderLine });
         session.db().exec(
             QStringLiteral("update jxc_xssp set ls_cksl=? where ls_cksl<=? and id2=?"),

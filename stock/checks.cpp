@@ -68,8 +68,8 @@ QString batchCheck(const shell::Session &session, const QString &number, const Q
         "and b.ck_sn=? order by a.g_sn limit 1")
                             .arg(QLatin1String(lines->quantity), QLatin1String(lines->table),
                                 QLatin1String(lines->key));
-    const QString goods
-        = session.db().firstText(sql, { number, QStringLiteral("00000000"), core::comparisonMargin, warehouse });
+    const QString goods = session.db().firstText(
+        sql, { number, QStringLiteral("00000000"), core::comparisonMargin, warehouse });
     if (goods.isEmpty())
         return {};
     return batchShortageText(kind, goods, allowsNegativeStock(session.params()));

@@ -166,12 +166,11 @@ LedgerStep stepLedger(
     }
     after.quantity = core::roundTo(after.quantity, rounding.quantity);
     if (role.setsAverage && core::roundTo(after.sumQuantity, rounding.quantity) != 0)
-        after.average = std::abs(
-            after.quantity == 0 ? row.price : after.sumAmount / after.sumQuantity);
+        after.average
+            = std::abs(after.quantity == 0 ? row.price : after.sumAmount / after.sumQuantity);
     after.average = core::roundTo(after.average, rounding.price);
-    after.value = after.quantity == 0
-        ? 0
-        : core::roundTo(after.average * after.quantity, rounding.value);
+    after.value
+        = after.quantity == 0 ? 0 : core::roundTo(after.average * after.quantity, rounding.value);
     return step;
 }
 

@@ -17,8 +17,8 @@ void moveStores(const shell::Session &session, const StoreMovement &m, double si
 void moveGoodsAndBatch(const shell::Session &session, const StoreMovement &m, double sign)
 {
     const QString &goods = m.batch.goods;
-    applyGoodsTotals(session, goods, m.goodsStock ? sign * m.physical : 0,
-        int(sign) * m.purchases, int(sign) * m.sales);
+    applyGoodsTotals(session, goods, m.goodsStock ? sign * m.physical : 0, int(sign) * m.purchases,
+        int(sign) * m.sales);
     if (m.goodsAverage)
         refreshGoodsAverage(session, goods, m.price);
     addBatchStock(session, m.batch, sign * m.physical);

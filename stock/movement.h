@@ -35,7 +35,8 @@ struct PostingHeader
 
 // A ledger row of `kind` with what the header gives every row of the document, and the operator
 // as its checker today.
-LedgerRow headerRow(const shell::Session &session, const PostingHeader &header, const QString &kind);
+LedgerRow headerRow(
+    const shell::Session &session, const PostingHeader &header, const QString &kind);
 
 // How one posted ledger row moves the stores. Every figure is a change, in base units.
 struct StoreMovement

@@ -148,7 +148,8 @@ QList<PlanLink> planLinks(const shell::Session &session, const QString &number)
 void receivePlanLines(const shell::Session &session, const QString &number)
 {
     for (const PlanLink &link : planLinks(session, number)) {
-        session.db().exec(QStringLiteral("update jxc_cgsp set jh_rksl=round(jh_rksl+?,8) where id2=?"),
+        session.db().exec(
+            QStringLiteral("update jxc_cgsp set jh_rksl=round(jh_rksl+?,8) where id2=?"),
             { link.quantity, link.planLine });
         session.db().exec(
             QStringLiteral("update jxc_cgsp set jh_qxsl=? where jh_rksl>=jh_sl and id=?"),
@@ -160,7 +161,8 @@ void reducePlanLines(const shell::Session &session, const QString &number)
 {
     for (const PlanLink &link : planLinks(session, number)) {
         session.db().exec(
-            QStringLiteral("update jxc_cgsp set jh_rksl=round(jh_rksl-(?),8),jh_qxsl=? where id2=?"),
+            QStringLiteral(
+                "update jxc_cgsp set jh_rksl=round(jh_rksl-(?),8),jh_qxsl=? where id2=?"),
             { link.quantity, 0, link.planLine });
         session.db().exec(QStringLiteral("update jxc_cgsp set jh_rksl=? where jh_rksl<=? and id=?"),
             { 0, 0, link.id });

@@ -120,9 +120,8 @@ void subtractBatchStock(const shell::Session &session, const BatchKey &batch, do
 void applyGoodsTotals(
     const shell::Session &session, const QString &goods, double stock, int purchases, int sales)
 {
-    session.db().exec(
-        QStringLiteral("update jxc_goods set g_kc=round(g_kc+?,8),g_cgpl=g_cgpl+?,"
-                       "g_xspl=g_xspl+? where g_sn=?"),
+    session.db().exec(QStringLiteral("update jxc_goods set g_kc=round(g_kc+?,8),g_cgpl=g_cgpl+?,"
+                                     "g_xspl=g_xspl+? where g_sn=?"),
         { stock, purchases, sales, goods });
 }
 

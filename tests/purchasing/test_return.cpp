@@ -185,8 +185,8 @@ TEST_F(ReturnTest, UncheckingOneOfTwoReturnsKeepsWhatTheOtherReturned)
     checkedReturn(draft({ returned("4") }));
     const QString second = checkedReturn(draft({ returned("3") }));
     ASSERT_TRUE(uncheckPurchaseReturn(session(), second));
-    EXPECT_EQ(rows(QStringLiteral("select jh_qxsl from jxc_jhsp where j_sn=? order by id"),
-                  { receipt }),
+    EXPECT_EQ(
+        rows(QStringLiteral("select jh_qxsl from jxc_jhsp where j_sn=? order by id"), { receipt }),
         (QStringList { "0", "0" }));
     EXPECT_EQ(savePurchaseReturn(session(), draft({ returned("7") })).message(),
         QStringLiteral("第1行：退货数量超过进货单CJ25031410001中该商品尚可退货的数量6！"));

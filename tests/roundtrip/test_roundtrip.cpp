@@ -63,7 +63,8 @@ purchasing::PurchaseDraft purchaseDraft(const QString &date, const QString &ware
     return d;
 }
 
-sales::SaleDraft saleDraft(const QString &date, const char *quantity, const char *price, double paid)
+sales::SaleDraft saleDraft(
+    const QString &date, const char *quantity, const char *price, double paid)
 {
     sales::SaleDraft d;
     d.entry.date = date;
@@ -119,8 +120,8 @@ protected:
         receive(QStringLiteral("2025-03-20"), mainStore, "5", "12");
     }
 
-    void receive(const QString &date, const QString &warehouse, const char *quantity,
-        const char *price)
+    void receive(
+        const QString &date, const QString &warehouse, const char *quantity, const char *price)
     {
         const QString number = saved(purchasing::savePurchaseReceipt(
             session(), purchaseDraft(date, warehouse, quantity, price)));
@@ -137,9 +138,9 @@ protected:
     QString dumpWithout(const QStringList &columns)
     {
         QString dump;
-        const QList<QSqlRecord> tables = db().rows(QStringLiteral(
-            "select name from sqlite_master where type='table' and name not in "
-            "('jxc_log','sqlite_sequence') order by name"));
+        const QList<QSqlRecord> tables = db().rows(
+            QStringLiteral("select name from sqlite_master where type='table' and name not in "
+                           "('jxc_log','sqlite_sequence') order by name"));
         for (const QSqlRecord &table : tables) {
             const QString name = table.value(0).toString();
             QStringList kept;
@@ -153,10 +154,10 @@ protected:
                 {}, [&](const QSqlQuery &q) {
                     QStringList values;
                     for (int i = 0; i < kept.size(); ++i)
-                        values.append(q.value(i).isNull() ? QStringLiteral("<null>")
-                                                          : q.value(i).toString());
-                    dump += QStringLiteral("  ") + values.join(QLatin1Char('|'))
-                        + QLatin1Char('\n');
+                        values.append(
+                            q.value(i).isNull() ? QStringLiteral("<null>") : q.value(i).toString());
+                    dump
+                        += QStringLiteral("  ") + values.join(QLatin1Char('|')) + QLatin1Char('\n');
                 });
         }
         return dump;
@@ -203,8 +204,8 @@ const Kind kinds[] = {
         purchasing::uncheckPurchaseReceipt, true, true },
     { "PurchaseReturn",
         [](shell::Session &s) {
-            return saved(purchasing::savePurchaseReturn(
-                s, purchaseDraft(today, mainStore, "0.3", "10", 3)));
+            return saved(
+                purchasing::savePurchaseReturn(s, purchaseDraft(today, mainStore, "0.3", "10", 3)));
         },
         [](shell::Session &s, const QString &n) { return purchasing::checkPurchaseReturn(s, n); },
         purchasing::uncheckPurchaseReturn, true, true },

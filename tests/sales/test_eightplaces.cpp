@@ -24,8 +24,8 @@ protected:
     }
     QString checkedSaleFromB9(const QString &quantity)
     {
-        documents::LineDraft l = line(QStringLiteral("200001"), quantity, QStringLiteral("12"),
-            QStringLiteral("B9"));
+        documents::LineDraft l
+            = line(QStringLiteral("200001"), quantity, QStringLiteral("12"), QStringLiteral("B9"));
         l.expiry = QStringLiteral("2026-01-31");
         sales::SaleDraft d = draft({ l });
         d.entry.warehouse = QStringLiteral("100002");
@@ -53,8 +53,8 @@ protected:
 TEST_F(EightPlaces, ReceivingPointOneAndPointTwoThenSellingPointThreeLeavesExactlyNothing)
 {
     checkedSaleFromB9(QStringLiteral("0.3"));
-    EXPECT_EQ(stored(QStringLiteral("select t_sl from jxc_tkc where t_ph='B9'")),
-        QStringList { "0" });
+    EXPECT_EQ(
+        stored(QStringLiteral("select t_sl from jxc_tkc where t_ph='B9'")), QStringList { "0" });
     EXPECT_EQ(
         stored(QStringLiteral("select kc_sl,kc_zsl,kc_xssl from jxc_kcsp where g_sn='200001' and "
                               "ck_sn='100002'")),
@@ -89,6 +89,6 @@ TEST_F(EightPlaces, AnEmptiedBatchIsNotReportedShortWhenNegativeStockIsForbidden
     ui.clear();
     EXPECT_TRUE(sales::checkSale(session(), number));
     EXPECT_EQ(ui.informed, QStringList {});
-    EXPECT_EQ(stored(QStringLiteral("select t_sl from jxc_tkc where t_ph='B9'")),
-        QStringList { "-1" });
+    EXPECT_EQ(
+        stored(QStringLiteral("select t_sl from jxc_tkc where t_ph='B9'")), QStringList { "-1" });
 }

@@ -121,8 +121,7 @@ TEST_F(SalesOrders, ACheckedOrderIsDeletedAfterTheQuestionAndIsOfferedNoMore)
 {
     const QString order = checkedOrder();
     const QString before = snapshot();
-    const QString question
-        = "销售订单" + order + "已审核，删除后不能再导入销售单，确认删除吗？";
+    const QString question = "销售订单" + order + "已审核，删除后不能再导入销售单，确认删除吗？";
     ui.clear();
     ui.answerNext(false);
     EXPECT_FALSE(sales::deleteSalesOrder(session(), order));

@@ -169,8 +169,8 @@ TEST_F(SalesReturn, UncheckingOneOfTwoReturnsKeepsWhatTheOtherReturned)
     EXPECT_EQ(returnedOnLine(), QStringList { "7" });
     ASSERT_TRUE(sales::uncheckSalesReturn(session(), second));
     EXPECT_EQ(returnedOnLine(), QStringList { "4" });
-    EXPECT_EQ(rows(QStringLiteral("jxc_lsxsd"), QStringLiteral("ls_crk"), QStringLiteral("gl_djh=?"),
-                  { m_sale }),
+    EXPECT_EQ(rows(QStringLiteral("jxc_lsxsd"), QStringLiteral("ls_crk"),
+                  QStringLiteral("gl_djh=?"), { m_sale }),
         QStringList { "0" });
     ui.clear();
     EXPECT_FALSE(sales::saveSalesReturn(session(), [&] {

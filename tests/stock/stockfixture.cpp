@@ -71,8 +71,8 @@ stock::PostingHeader StockTest::receiptHeader(const QString &number)
                        "d.u_sn=a.u_sn where a.j_sn=?"),
         { number });
     return { number, r.value(0).toString(), r.value(1).toString(), r.value(2).toString(),
-        r.value(3).toString(), r.value(4).toString(), r.value(5).toString(),
-        r.value(6).toString(), r.value(7).toString(), r.value(8).toString() };
+        r.value(3).toString(), r.value(4).toString(), r.value(5).toString(), r.value(6).toString(),
+        r.value(7).toString(), r.value(8).toString() };
 }
 
 int StockTest::postReceipt(const QString &number)

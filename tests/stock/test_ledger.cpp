@@ -43,18 +43,17 @@ const StepCase stepCases[] = {
     { "dh_subtracts", tenAtTen, { "dh", 1, 0, 0 }, 0, 0, 9, 10, 90 },
     { "unknown_kind_ignored", tenAtTen, { "zz", 4, 48, 12 }, 0, 0, 10, 10, 100 },
     // The sums of the run, not the stock left, are what the average is taken over.
-    { "receipt_after_a_sale_of_the_run", fiveOfARun, { "cj", 10, 160, 16 }, 10, 160, 15, 13,
-        195 },
+    { "receipt_after_a_sale_of_the_run", fiveOfARun, { "cj", 10, 160, 16 }, 10, 160, 15, 13, 195 },
     // Receipt into negative stock: the sums are taken absolute and go on.
-    { "receipt_into_negative", stock::openingAfter(-5, 10, -50), { "cj", 10, 120, 12 }, 10, 120,
-        5, 11.33, 56.65 },
-    { "receipt_into_negative_of_a_run", { -5, 10, -50, 10, 100 }, { "cj", 10, 120, 12 }, 10, 120,
-        5, 11, 55 },
-    { "receipt_to_exactly_zero", stock::openingAfter(-10, 10, -100), { "cj", 10, 150, 15 }, 10,
-        150, 0, 15, 0 },
+    { "receipt_into_negative", stock::openingAfter(-5, 10, -50), { "cj", 10, 120, 12 }, 10, 120, 5,
+        11.33, 56.65 },
+    { "receipt_into_negative_of_a_run", { -5, 10, -50, 10, 100 }, { "cj", 10, 120, 12 }, 10, 120, 5,
+        11, 55 },
+    { "receipt_to_exactly_zero", stock::openingAfter(-10, 10, -100), { "cj", 10, 150, 15 }, 10, 150,
+        0, 15, 0 },
     { "return_of_everything", tenAtTen, { "ct", -10, -120, 12 }, -10, -120, 0, 10, 0 },
-    { "sale_before_any_receipt", stock::openingAfter(0, 7.5, 0), { "xs", 3, 30, 10 }, 0, 0, -3,
-        7.5, -22.5 },
+    { "sale_before_any_receipt", stock::openingAfter(0, 7.5, 0), { "xs", 3, 30, 10 }, 0, 0, -3, 7.5,
+        -22.5 },
     { "exact_half_rounds_up", {}, { "cj", 8, 1, 0.125 }, 8, 1, 8, 0.13, 1.04 },
 };
 
@@ -141,8 +140,8 @@ TEST_F(RerunTest, RowsOfOneDateRunInIdOrder)
     postRow("cj", "2025-01-02", amoxil, 10, 160, 16);
     postRow("xs", "2025-01-02", amoxil, 3, 45, 15);
     EXPECT_EQ(runningColumns(amoxil),
-        (QStringList { "cj 10 100 10 10 100", "xs 0 0 5 10 50", "cj 10 160 15 13 195",
-            "xs 0 0 12 13 156" }));
+        (QStringList {
+            "cj 10 100 10 10 100", "xs 0 0 5 10 50", "cj 10 160 15 13 195", "xs 0 0 12 13 156" }));
 }
 
 TEST_F(RerunTest, FirstRowOfAWarehouseStartsFromTheGoodsAverage)
