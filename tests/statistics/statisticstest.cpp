@@ -11,8 +11,6 @@
 #include "stock/documents/transfer.h"
 #include "tests/support/documentrows.h"
 
-#include <QSqlRecord>
-
 namespace medistock::test {
 
 namespace {
@@ -158,14 +156,13 @@ QString StatisticsTest::transfer(const QString &date, const QList<Line> &lines, 
 
 QStringList StatisticsTest::rows(const QString &sql, const QVariantList &params)
 {
-    QStringList lines;
-    for (const QSqlRecord &row : db().rows(sql, params)) {
-        QStringList values;
-        for (int i = 0; i < row.count(); ++i)
-            values.append(row.value(i).toString());
-        lines.append(values.join(QLatin1Char('|')));
-    }
-    return lines;
+    return selectTexts(db(), sql, params);
+}
+
+void StatisticsTest::januaryBooks()
+{
+    receipt("2025-01-05", { { "200001", "100", "10" }, { "200002", "50", "4" } });
+    sale("2025-01-20", { { "200001", "30", "15" }, { "200002", "10", "6" } });
 }
 
 QString StatisticsTest::snapshot()

@@ -39,6 +39,10 @@ protected:
     QString overflow(const QString &date, const QList<Line> &lines);
     QString transfer(const QString &date, const QList<Line> &lines, const QString &to);
 
+    // 100 boxes of 200001 at 10 and 50 bags of 200002 at 4 bought on 2025-01-05; 30 boxes at 15
+    // and 10 bags at 6 sold on the 20th.
+    void januaryBooks();
+
     // Rows of a select as "a|b|c".
     QStringList rows(const QString &sql, const QVariantList &params = {});
     // Everything except the log and the id counters.

@@ -36,8 +36,7 @@ protected:
     void SetUp() override
     {
         StatisticsTest::SetUp();
-        receipt("2025-01-05", { { "200001", "100", "10" }, { "200002", "50", "4" } });
-        sale("2025-01-20", { { "200001", "30", "15" }, { "200002", "10", "6" } });
+        januaryBooks();
         receipt("2025-02-03", { { "200001", "30", "12" } });
         salesReturn("2025-02-10", { { "200001", "5", "15" } });
         m_layouts = std::make_unique<ui::GridLayouts>(QDir(folder()).filePath("layout.ini"));

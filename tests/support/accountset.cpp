@@ -107,4 +107,17 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
     return dump;
 }
 
+QStringList selectTexts(
+    core::Connection &connection, const QString &sql, const QVariantList &params)
+{
+    QStringList lines;
+    for (const QSqlRecord &row : connection.rows(sql, params)) {
+        QStringList values;
+        for (int i = 0; i < row.count(); ++i)
+            values.append(row.value(i).toString());
+        lines.append(values.join(QLatin1Char('|')));
+    }
+    return lines;
+}
+
 } // namespace medistock::test

@@ -40,6 +40,22 @@ QValueAxis *valueAxis(double low, double high)
     return axis;
 }
 
+// The category axis on `side`, the value axis across it from low to high, and every series of
+// the chart on both.
+void setAxes(
+    QChart *chart, const QStringList &categories, Qt::Alignment side, double low, double high)
+{
+    auto *names = new QBarCategoryAxis;
+    names->append(categories);
+    chart->addAxis(names, side);
+    QValueAxis *values = valueAxis(low, high);
+    chart->addAxis(values, side == Qt::AlignBottom ? Qt::AlignLeft : Qt::AlignBottom);
+    for (QAbstractSeries *series : chart->series()) {
+        series->attachAxis(names);
+        series->attachAxis(values);
+    }
+}
+
 } // namespace
 
 QChartView *makeChartView(QWidget *parent)
@@ -69,15 +85,7 @@ void showSalesAndProfit(QChartView *view, const QStringList &periods, const QLis
     bars->append(sales);
     chart->addSeries(bars);
     chart->addSeries(line);
-    auto *categories = new QBarCategoryAxis;
-    categories->append(periods);
-    chart->addAxis(categories, Qt::AlignBottom);
-    QValueAxis *values = valueAxis(low, high);
-    chart->addAxis(values, Qt::AlignLeft);
-    for (QAbstractSeries *series : chart->series()) {
-        series->attachAxis(categories);
-        series->attachAxis(values);
-    }
+    setAxes(chart, periods, Qt::AlignBottom, low, high);
 }
 
 void showRanking(
@@ -100,13 +108,7 @@ void showRanking(
     series->append(set);
     series->setLabelsVisible(true);
     chart->addSeries(series);
-    auto *categories = new QBarCategoryAxis;
-    categories->append(labels);
-    chart->addAxis(categories, Qt::AlignLeft);
-    QValueAxis *axis = valueAxis(low, high);
-    chart->addAxis(axis, Qt::AlignBottom);
-    series->attachAxis(categories);
-    series->attachAxis(axis);
+    setAxes(chart, labels, Qt::AlignLeft, low, high);
 }
 
 void showShares(
