@@ -16,54 +16,84 @@ namespace medistock::statistics {
 
 namespace {
 
-constexpr int steps = 4;
+constexpr int steps = 2;
 
-const QString insertColumns = QStringLiteral(
-    "insert into jxc_jxchz (g_sn,hz_kc,hz_kczje,hz_rksl,hz_rkzje,hz_cksl,hz_ckzje,hz_glkc,"
-    "hz_glkczje,a_name) ");
-
-// Step 2 and 4: the running columns of those rows into the opening or the closing columns.
-void insertStock(
-    const shell::Session &session, const QString &operatorName, const Sql &ids, bool closing)
+// The id of the last ledger row of the pair (g, w) dated before `bound`, or on or before it.
+Sql lastRowId(const QString &bound, bool inclusive)
 {
-    const QString columns = closing
-        ? QStringLiteral("0,0,0,0,0,0,coalesce(x.gl_kc,0),coalesce(x.gl_kczje,0)")
-        : QStringLiteral("coalesce(x.gl_kc,0),coalesce(x.gl_kczje,0),0,0,0,0,0,0");
-    Sql sql { insertColumns
-            + QStringLiteral("select x.g_sn,%1,? from jxc_goodslist x where x.id in (")
-                  .arg(columns),
-        { operatorName } };
-    sql += ids;
-    sql.text += QLatin1Char(')');
-    session.db().exec(sql.text, sql.params);
+    return { QStringLiteral("(select y.id from jxc_goodslist y where y.g_sn=g.g_sn and "
+                            "y.ck_sn=w.ck_sn and y.gl_kdrq%1? order by y.gl_kdrq desc,y.id desc "
+                            "limit 1)")
+                 .arg(inclusive ? QStringLiteral("<=") : QStringLiteral("<")),
+        { bound } };
 }
 
-Sql summed(bool inward, Figure figure, Valuation valuation)
+// Every goods with every warehouse (or the one asked for), as g and w. Goods and warehouses come
+// from their own tables, so that each pair is one seek into the ledger's (g_sn,ck_sn,gl_kdrq,id)
+// index.
+Sql pairs(const QString &warehouse)
 {
-    Sql sql { QStringLiteral("coalesce(sum"), {} };
-    sql += movementFigure(inward, figure, valuation);
-    sql.text += QStringLiteral(",0)");
+    Sql sql { QStringLiteral(" from (select distinct g_sn from jxc_goods where g_sn<>?) g,"
+                             "jxc_ckxx w"),
+        { documents::discountGoods() } };
+    if (!warehouse.isEmpty())
+        sql += { QStringLiteral(" where w.ck_sn=?"), { warehouse } };
     return sql;
 }
 
-// Step 3: the inward and outward sums per goods.
-void insertMovements(
-    const shell::Session &session, const QString &operatorName, const JxcRequest &request)
+// Per goods, the opening and the closing stock summed over its warehouses, and how many of its
+// warehouses have a row by the end.
+Sql stockPerGoods(const JxcRequest &request)
 {
-    Sql sql { insertColumns + QStringLiteral("select a.g_sn,0,0,"), {} };
-    sql += summed(true, Figure::Quantity, request.valuation);
-    sql.text += QLatin1Char(',');
-    sql += summed(true, Figure::Amount, request.valuation);
-    sql.text += QLatin1Char(',');
-    sql += summed(false, Figure::Quantity, request.valuation);
-    sql.text += QLatin1Char(',');
-    sql += summed(false, Figure::Amount, request.valuation);
-    sql += { QStringLiteral(",0,0,? from jxc_goodslist a where a.g_sn<>? and a.gl_kdrq>=? and "
+    Sql sql { QStringLiteral("select p.g_sn,sum(o.gl_kc) as kc,sum(o.gl_kczje) as kczje,"
+                             "sum(c.gl_kc) as glkc,sum(c.gl_kczje) as glkczje,count(p.cid) as kept "
+                             "from (select g.g_sn,"),
+        {} };
+    sql += lastRowId(request.range.from, false);
+    sql.text += QStringLiteral(" as oid,");
+    sql += lastRowId(request.range.toEnd(), true);
+    sql.text += QStringLiteral(" as cid");
+    sql += pairs(request.warehouse);
+    sql.text += QStringLiteral(") p left join jxc_goodslist o on o.id=p.oid left join "
+                               "jxc_goodslist c on c.id=p.cid group by p.g_sn");
+    return sql;
+}
+
+// Per goods, the inward and outward quantity and amount of the range by the kind table.
+Sql movementsPerGoods(const JxcRequest &request)
+{
+    Sql sql { QStringLiteral("select a.g_sn"), {} };
+    const std::pair<bool, Figure> figures[] = { { true, Figure::Quantity },
+        { true, Figure::Amount }, { false, Figure::Quantity }, { false, Figure::Amount } };
+    const char *names[] = { "rksl", "rkzje", "cksl", "ckzje" };
+    for (int i = 0; i < 4; ++i) {
+        sql.text += QStringLiteral(",sum");
+        sql += movementFigure(figures[i].first, figures[i].second, request.valuation);
+        sql.text += QStringLiteral(" as ") + QLatin1String(names[i]);
+    }
+    sql += { QStringLiteral(" from jxc_goodslist a where a.g_sn<>? and a.gl_kdrq>=? and "
                             "a.gl_kdrq<=?"),
-        { operatorName, documents::discountGoods(), request.range.from, request.range.toEnd() } };
+        { documents::discountGoods(), request.range.from, request.range.toEnd() } };
     if (!request.warehouse.isEmpty())
         sql += { QStringLiteral(" and a.ck_sn=?"), { request.warehouse } };
     sql.text += QStringLiteral(" group by a.g_sn");
+    return sql;
+}
+
+// One row per goods that has stock or movement by the end of the range.
+void insertSummary(
+    const shell::Session &session, const QString &operatorName, const JxcRequest &request)
+{
+    Sql sql { QStringLiteral(
+                  "insert into jxc_jxchz (g_sn,hz_kc,hz_kczje,hz_rksl,hz_rkzje,hz_cksl,hz_ckzje,"
+                  "hz_glkc,hz_glkczje,a_name) select s.g_sn,coalesce(s.kc,0),coalesce(s.kczje,0),"
+                  "coalesce(m.rksl,0),coalesce(m.rkzje,0),coalesce(m.cksl,0),coalesce(m.ckzje,0),"
+                  "coalesce(s.glkc,0),coalesce(s.glkczje,0),? from ("),
+        { operatorName } };
+    sql += stockPerGoods(request);
+    sql.text += QStringLiteral(") s left join (");
+    sql += movementsPerGoods(request);
+    sql.text += QStringLiteral(") m on m.g_sn=s.g_sn where s.kept>0");
     session.db().exec(sql.text, sql.params);
 }
 
@@ -72,19 +102,12 @@ Outcome build(const shell::Session &session, const JxcRequest &request, const Pr
     const QString operatorName = session.user().name;
     core::Transaction transaction(session.db());
     session.db().exec(QStringLiteral("delete from jxc_jxchz where a_name=?"), { operatorName });
-    insertStock(session, operatorName,
-        lastLedgerRowIds(request.range.from, false, request.warehouse), false);
     if (!goOn(progress, 1, steps))
         return Outcome::refused(texts::cancelled());
-    insertMovements(session, operatorName, request);
-    if (!goOn(progress, 2, steps))
-        return Outcome::refused(texts::cancelled());
-    insertStock(session, operatorName,
-        lastLedgerRowIds(request.range.toEnd(), true, request.warehouse), true);
-    if (!goOn(progress, 3, steps))
+    insertSummary(session, operatorName, request);
+    if (!goOn(progress, steps, steps))
         return Outcome::refused(texts::cancelled());
     transaction.commit();
-    goOn(progress, steps, steps);
     return Outcome::done();
 }
 
@@ -166,18 +189,11 @@ QString differenceMessage(const QList<JxcRow> &rows)
     return lines.join(QStringLiteral("\r\n"));
 }
 
-// Goods and warehouses come from their own tables, so that each pair is one seek into the
-// ledger's (g_sn,ck_sn,gl_kdrq,id) index.
 Sql lastLedgerRowIds(const QString &bound, bool inclusive, const QString &warehouse)
 {
-    Sql sql { QStringLiteral("select (select y.id from jxc_goodslist y where y.g_sn=g.g_sn and "
-                             "y.ck_sn=c.ck_sn and y.gl_kdrq%1? order by y.gl_kdrq desc,y.id desc "
-                             "limit 1) from (select distinct g_sn from jxc_goods where g_sn<>?) g,"
-                             "jxc_ckxx c")
-                  .arg(inclusive ? QStringLiteral("<=") : QStringLiteral("<")),
-        { bound, documents::discountGoods() } };
-    if (!warehouse.isEmpty())
-        sql += { QStringLiteral(" where c.ck_sn=?"), { warehouse } };
+    Sql sql { QStringLiteral("select "), {} };
+    sql += lastRowId(bound, inclusive);
+    sql += pairs(warehouse);
     return sql;
 }
 

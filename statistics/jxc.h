@@ -20,10 +20,10 @@ namespace medistock::statistics {
 //   movements.h;
 // - the ledger's own closing stock: per goods and warehouse, the running columns of its last
 //   row on or before the end date.
-// The figures are written into the operator's rows of jxc_jxchz (a_name), one row per goods and
-// warehouse for the opening and closing stock and one per goods for the movements, so that the
-// printed report and the difference check read what the screen showed. Building the rows for one
-// operator never touches another operator's.
+// The figures are written into the operator's rows of jxc_jxchz (a_name), one row per goods that
+// has a ledger row by the end of the range, with the opening and closing stock summed over its
+// warehouses, so that the printed report and the difference check read what the screen showed.
+// Building the rows for one operator never touches another operator's.
 
 struct JxcRequest
 {
@@ -33,7 +33,8 @@ struct JxcRequest
 };
 
 // Clears the operator's rows of jxc_jxchz and writes the summary of the request, in one
-// transaction. Right "进销存统计" (tjgl 13). Four steps for `progress`; a cancel rolls back.
+// transaction. Right "进销存统计" (tjgl 13). Two steps for `progress` (cleared, written); a
+// cancel rolls back.
 Outcome buildJxcSummary(
     const shell::Session &session, const JxcRequest &request, const Progress &progress = {});
 

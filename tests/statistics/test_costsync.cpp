@@ -134,3 +134,13 @@ TEST_F(CostSync, ANoARefusalOrACancelLeavesEverythingAsItWas)
     EXPECT_EQ(cancelled.message(), texts::cancelled());
     EXPECT_EQ(snapshot(), before);
 }
+
+TEST_F(CostSync, AGoodsWithAFixedCostIsValuedAtItsPurchasePrice)
+{
+    db().exec("update jxc_goods set g_gdcbj=1,g_jj=9.5 where g_sn='200001'");
+    ASSERT_TRUE(syncOutwardCosts(session(), { "2025-01-01", "2025-01-31" }).ok());
+    EXPECT_EQ(ledger(m_sale), QStringList { "xs|30|450|450|9.5|285|165" });
+    EXPECT_EQ(rows("select ls_zcb from jxc_lsxssp where gl_djh=? and g_sn='200001'", { m_sale }),
+        QStringList { "285" });
+    EXPECT_EQ(ledger(m_loss), QStringList { "bs|-2|-19|-19|9.5|-19|0" });
+}

@@ -1,3 +1,4 @@
+#include "purchasing/entry.h"
 #include "shell/settings.h"
 #include "statistics/reports.h"
 #include "statistics/texts.h"
@@ -310,4 +311,53 @@ TEST_F(StatisticsTest, EachReportNeedsItsOwnRight)
     MovementQuery query;
     EXPECT_TRUE(movementRows(session(), query, 13).ok());
     EXPECT_FALSE(movementRows(session(), query).ok());
+}
+
+TEST_F(Reports, UncheckedDocumentsCountNowhereButAreFoundByTheirStatus)
+{
+    purchasing::PurchaseDraft d;
+    d.entry.date = QStringLiteral("2025-03-01");
+    d.entry.party = QStringLiteral("100002");
+    d.entry.warehouse = QStringLiteral("100001");
+    documents::LineDraft line;
+    line.goods = QStringLiteral("200001");
+    line.quantity = QStringLiteral("7");
+    line.price = QStringLiteral("11");
+    d.entry.lines = { line };
+    const Result<QString> saved = purchasing::savePurchaseReceipt(session(), d);
+    ASSERT_TRUE(saved.ok());
+
+    EXPECT_EQ(shown(purchasesBy(session(), quarter(), PurchaseGrouping::Goods)).value(0),
+        "200001 阿莫西林胶囊: 3 docs, in 130/1360, back 5/60, net 125/1300");
+    DocumentSearch unchecked;
+    unchecked.status = 0;
+    const Result<QList<DocumentRow>> found = searchDocuments(session(), unchecked);
+    ASSERT_TRUE(found.ok());
+    ASSERT_EQ(found->size(), 1);
+    EXPECT_EQ(found->first().number, saved.value());
+    EXPECT_EQ(found->first().amount, 77);
+    DocumentSearch january;
+    january.range = { "2025-01-01", "2025-01-31" };
+    january.number = QStringLiteral("XS");
+    const Result<QList<DocumentRow>> sales = searchDocuments(session(), january);
+    ASSERT_TRUE(sales.ok());
+    EXPECT_EQ(sales->size(), 1);
+}
+
+TEST_F(Reports, StockCostOfOneWarehouseFollowsATransfer)
+{
+    transfer("2025-03-10", { { "200001", "7", "10.53" } }, QStringLiteral("100002"));
+    ReportFilter branch = quarter();
+    branch.warehouse = QStringLiteral("100002");
+    const Result<QList<StockCostRow>> rows
+        = stockCostAsOf(session(), "2025-03-14", branch, StockGrouping::Goods);
+    ASSERT_TRUE(rows.ok());
+    ASSERT_EQ(rows->size(), 1);
+    EXPECT_EQ(QStringLiteral("%1 %2 %3 %4")
+                  .arg(rows->first().key)
+                  .arg(rows->first().quantity)
+                  .arg(rows->first().amount)
+                  .arg(rows->first().averageCost),
+        "200001 7 73.71 10.53");
+    EXPECT_TRUE(stockCostAsOf(session(), "2025-03-09", branch, StockGrouping::Goods)->isEmpty());
 }

@@ -13,6 +13,7 @@
 #include "ui/statistics/screens.h"
 #include "ui/statistics/texts.h"
 
+#include <QBrush>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDir>
@@ -197,6 +198,23 @@ TEST_F(StatisticsScreens, ARefusalIsToldACancelLeavesTheGridAndExportWritesTheTo
         (QStringList { "合计", "110", "860" }));
 }
 
+TEST_F(StatisticsScreens, TheTotalsRowAddsTheSummedColumnsAndNegativeAmountsAreRed)
+{
+    ReportModel model({ { "编号", CellKind::Text }, { "数量", CellKind::Quantity, true },
+                          { "金额", CellKind::Amount, true }, { "单价", CellKind::Price } },
+        session().params(), nullptr);
+    EXPECT_EQ(model.rowCount(), 0); // no rows, no totals
+    model.setTable({ { { "A", 1.005, 10.1, 3 }, { "B", 2, -20.3, 4 } }, { "A", "B" }, {} });
+    ASSERT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(
+        (QStringList { model.text(2, 0), model.text(2, 1), model.text(2, 2), model.text(2, 3) }),
+        (QStringList { "合计", "3.01", "-10.20", "" }));
+    EXPECT_EQ(model.data(model.index(1, 2), Qt::ForegroundRole).value<QBrush>().color(), Qt::red);
+    EXPECT_FALSE(model.data(model.index(0, 2), Qt::ForegroundRole).isValid());
+    EXPECT_EQ(model.data(model.index(0, 1), Qt::TextAlignmentRole).toInt(),
+        int(Qt::AlignRight | Qt::AlignVCenter));
+}
+
 TEST_F(StatisticsScreens, CostAndProfitColumnsShowOnlyWithTheirRight)
 {
     test::addOperatorWithRights(session(), "小王", { { "tjgl", "0000100000001" } });
@@ -209,6 +227,17 @@ TEST_F(StatisticsScreens, CostAndProfitColumnsShowOnlyWithTheirRight)
     EXPECT_EQ(captions, (QStringList { "编号", "名称", "规格", "单位", "单据数", "数量", "金额" }));
     EXPECT_FALSE(sales->printButton()->isEnabled());
     EXPECT_FALSE(sales->printButton()->toolTip().isEmpty());
+    sales->filters()->from()->setDate(QDate(2025, 1, 1));
+    QSignalSpy finished(sales, &ReportScreen::finished);
+    sales->run();
+    ASSERT_TRUE(finished.wait(20000));
+    // The export holds what the screen shows: no cost, no profit.
+    const QString path = QDir(folder()).filePath("销售.xlsx");
+    ASSERT_TRUE(sales->exportTo(path));
+    const auto sheet = core::readXlsx(path);
+    ASSERT_TRUE(sheet.ok());
+    EXPECT_EQ(sheet.value().value(1),
+        (QStringList { "200001", "阿莫西林胶囊", "0.25g*24", "盒", "2", "25", "375" }));
     delete sales;
 }
 
