@@ -86,7 +86,7 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
     removeUncheckedCopies(session, kind, number);
     postMoney(session, kind, number, writtenOff);
     const int goods = postSaleStock(session, number);
-    memberPointsNotKeptYet(session, number, MemberEvent::SaleChecked);
+    postMemberEffects(session, number, MemberEvent::SaleChecked);
     session.log(texts::saleCheckedLog(number, goods));
     transaction.commit();
     return Outcome::done();
@@ -115,7 +115,7 @@ Outcome unpost(shell::Session &session, const QString &number)
         return checked;
     removeUncheckedCopies(session, kind, number);
     reverseSaleStock(session, number);
-    memberPointsNotKeptYet(session, number, MemberEvent::SaleUnchecked);
+    postMemberEffects(session, number, MemberEvent::SaleUnchecked);
     deletePosRows(session, number);
     markUnchecked(session, kind, number);
     accounts::removeDocumentPostings(session, number);

@@ -90,7 +90,7 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
         removeUncheckedCopies(session, kind, number);
         postMoney(session, kind, number);
         const int goods = postReturnStock(session, number);
-        memberPointsNotKeptYet(session, number, MemberEvent::ReturnChecked);
+        postMemberEffects(session, number, MemberEvent::ReturnChecked);
         session.log(texts::returnCheckedLog(number, goods));
     } else {
         removeUncheckedCopies(session, kind, number);
@@ -131,7 +131,7 @@ Outcome unpost(shell::Session &session, const QString &number)
     removeUncheckedCopies(session, kind, number);
     reverseReturnStock(session, number);
     freeReturnedSales(session, number);
-    memberPointsNotKeptYet(session, number, MemberEvent::ReturnUnchecked);
+    postMemberEffects(session, number, MemberEvent::ReturnUnchecked);
     deletePosRows(session, number);
     markUnchecked(session, kind, number);
     accounts::removeDocumentPostings(session, number);
