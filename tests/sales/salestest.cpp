@@ -152,18 +152,4 @@ QString SalesTest::snapshot()
     return dumpDatabase(db(), { QStringLiteral("jxc_log"), QStringLiteral("sqlite_sequence") });
 }
 
-QStringList differences(const QString &before, const QString &after)
-{
-    const QStringList a = before.split(QLatin1Char('\n'));
-    const QStringList b = after.split(QLatin1Char('\n'));
-    QStringList changed;
-    for (const QString &line : a)
-        if (!b.contains(line))
-            changed.append(QStringLiteral("-") + line);
-    for (const QString &line : b)
-        if (!a.contains(line))
-            changed.append(QStringLiteral("+") + line);
-    return changed;
-}
-
 } // namespace medistock::test

@@ -107,4 +107,18 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
     return dump;
 }
 
+QStringList differences(const QString &before, const QString &after)
+{
+    const QStringList a = before.split(QLatin1Char('\n'));
+    const QStringList b = after.split(QLatin1Char('\n'));
+    QStringList changed;
+    for (const QString &line : a)
+        if (!b.contains(line))
+            changed.append(QStringLiteral("-") + line);
+    for (const QString &line : b)
+        if (!a.contains(line))
+            changed.append(QStringLiteral("+") + line);
+    return changed;
+}
+
 } // namespace medistock::test

@@ -75,5 +75,8 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
 // The rows of one table as text lines.
 QStringList dumpTable(core::Connection &connection, const QString &table);
 int rowCount(core::Connection &connection, const QString &table);
+// The lines of two snapshots that differ, each marked "-" (only before) or "+" (only after);
+// empty when they are equal.
+QStringList differences(const QString &before, const QString &after);
 
 } // namespace medistock::test
