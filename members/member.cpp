@@ -135,6 +135,20 @@ std::optional<Member> findMemberByCard(core::Connection &connection, const QStri
     return memberOf(r);
 }
 
+QList<QSqlRecord> searchMembers(core::Connection &connection, const QString &text)
+{
+    const QString select = QStringLiteral(
+        "select a.*,(select hl_name from jxc_hyfl where hl_sn=a.hl_sn order by id limit 1) as "
+        "hl_name from jxc_hyxx a");
+    if (text.trimmed().isEmpty())
+        return connection.rows(select + QStringLiteral(" order by a.id"));
+    const QString pattern = QLatin1Char('%') + text.trimmed() + QLatin1Char('%');
+    return connection.rows(select
+            + QStringLiteral(" where a.hy_sn like ? or a.hy_bh like ? or a.hy_name like ? or "
+                             "a.hy_jm like ? or a.hy_mobile like ? or a.hy_tele like ? order by a.id"),
+        { pattern, pattern, pattern, pattern, pattern, pattern });
+}
+
 QString nextCardNumber(core::Connection &connection)
 {
     qint64 largest = 0;

@@ -3,6 +3,8 @@
 #include "core/outcome.h"
 #include "masterdata/masterrows.h"
 
+#include <QList>
+#include <QSqlRecord>
 #include <QString>
 #include <QVariant>
 
@@ -52,6 +54,10 @@ std::optional<Member> readMember(core::Connection &connection, const QString &co
 // A usable card found by card number, mobile or telephone: members whose card is not active are
 // not found.
 std::optional<Member> findMemberByCard(core::Connection &connection, const QString &text);
+
+// The members whose code, card number, name, mnemonic, mobile or telephone contains the text
+// (every member when it is empty), in id order, each with its level's name as "hl_name".
+QList<QSqlRecord> searchMembers(core::Connection &connection, const QString &text);
 
 // The next card number: the largest six-digit numeric card number plus one, "100001" when there
 // is none.

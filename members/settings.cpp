@@ -19,6 +19,20 @@ namespace {
 const char *const columns[] = { "jf_mfje", "jf_jfgz", "jf_yelj", "jf_dbjf", "jf_dbrq1", "jf_dbrq2",
     "jf_srjfbs", "jf_srjflx", "jf_srjfts" };
 
+// What the settings form calls each setting, for the messages.
+QString labelOf(const QString &column)
+{
+    const std::pair<const char *, const char *> labels[] = { { "jf_mfje", "每积一分的消费金额" },
+        { "jf_jfgz", "储值卡付款部分参与积分" }, { "jf_yelj", "积分后的消费余额累计到下次消费" },
+        { "jf_dbjf", "积分倍数" }, { "jf_dbrq1", "多倍积分开始日期" },
+        { "jf_dbrq2", "多倍积分结束日期" }, { "jf_srjfbs", "生日积分倍数" },
+        { "jf_srjflx", "生日积分方式" }, { "jf_srjfts", "生日前后天数" } };
+    for (const auto &[name, label] : labels)
+        if (column == QLatin1String(name))
+            return QString::fromUtf8(label);
+    return column;
+}
+
 bool isDate(const QString &text)
 {
     return QDate::fromString(text, QStringLiteral("yyyy-MM-dd")).isValid();
@@ -40,7 +54,7 @@ Outcome wholeNumber(const QString &column, const QString &text, int &target)
     bool ok = false;
     const int value = text.trimmed().isEmpty() ? 0 : text.trimmed().toInt(&ok);
     if ((!ok && !text.trimmed().isEmpty()) || value < 0)
-        return Outcome::refused(texts::settingNotWholeNumber(column, text));
+        return Outcome::refused(texts::settingNotWholeNumber(labelOf(column), text));
     target = value;
     return Outcome::done();
 }
@@ -124,11 +138,11 @@ Outcome applyPointsSetting(PointsSettings &s, const QString &column, const QStri
     } else if (column == QLatin1String("jf_jfgz") || column == QLatin1String("jf_yelj")) {
         const bool on = readBool(text, ok);
         if (!ok)
-            return Outcome::refused(texts::settingNotFlag(column, value));
+            return Outcome::refused(texts::settingNotFlag(labelOf(column), value));
         (column == QLatin1String("jf_jfgz") ? s.cardEarnsPoints : s.carryRemainder) = on;
     } else if (column == QLatin1String("jf_dbrq1") || column == QLatin1String("jf_dbrq2")) {
         if (!text.isEmpty() && !isDate(text))
-            return Outcome::refused(texts::settingNotDate(column, value));
+            return Outcome::refused(texts::settingNotDate(labelOf(column), value));
         (column == QLatin1String("jf_dbrq1") ? s.multipleFrom : s.multipleTo) = text;
     } else if (column == QLatin1String("jf_dbjf")) {
         return wholeNumber(column, text, s.multiple);

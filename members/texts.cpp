@@ -138,19 +138,19 @@ QString amountPerPointInvalid(const QString &value)
     return QStringLiteral("每积一分的消费金额“%1”不是有效的金额！").arg(value);
 }
 
-QString settingNotFlag(const QString &column, const QString &value)
+QString settingNotFlag(const QString &label, const QString &value)
 {
-    return QStringLiteral("%1 只能是 0 或 1，不能是“%2”！").arg(column, value);
+    return QStringLiteral("%1只能是 0 或 1，不能是“%2”！").arg(label, value);
 }
 
-QString settingNotDate(const QString &column, const QString &value)
+QString settingNotDate(const QString &label, const QString &value)
 {
-    return QStringLiteral("%1 不是有效的日期（yyyy-MM-dd）：“%2”！").arg(column, value);
+    return QStringLiteral("%1“%2”不是有效的日期（yyyy-MM-dd）！").arg(label, value);
 }
 
-QString settingNotWholeNumber(const QString &column, const QString &value)
+QString settingNotWholeNumber(const QString &label, const QString &value)
 {
-    return QStringLiteral("%1 必须是不小于0的整数，不能是“%2”！").arg(column, value);
+    return QStringLiteral("%1必须是不小于0的整数，不能是“%2”！").arg(label, value);
 }
 
 QString birthdayRuleInvalid(const QString &value)

@@ -34,9 +34,10 @@ QString levelDeletedLog(const QString &code);
 
 // Points settings
 QString amountPerPointInvalid(const QString &value);
-QString settingNotFlag(const QString &column, const QString &value);
-QString settingNotDate(const QString &column, const QString &value);
-QString settingNotWholeNumber(const QString &column, const QString &value);
+// `label` is what the settings form calls the setting
+QString settingNotFlag(const QString &label, const QString &value);
+QString settingNotDate(const QString &label, const QString &value);
+QString settingNotWholeNumber(const QString &label, const QString &value);
 QString birthdayRuleInvalid(const QString &value);
 QString unknownSetting(const QString &column);
 QString multipleRangeRequired();
