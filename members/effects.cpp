@@ -41,8 +41,8 @@ std::optional<PosFigures> readPosFigures(core::Connection &db, const QString &nu
 
 // One value of a sum over the document's lines joined with their goods; empty when no line
 // matches.
-std::optional<double> lineSum(core::Connection &db, const QString &number, const QString &what,
-    const QString &condition)
+std::optional<double> lineSum(
+    core::Connection &db, const QString &number, const QString &what, const QString &condition)
 {
     const QVariant sum = db.firstValue(
         QStringLiteral("select sum(%1) from jxc_posxssp a,jxc_goods b where a.g_sn=b.g_sn and %2 "
@@ -133,8 +133,7 @@ double cashBackOf(core::Connection &db, const QString &scheme, double amount)
 
 // A card payment that earned nothing still counts a visit and the consumption; a return leaves
 // the card balance alone.
-void cardPaymentOnly(
-    core::Connection &db, const QString &member, double card, bool isReturn)
+void cardPaymentOnly(core::Connection &db, const QString &member, double card, bool isReturn)
 {
     if (card == 0)
         return;
@@ -184,9 +183,9 @@ void postSaleOrReturn(const shell::Session &session, const QString &number, cons
         releaseConsumptionGifts(session, number, member.code);
     double amount = isReturn ? -doc.payable : doc.payable;
     const double sign = isReturn ? -1 : 1;
-    const double special
-        = sign * std::trunc(lineSum(db, number, QStringLiteral("a.pos_sl*b.g_tsjf"), specialPoints)
-                                .value_or(0));
+    const double special = sign
+        * std::trunc(
+            lineSum(db, number, QStringLiteral("a.pos_sl*b.g_tsjf"), specialPoints).value_or(0));
     amount -= sign * lineSum(db, number, QStringLiteral("a.pos_zje"), specialPoints).value_or(0);
     double points = 0;
     if (!settings.pointsOff()) {
@@ -197,16 +196,16 @@ void postSaleOrReturn(const shell::Session &session, const QString &number, cons
             cardPaymentOnly(db, member.code, doc.card, isReturn);
             return;
         }
-        points = withFactors(
-            std::trunc(amount / settings.amountPerPoint), settings, member, doc.time);
+        points
+            = withFactors(std::trunc(amount / settings.amountPerPoint), settings, member, doc.time);
     }
     const Computed computed { special + std::trunc(points), cashBackOf(db, member.scheme, amount) };
     writeSaleOrReturn(db, number, member, doc, computed, isReturn);
     updateRemainder(session, member.code, settings);
 }
 
-void reverse(const shell::Session &session, const QString &member, const PosFigures &doc,
-    bool isReturn)
+void reverse(
+    const shell::Session &session, const QString &member, const PosFigures &doc, bool isReturn)
 {
     core::Connection &db = session.db();
     db.exec(QStringLiteral("update jxc_hyxx set hy_zjf=hy_zjf-?,hy_jf=hy_jf-?,"
@@ -224,8 +223,8 @@ void reverse(const shell::Session &session, const QString &member, const PosFigu
 
 } // namespace
 
-void postMemberEffects(const shell::Session &session, const QString &number,
-    const QString &member, MemberOperation operation)
+void postMemberEffects(const shell::Session &session, const QString &number, const QString &member,
+    MemberOperation operation)
 {
     core::Connection &db = session.db();
     const std::optional<PosFigures> doc = readPosFigures(db, number);

@@ -37,7 +37,7 @@ enum class MemberOperation { Sale, Return, SaleReversed, ReturnReversed };
 // Every figure comes from the POS document of the number. A sales document entered in the back
 // office has none, and nothing was posted for it that could be reversed: its member is left as
 // it is.
-void postMemberEffects(const shell::Session &session, const QString &number,
-    const QString &member, MemberOperation operation);
+void postMemberEffects(const shell::Session &session, const QString &number, const QString &member,
+    MemberOperation operation);
 
 } // namespace medistock::members

@@ -66,9 +66,9 @@ void appendMovements(core::Connection &db, const QString &sql, const QString &co
     const QString &kind, double sign, QList<GiftMovement> &movements)
 {
     db.forEach(sql, { code }, [&](const QSqlQuery &q) {
-        movements.append({ sort, q.value(0).toLongLong(), q.value(1).toString(),
-            q.value(2).toString(), sign * q.value(3).toDouble(), kind, q.value(4).toString(),
-            q.value(5).toString() });
+        movements.append(
+            { sort, q.value(0).toLongLong(), q.value(1).toString(), q.value(2).toString(),
+                sign * q.value(3).toDouble(), kind, q.value(4).toString(), q.value(5).toString() });
     });
 }
 

@@ -12,8 +12,8 @@ namespace medistock::members {
 namespace {
 
 // Each query gives time, kind, number, amount, points and note, in that order.
-void append(core::Connection &db, const QString &sql, const QVariantList &params,
-    QList<HistoryRow> &rows)
+void append(
+    core::Connection &db, const QString &sql, const QVariantList &params, QList<HistoryRow> &rows)
 {
     db.forEach(sql, params, [&](const QSqlQuery &q) {
         rows.append({ q.value(0).toString(), q.value(1).toString(), q.value(2).toString(),

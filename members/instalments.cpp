@@ -95,8 +95,8 @@ void takeInstalments(core::Connection &db, const GiftRow &row, int count, const 
 }
 
 // One consumption release: mode 2 by month, mode 4 by day.
-void releaseOnPurchase(const shell::Session &session, const QString &number,
-    const QString &member, int mode)
+void releaseOnPurchase(
+    const shell::Session &session, const QString &number, const QString &member, int mode)
 {
     core::Connection &db = session.db();
     const Unit unit = mode == 2 ? Unit::Month : Unit::Day;
@@ -160,8 +160,8 @@ int releaseByCalendar(const shell::Session &session, const QString &number, int 
         const int covered = int(std::floor(row.left / row.perInstalment + margin));
         due.append({ row, std::min(row.waited, covered) });
     }
-    std::stable_sort(due.begin(), due.end(),
-        [](const Due &a, const Due &b) { return a.count > b.count; });
+    std::stable_sort(
+        due.begin(), due.end(), [](const Due &a, const Due &b) { return a.count > b.count; });
     const QString today = session.today();
     for (const Due &d : due) {
         const double amount = d.row.perInstalment * d.count;
@@ -182,7 +182,8 @@ void forfeit(core::Connection &db, int mode, QDate until)
     const QString date = until.toString(Qt::ISODate);
     for (const GiftRow &row : dueRows(db, mode, until, unit, {}))
         takeInstalments(db, row, row.waited, date);
-    db.exec(QStringLiteral("update jxc_hyxf set hs_zsje=0 where hs_zsfs=? and hs_zsje<0"), { mode });
+    db.exec(
+        QStringLiteral("update jxc_hyxf set hs_zsje=0 where hs_zsfs=? and hs_zsje<0"), { mode });
 }
 
 void creditReleases(core::Connection &db, const QString &number)

@@ -33,8 +33,8 @@ Outcome checkLevel(core::Connection &db, const Level &level)
                        "hl_jfxx<=? and hl_jfsx>=? order by id limit 1"),
         { level.code, level.upper, level.lower });
     if (!overlap.isEmpty())
-        return Outcome::refused(texts::levelsOverlap(overlap.value(0).toString(),
-            overlap.value(1).toDouble(), overlap.value(2).toDouble()));
+        return Outcome::refused(texts::levelsOverlap(
+            overlap.value(0).toString(), overlap.value(1).toDouble(), overlap.value(2).toDouble()));
     return Outcome::done();
 }
 

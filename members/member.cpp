@@ -60,8 +60,8 @@ Outcome claimCard(core::Connection &db, masterdata::Values &values, const QStrin
         values.insert(column("hy_bh"), nextCardNumber(db));
         return Outcome::done();
     }
-    if (db.exists(QStringLiteral("select id from jxc_hyxx where hy_bh=? and hy_sn<>?"),
-            { card, code }))
+    if (db.exists(
+            QStringLiteral("select id from jxc_hyxx where hy_bh=? and hy_sn<>?"), { card, code }))
         return Outcome::refused(texts::cardTaken(card));
     return Outcome::done();
 }
@@ -90,11 +90,6 @@ void followLevel(core::Connection &db, masterdata::Values &values, double lifeti
         { lifetimePoints, lifetimePoints });
     if (!level.isEmpty())
         values.insert(column("hl_sn"), level);
-}
-
-void logChange(const shell::Session &session, const QString &text)
-{
-    session.log(text);
 }
 
 } // namespace
@@ -144,16 +139,16 @@ QList<QSqlRecord> searchMembers(core::Connection &connection, const QString &tex
         return connection.rows(select + QStringLiteral(" order by a.id"));
     const QString pattern = QLatin1Char('%') + text.trimmed() + QLatin1Char('%');
     return connection.rows(select
-            + QStringLiteral(" where a.hy_sn like ? or a.hy_bh like ? or a.hy_name like ? or "
-                             "a.hy_jm like ? or a.hy_mobile like ? or a.hy_tele like ? order by a.id"),
+            + QStringLiteral(
+                " where a.hy_sn like ? or a.hy_bh like ? or a.hy_name like ? or "
+                "a.hy_jm like ? or a.hy_mobile like ? or a.hy_tele like ? order by a.id"),
         { pattern, pattern, pattern, pattern, pattern, pattern });
 }
 
 QString nextCardNumber(core::Connection &connection)
 {
     qint64 largest = 0;
-    connection.forEach(
-        QStringLiteral("select hy_bh from jxc_hyxx where length(hy_bh)=?"), { 6 },
+    connection.forEach(QStringLiteral("select hy_bh from jxc_hyxx where length(hy_bh)=?"), { 6 },
         [&](const QSqlQuery &q) {
             const QString card = q.value(0).toString();
             bool numeric = true;
@@ -184,7 +179,7 @@ Result<QString> addMember(const shell::Session &session, masterdata::Values valu
             return core::refuse(session.ui(), card.message());
         followLevel(db, prepared.value(), prepared->value(column("hy_zjf")).toDouble());
         code = masterdata::insertPreparedRow(session, memberKind(), prepared.value());
-        logChange(session, texts::memberAddedLog(code, prepared->value(column("hy_name")).toString()));
+        session.log(texts::memberAddedLog(code, prepared->value(column("hy_name")).toString()));
         transaction.commit();
         return Outcome::done();
     });
@@ -227,7 +222,7 @@ Outcome changeMember(const shell::Session &session, const QString &code, masterd
         db.exec(QStringLiteral("update jxc_hyxx set %1 where hy_sn=?")
                     .arg(assignments.join(QLatin1Char(','))),
             params + QVariantList { code });
-        logChange(session, texts::memberChangedLog(code));
+        session.log(texts::memberChangedLog(code));
         transaction.commit();
         return Outcome::done();
     });
@@ -253,9 +248,9 @@ Outcome setMemberPoints(const shell::Session &session, const QString &code, doub
         db.exec(QStringLiteral("insert into jxc_jfdh (hy_sn,jf_xfjf,jf_rq,a_name,jf_note) values "
                                "(?,?,?,?,?)"),
             { code, points - member->points, session.clock().nowText(), session.user().name,
-                texts::pointsChangeNote(member->points, points, member->lifetimePoints,
-                    lifetimePoints, note) });
-        logChange(session, texts::pointsChangedLog(member->name, member->points, points));
+                texts::pointsChangeNote(
+                    member->points, points, member->lifetimePoints, lifetimePoints, note) });
+        session.log(texts::pointsChangedLog(member->name, member->points, points));
         transaction.commit();
         return Outcome::done();
     });
@@ -281,7 +276,7 @@ Outcome setMemberBalance(
                                "(?,?,?,?,?)"),
             { code, rounded - member->balance, session.clock().nowText(), session.user().name,
                 note.left(64) });
-        logChange(session, texts::balanceChangedLog(member->name, member->balance, rounded));
+        session.log(texts::balanceChangedLog(member->name, member->balance, rounded));
         transaction.commit();
         return Outcome::done();
     });

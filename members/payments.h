@@ -1,11 +1,7 @@
 #pragma once
 
-#include <QList>
 #include <QString>
 
-namespace medistock::core {
-class Connection;
-}
 namespace medistock::shell {
 class Session;
 }

@@ -27,8 +27,8 @@ namespace {
 // A redemption counts nothing as sold and names no batch.
 const stock::OutgoingCounting redemptionCounting { false, 0, false };
 
-const QString offeredGift = QStringLiteral(
-    "coalesce(a.g_iszp,0)<>0 and coalesce(a.g_sy,0)<>0 and coalesce(a.g_jy,0)=0");
+const QString offeredGift
+    = QStringLiteral("coalesce(a.g_iszp,0)<>0 and coalesce(a.g_sy,0)<>0 and coalesce(a.g_jy,0)=0");
 
 // The checked draft: the member as read, the lines with their points per unit from the goods.
 struct ValidRedemption
@@ -88,8 +88,9 @@ Result<ValidRedemption> validate(const shell::Session &session, const Redemption
 // The warehouse's cost of the goods, the goods average where the warehouse has no row.
 double issueCost(core::Connection &db, const QString &goods, const QString &warehouse)
 {
-    const QVariant cost = db.firstValue(
-        QStringLiteral("select kc_cbj from jxc_kcsp where g_sn=? and ck_sn=?"), { goods, warehouse });
+    const QVariant cost
+        = db.firstValue(QStringLiteral("select kc_cbj from jxc_kcsp where g_sn=? and ck_sn=?"),
+            { goods, warehouse });
     if (cost.isValid())
         return cost.toDouble();
     return db.firstValue(QStringLiteral("select g_pjjj from jxc_goods where g_sn=?"), { goods })
@@ -132,8 +133,7 @@ stock::LedgerRow ledgerRowOf(const shell::Session &session, const ValidRedemptio
     return row;
 }
 
-void writeRedemption(
-    const shell::Session &session, const ValidRedemption &r, const QString &number)
+void writeRedemption(const shell::Session &session, const ValidRedemption &r, const QString &number)
 {
     core::Connection &db = session.db();
     const RedemptionDraft &d = r.draft;
@@ -234,8 +234,8 @@ double RedemptionDraft::quantity() const
     return sum;
 }
 
-QString redeemedInPeriod(core::Connection &connection, const QString &member,
-    RedemptionPeriod period, QDate today)
+QString redeemedInPeriod(
+    core::Connection &connection, const QString &member, RedemptionPeriod period, QDate today)
 {
     QDate from = today;
     QDate to = today;
@@ -293,7 +293,8 @@ Outcome deleteRedemption(shell::Session &session, const QString &number)
     if (!allowed)
         return allowed;
     const Outcome found = core::guarded(session.ui(), [&] {
-        if (!session.db().exists(QStringLiteral("select id from jxc_dhd where gl_djh=?"), { number }))
+        if (!session.db().exists(
+                QStringLiteral("select id from jxc_dhd where gl_djh=?"), { number }))
             return core::refuse(session.ui(), documents::texts::documentMissing(number));
         return Outcome::done();
     });
@@ -311,8 +312,8 @@ Outcome deleteRedemption(shell::Session &session, const QString &number)
         if (header.isEmpty())
             return core::refuse(session.ui(), documents::texts::documentMissing(number));
         const double points
-            = db.firstValue(QStringLiteral("select sum(dh_jf) from jxc_dhzp where gl_djh=?"),
-                    { number })
+            = db.firstValue(
+                    QStringLiteral("select sum(dh_jf) from jxc_dhzp where gl_djh=?"), { number })
                   .toDouble();
         db.exec(QStringLiteral("update jxc_hyxx set hy_jf=hy_jf+? where hy_sn=?"),
             { points, header.value(0) });
@@ -329,7 +330,8 @@ Outcome deleteRedemption(shell::Session &session, const QString &number)
         accounts::removeExpenseRows(session, number);
         db.exec(QStringLiteral("delete from jxc_dhzp where gl_djh=?"), { number });
         db.exec(QStringLiteral("delete from jxc_dhd where gl_djh=?"), { number });
-        stock::settleWarehouse(session, header.value(1).toString(), header.value(2).toString().left(10));
+        stock::settleWarehouse(
+            session, header.value(1).toString(), header.value(2).toString().left(10));
         session.log(texts::redemptionDeletedLog(number, points));
         transaction.commit();
         return Outcome::done();

@@ -68,8 +68,8 @@ struct RedemptionDraft
 };
 
 // The date of the member's redemption in the period of today, empty when there is none.
-QString redeemedInPeriod(core::Connection &connection, const QString &member,
-    RedemptionPeriod period, QDate today);
+QString redeemedInPeriod(
+    core::Connection &connection, const QString &member, RedemptionPeriod period, QDate today);
 
 // Saves a redemption (right "赠品管理"). Refused: a member not found or whose card is not
 // active, a redemption in the period already ("已经兑换过赠品，不能重复兑换，兑换日期【…】"), a

@@ -74,8 +74,7 @@ std::optional<QString> settledTime(const shell::Session &session, const QString 
 Outcome checkHeader(const shell::Session &session, RetailDocument &d)
 {
     core::Connection &db = session.db();
-    if (!d.number.isEmpty()
-        && (d.number.size() != 13 || !d.number.startsWith(prefixOf(d.kind))))
+    if (!d.number.isEmpty() && (d.number.size() != 13 || !d.number.startsWith(prefixOf(d.kind))))
         return Outcome::refused(texts::retailNumberInvalid(d.number, prefixOf(d.kind)));
     if (!d.number.isEmpty() && numberUsed(db, d.kind, d.number))
         return Outcome::refused(documents::texts::numberTaken(d.number));
@@ -108,7 +107,8 @@ Outcome checkPayment(const shell::Session &session, const RetailDocument &d)
     if (d.member.isEmpty())
         return Outcome::refused(texts::cardWithoutMember());
     const std::optional<Member> member = readMember(session.db(), d.member);
-    if (d.kind == RetailKind::Sale && member && session.params().roundAmount(p.card - member->balance) > 0)
+    if (d.kind == RetailKind::Sale && member
+        && session.params().roundAmount(p.card - member->balance) > 0)
         return Outcome::refused(texts::cardBalanceShort(member->balance, p.card));
     return Outcome::done();
 }
@@ -148,8 +148,8 @@ Result<PricedLine> priceLine(
         g.value(3).toString(), g.value(4).toString(), g.value(5).toString(), g.value(6).toDouble(),
         g.value(7).toDouble() };
     p.baseQuantity = params.roundQuantity(l.quantity * l.unitFactor);
-    p.amount = l.giftMarker.isEmpty() ? params.roundAmount(l.price * l.discountRate * l.quantity)
-                                      : 0;
+    p.amount
+        = l.giftMarker.isEmpty() ? params.roundAmount(l.price * l.discountRate * l.quantity) : 0;
     p.cost = stock::costAsOf(session, l.goods, d.warehouse, date);
     p.totalCost = params.roundAmount(p.cost * p.baseQuantity);
     return p;

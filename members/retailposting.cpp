@@ -44,11 +44,12 @@ void insertHeader(core::Connection &db, const ValidRetail &r)
 {
     const RetailDocument &d = r.document;
     const CounterPayment &c = d.payment.counter;
-    db.exec(QStringLiteral("insert into jxc_posxsd (gl_djh,hy_sn,pos_xsrq,kh_sn,ck_sn,pos_yfje,"
-                           "pos_sfje,pos_mlje,a_name,u_sn,pos_note,pos_zffs,pos_xj,pos_czk,pos_yhk,"
-                           "pos_djq,pos_yhje,pos_yhzkje,pos_wxje,pos_zfbje,pos_zftype,pos_bcjf,"
-                           "pos_jfye,pos_zlje,pos_zjf) values (?,?,?,?,?,?,?,?,?,?,?,0,?,?,?,?,0,?,?,"
-                           "?,'',0,0,?,0)"),
+    db.exec(
+        QStringLiteral("insert into jxc_posxsd (gl_djh,hy_sn,pos_xsrq,kh_sn,ck_sn,pos_yfje,"
+                       "pos_sfje,pos_mlje,a_name,u_sn,pos_note,pos_zffs,pos_xj,pos_czk,pos_yhk,"
+                       "pos_djq,pos_yhje,pos_yhzkje,pos_wxje,pos_zfbje,pos_zftype,pos_bcjf,"
+                       "pos_jfye,pos_zlje,pos_zjf) values (?,?,?,?,?,?,?,?,?,?,?,0,?,?,?,?,0,?,?,"
+                       "?,'',0,0,?,0)"),
         { d.number, d.member, d.time, d.customer, d.warehouse, r.receivable, r.received,
             d.payment.roundingOff, d.cashier, d.employee, d.note, c.cash, d.payment.card,
             c.bankCard, c.insurance, d.payment.discount, c.wechat, c.alipay, c.change });
@@ -61,10 +62,10 @@ qint64 insertLine(core::Connection &db, const RetailDocument &d, const PricedLin
         QStringLiteral("insert into jxc_posxssp (gl_djh,g_sn,pos_dj,pos_sl,pos_zje,t_zp,a_name,"
                        "pos_dzl,pos_cbj,pos_zcb,pos_lsj,pos_zsl,dw_name,g_sptm,g_zhxs,t_ph,t_yxq,"
                        "t_scrq) values (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
-        { d.number, l.goods, l.price, l.quantity, p.amount, l.giftMarker, d.cashier,
-            l.discountRate, p.cost * l.unitFactor, p.totalCost, p.retailPrice * l.unitFactor,
-            p.baseQuantity, l.unit.isEmpty() ? p.baseUnit : l.unit, p.barcode, l.unitFactor,
-            l.batch, l.expiry, l.produced });
+        { d.number, l.goods, l.price, l.quantity, p.amount, l.giftMarker, d.cashier, l.discountRate,
+            p.cost * l.unitFactor, p.totalCost, p.retailPrice * l.unitFactor, p.baseQuantity,
+            l.unit.isEmpty() ? p.baseUnit : l.unit, p.barcode, l.unitFactor, l.batch, l.expiry,
+            l.produced });
 }
 
 stock::LedgerRow ledgerRowOf(const shell::Session &session, const ValidRetail &r,

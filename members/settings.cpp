@@ -43,7 +43,8 @@ bool readBool(const QString &text, bool &ok)
     ok = true;
     if (text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
         return true;
-    if (text == QLatin1String("0") || text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
+    if (text == QLatin1String("0")
+        || text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
         return false;
     ok = false;
     return false;

@@ -43,8 +43,8 @@ QString balanceNegative()
     return QStringLiteral("卡内余额不能小于0！");
 }
 
-QString pointsChangeNote(double pointsBefore, double points, double lifetimeBefore,
-    double lifetime, const QString &note)
+QString pointsChangeNote(
+    double pointsBefore, double points, double lifetimeBefore, double lifetime, const QString &note)
 {
     QString text = QStringLiteral("会员积分%1→%2，累计积分%3→%4")
                        .arg(n(pointsBefore), n(points), n(lifetimeBefore), n(lifetime));
@@ -332,7 +332,9 @@ QString receivedDiffers(double received, double receivable)
 
 QString retailPostedLog(bool isReturn, const QString &number, int goodsCount)
 {
-    return QStringLiteral("记帐%1%2，共%3种商品").arg(retailTitle(isReturn), number).arg(goodsCount);
+    return QStringLiteral("记帐%1%2，共%3种商品")
+        .arg(retailTitle(isReturn), number)
+        .arg(goodsCount);
 }
 
 QString retailRemovedLog(bool isReturn, const QString &number)

@@ -11,8 +11,8 @@ QString cardNotActive(const QString &name);
 QString cardTaken(const QString &card);
 QString pointsNegative();
 QString balanceNegative();
-QString pointsChangeNote(double pointsBefore, double points, double lifetimeBefore,
-    double lifetime, const QString &note);
+QString pointsChangeNote(double pointsBefore, double points, double lifetimeBefore, double lifetime,
+    const QString &note);
 QString pointsChangeKind(); // "积分调整"
 QString balanceChangeKind(); // "储值调整"
 QString memberAddedLog(const QString &code, const QString &name);

@@ -12,7 +12,13 @@ class Session;
 namespace medistock::members {
 
 // The gift modes of a top-up (hs_zsfs); see instalments.h.
-enum class GiftMode { None = 0, Monthly = 1, MonthlyOnPurchase = 2, Daily = 3, DailyOnPurchase = 4 };
+enum class GiftMode {
+    None = 0,
+    Monthly = 1,
+    MonthlyOnPurchase = 2,
+    Daily = 3,
+    DailyOnPurchase = 4
+};
 
 // A top-up "会员充值" as the form hands it over.
 struct TopUpDraft

@@ -62,11 +62,13 @@ int runMemberShow(Context &context, Args &args)
         context.interaction().inform(QStringLiteral("会员编号“%1”不存在！").arg(code));
         return ExitRefused;
     }
-    const QList<std::pair<const char *, QString>> fields {
-        { "hy_sn", m->code }, { "hy_bh", m->card }, { "hy_name", m->name },
-        { "hl_sn", m->level }, { "hl_name", m->levelName }, { "hh_sn", m->scheme },
-        { "hy_jf", core::plainNumber(m->points) }, { "hy_zjf", core::plainNumber(m->lifetimePoints) },
-        { "hy_zhje", core::plainNumber(m->balance) }, { "hy_zje", core::plainNumber(m->consumption) },
+    const QList<std::pair<const char *, QString>> fields { { "hy_sn", m->code },
+        { "hy_bh", m->card }, { "hy_name", m->name }, { "hl_sn", m->level },
+        { "hl_name", m->levelName }, { "hh_sn", m->scheme },
+        { "hy_jf", core::plainNumber(m->points) },
+        { "hy_zjf", core::plainNumber(m->lifetimePoints) },
+        { "hy_zhje", core::plainNumber(m->balance) },
+        { "hy_zje", core::plainNumber(m->consumption) },
         { "hy_ye", core::plainNumber(m->remainder) }, { "hy_cs", QString::number(m->visits) },
         { "hy_sj", m->upgrades ? QStringLiteral("1") : QStringLiteral("0") },
         { "hy_status", m->active ? QStringLiteral("1") : QStringLiteral("0") },
@@ -211,7 +213,7 @@ members::RetailDocument retailFromJson(Context &context, const QJsonObject &o)
     members::RetailDocument d;
     d.number = jsonText(o, QStringLiteral("gl_djh"));
     const QString kind = o.contains(QStringLiteral("kind")) ? jsonText(o, QStringLiteral("kind"))
-                                                             : d.number.left(2);
+                                                            : d.number.left(2);
     if (kind != QLatin1String("XS") && kind != QLatin1String("XT"))
         throw Stop { context.usageError(QStringLiteral("请用 gl_djh 或 kind 给出 XS 或 XT")) };
     d.kind = kind == QLatin1String("XT") ? members::RetailKind::Return : members::RetailKind::Sale;
@@ -222,9 +224,10 @@ members::RetailDocument retailFromJson(Context &context, const QJsonObject &o)
     d.cashier = jsonText(o, QStringLiteral("a_name"));
     d.customer = jsonText(o, QStringLiteral("kh_sn"));
     d.note = jsonText(o, QStringLiteral("pos_note"));
-    const auto number = [&](const char *field) { return jsonNumber(context, o, QString::fromLatin1(field)); };
-    d.payment.counter = { number("pos_xj"), number("pos_yhk"), number("pos_djq"), number("pos_wxje"),
-        number("pos_zfbje"), number("pos_zlje") };
+    const auto number
+        = [&](const char *field) { return jsonNumber(context, o, QString::fromLatin1(field)); };
+    d.payment.counter = { number("pos_xj"), number("pos_yhk"), number("pos_djq"),
+        number("pos_wxje"), number("pos_zfbje"), number("pos_zlje") };
     d.payment.card = number("pos_czk");
     d.payment.roundingOff = number("pos_mlje");
     d.payment.discount = number("pos_yhzkje");
@@ -242,7 +245,8 @@ void requireStatedFigures(Context &context, const QJsonObject &o, const members:
         if (o.contains(QString::fromLatin1(field))
             && session.params().roundAmount(jsonNumber(context, o, QString::fromLatin1(field)))
                 != receivable)
-            throw Stop { context.usageError(QStringLiteral("%1 与明细算出的应收金额 %2 不符")
+            throw Stop { context.usageError(
+                QStringLiteral("%1 与明细算出的应收金额 %2 不符")
                     .arg(QString::fromLatin1(field), core::plainNumber(receivable))) };
 }
 
@@ -252,8 +256,7 @@ int runPosPost(Context &context, Args &args)
     const QJsonObject object = readJsonFile(context, path);
     const members::RetailDocument document = retailFromJson(context, object);
     requireStatedFigures(context, object, document);
-    context.out() << valueOf(members::postRetailDocument(context.session(), document))
-                  << Qt::endl;
+    context.out() << valueOf(members::postRetailDocument(context.session(), document)) << Qt::endl;
     return ExitDone;
 }
 

@@ -32,7 +32,8 @@ void MembersTest::SetUp()
             .average = 4 });
     db().exec(QStringLiteral("update jxc_goods set g_tssp=1,g_tsjf=5 where g_sn='200002'"));
     db().exec(QStringLiteral("update jxc_goods set g_tjsp=1 where g_sn='200003'"));
-    db().exec(QStringLiteral("update jxc_goods set g_iszp=1,g_sy=1,g_zpjf=200 where g_sn='300001'"));
+    db().exec(
+        QStringLiteral("update jxc_goods set g_iszp=1,g_sy=1,g_zpjf=200 where g_sn='300001'"));
     db().exec(QStringLiteral("update jxc_goods set g_iszp=1,g_sy=1,g_zpjf=50 where g_sn='300002'"));
     receive(QStringLiteral("200001"), 100, 5, QStringLiteral("B1"));
     receive(QStringLiteral("200002"), 50, 2);
@@ -100,8 +101,8 @@ members::RetailLine MembersTest::line(
     return l;
 }
 
-members::RetailDocument MembersTest::retail(const QString &member,
-    const QList<members::RetailLine> &lines, members::RetailKind kind)
+members::RetailDocument MembersTest::retail(
+    const QString &member, const QList<members::RetailLine> &lines, members::RetailKind kind)
 {
     members::RetailDocument d;
     d.kind = kind;

@@ -19,8 +19,8 @@ protected:
     void receive(const QString &goods, double quantity, double price, const QString &batch = {});
     // Adds a member through the operation; fails the test when refused.
     QString addMember(const QString &name, const masterdata::Values &extra = {});
-    void setPoints(double amountPerPoint,
-        const std::function<void(members::PointsSettings &)> &more = {});
+    void setPoints(
+        double amountPerPoint, const std::function<void(members::PointsSettings &)> &more = {});
 
     // A retail line of the base unit.
     static members::RetailLine line(

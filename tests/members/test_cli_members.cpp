@@ -39,9 +39,9 @@ TEST_F(MembersCommands, AMemberTopsUpBuysAtTheTillAndTheSaleIsTakenBack)
     ASSERT_EQ(added.status, 0) << added.err.toStdString();
     EXPECT_EQ(added.out, "100002\n");
     const test::CliRun topped = run({ QStringLiteral("topup"), QStringLiteral("13900001111"),
-        QStringLiteral("300"), QStringLiteral("--mode"), QStringLiteral("1"), QStringLiteral("--per"),
-        QStringLiteral("20"), QStringLiteral("--gift"), QStringLiteral("60"), QStringLiteral("--wechat"),
-        QStringLiteral("100") });
+        QStringLiteral("300"), QStringLiteral("--mode"), QStringLiteral("1"),
+        QStringLiteral("--per"), QStringLiteral("20"), QStringLiteral("--gift"),
+        QStringLiteral("60"), QStringLiteral("--wechat"), QStringLiteral("100") });
     ASSERT_EQ(topped.status, 0) << topped.err.toStdString();
     EXPECT_EQ(topped.out, "XF25031410001\n");
 
@@ -69,8 +69,8 @@ TEST_F(MembersCommands, AMemberTopsUpBuysAtTheTillAndTheSaleIsTakenBack)
     EXPECT_TRUE(shown.out.contains(QStringLiteral("hl_name=初级会员\n")));
 
     EXPECT_EQ(run({ QStringLiteral("pos-reverse"), QStringLiteral("XS25031410001") }).status, 1);
-    const test::CliRun reversed
-        = run({ QStringLiteral("--yes"), QStringLiteral("pos-reverse"), QStringLiteral("XS25031410001") });
+    const test::CliRun reversed = run({ QStringLiteral("--yes"), QStringLiteral("pos-reverse"),
+        QStringLiteral("XS25031410001") });
     ASSERT_EQ(reversed.status, 0) << reversed.err.toStdString();
     EXPECT_EQ(run({ QStringLiteral("member-show"), QStringLiteral("100002") })
                   .out.split(QLatin1Char('\n'))
@@ -82,9 +82,9 @@ TEST_F(MembersCommands, AMemberTopsUpBuysAtTheTillAndTheSaleIsTakenBack)
 TEST_F(MembersCommands, LoginReleasesTheGiftsThatHaveFallenDue)
 {
     const QString member = addMember(QStringLiteral("张敏"));
-    ASSERT_EQ(run({ QStringLiteral("topup"), member, QStringLiteral("300"), QStringLiteral("--mode"),
-                  QStringLiteral("1"), QStringLiteral("--per"), QStringLiteral("20"),
-                  QStringLiteral("--gift"), QStringLiteral("60") })
+    ASSERT_EQ(run({ QStringLiteral("topup"), member, QStringLiteral("300"),
+                      QStringLiteral("--mode"), QStringLiteral("1"), QStringLiteral("--per"),
+                      QStringLiteral("20"), QStringLiteral("--gift"), QStringLiteral("60") })
                   .status,
         0);
     EXPECT_EQ(run({ QStringLiteral("login") }, QStringLiteral("2025-04-09")).status, 0);
@@ -99,18 +99,20 @@ TEST_F(MembersCommands, LoginReleasesTheGiftsThatHaveFallenDue)
 TEST_F(MembersCommands, RedemptionAndSettingsOnTheCommandLine)
 {
     const QString member = addMember(QStringLiteral("张敏"),
-        { { QStringLiteral("hy_bh"), QStringLiteral("880001") }, { QStringLiteral("hy_jf"), 450 } });
-    const test::CliRun redeemed = run({ QStringLiteral("redeem"), QStringLiteral("880001"),
-        QStringLiteral("100001"), QStringLiteral("300001=2"), QStringLiteral("--period"),
-        QStringLiteral("今天") });
+        { { QStringLiteral("hy_bh"), QStringLiteral("880001") },
+            { QStringLiteral("hy_jf"), 450 } });
+    const test::CliRun redeemed
+        = run({ QStringLiteral("redeem"), QStringLiteral("880001"), QStringLiteral("100001"),
+            QStringLiteral("300001=2"), QStringLiteral("--period"), QStringLiteral("今天") });
     ASSERT_EQ(redeemed.status, 0) << redeemed.err.toStdString();
     EXPECT_EQ(redeemed.out, "DH25031410001\n");
     const test::CliRun again = run({ QStringLiteral("redeem"), member, QStringLiteral("100001"),
         QStringLiteral("300002=1"), QStringLiteral("--period"), QStringLiteral("今天") });
     EXPECT_EQ(again.status, 1);
-    EXPECT_TRUE(again.err.startsWith(QStringLiteral("已经兑换过赠品，不能重复兑换，兑换日期【2025-03-14 ")));
+    EXPECT_TRUE(again.err.startsWith(
+        QStringLiteral("已经兑换过赠品，不能重复兑换，兑换日期【2025-03-14 ")));
     EXPECT_EQ(run({ QStringLiteral("--yes"), QStringLiteral("redeem-delete"),
-                  QStringLiteral("DH25031410001") })
+                      QStringLiteral("DH25031410001") })
                   .status,
         0);
     EXPECT_EQ(figure(member, QStringLiteral("hy_jf")), 450);

@@ -91,7 +91,8 @@ struct FactorCase
 };
 
 class PointsFactors : public test::MembersTest, public ::testing::WithParamInterface<FactorCase>
-{ };
+{
+};
 
 // Sale of 100 on 2025-03-14 10:00: 10 points, twice on the birthday, three times in the range
 // from 2025-03-01; never both.
@@ -155,8 +156,8 @@ TEST_F(MemberEffects, TheDiscountSchemeGivesCashBackThatTheReversalTakesAway)
 {
     db().exec(QStringLiteral("insert into jxc_hyyh (hh_sn,hh_name,hh_yh2,hh_yh3) values "
                              "('100002','满百返五',100,5)"));
-    const QString member
-        = addMember(QStringLiteral("张敏"), { { QStringLiteral("hh_sn"), QStringLiteral("100002") } });
+    const QString member = addMember(
+        QStringLiteral("张敏"), { { QStringLiteral("hh_sn"), QStringLiteral("100002") } });
     const QString number = post(retail(member, { line(QStringLiteral("200001"), 1, 250) }));
     EXPECT_EQ(figures(member), "25|25|100002|250|1|10");
     EXPECT_EQ(stored(number), "25|25|10");
@@ -168,8 +169,8 @@ TEST_F(MemberEffects, AReturnTakesBackItsOwnPoints)
 {
     const QString member = addMember(QStringLiteral("张敏"));
     post(retail(member, { line(QStringLiteral("200001"), 2, 60) }));
-    const QString number = post(
-        retail(member, { line(QStringLiteral("200001"), -1, 60) }, RetailKind::Return));
+    const QString number
+        = post(retail(member, { line(QStringLiteral("200001"), -1, 60) }, RetailKind::Return));
     EXPECT_EQ(figures(member), "6|6|100002|60|0|0");
     EXPECT_EQ(stored(number), "-6|6|0");
     ASSERT_TRUE(members::reverseRetailDocument(session(), number));
@@ -185,9 +186,10 @@ TEST_F(MemberEffects, TheReversalResetsTheLevelByTheLifetimePoints)
     ASSERT_TRUE(members::reverseRetailDocument(session(), sale));
     EXPECT_EQ(figures(fresh), "0|0|100002|0|0|0");
 
-    ASSERT_TRUE(members::saveLevel(session(),
-        { QStringLiteral("100002"), QStringLiteral("初级会员"), 1, 20, 999 }));
-    ASSERT_TRUE(members::saveLevel(session(), { {}, QStringLiteral("金卡会员"), 0.9, 1000, 99999 }));
+    ASSERT_TRUE(members::saveLevel(
+        session(), { QStringLiteral("100002"), QStringLiteral("初级会员"), 1, 20, 999 }));
+    ASSERT_TRUE(
+        members::saveLevel(session(), { {}, QStringLiteral("金卡会员"), 0.9, 1000, 99999 }));
     const QString between = addMember(QStringLiteral("李娜"), { { QStringLiteral("hy_jf"), 10 } });
     EXPECT_EQ(text(between, QStringLiteral("hl_sn")), "100001");
     const QString second = post(retail(between, { line(QStringLiteral("200001"), 2, 60) }));

@@ -70,8 +70,7 @@ TEST_F(Instalments, ATopUpGoesOnTheCardAndIntoTheCashBook)
     const Result<QString> number = members::topUp(session(), draft);
     ASSERT_TRUE(number.ok());
     EXPECT_EQ(number.value(), "XF25031410001");
-    EXPECT_EQ(history(member),
-        QStringList { "XF25031410001|500|1|100|2025-03-14|会员充值|" });
+    EXPECT_EQ(history(member), QStringList { "XF25031410001|500|1|100|2025-03-14|会员充值|" });
     EXPECT_EQ(rows(QStringLiteral("jxc_hyxx"), QStringLiteral("hy_zhje,hy_jf,hy_zjf,hl_sn"),
                   QStringLiteral("hy_sn=?"), { member }),
         QStringList { "500|100|100|100002" });
@@ -120,7 +119,8 @@ TEST_F(Instalments, DailyGiftsAreReleasedAsFarAsTheGiftLasts)
     const members::GiftRelease release = releaseOn(QDate(2025, 3, 14));
     EXPECT_EQ(release.amount, 30);
     EXPECT_EQ(history(member).last(),
-        release.number + "|30|-3|0|2025-03-14|按天到账|XF25031010001该单据充值按天赠送，本次赠送：3天");
+        release.number
+            + "|30|-3|0|2025-03-14|按天到账|XF25031010001该单据充值按天赠送，本次赠送：3天");
     EXPECT_EQ(figure(member, QStringLiteral("hy_zhje")), 130);
 }
 
@@ -129,8 +129,10 @@ TEST_F(Instalments, DailyGiftsAreReleasedAsFarAsTheGiftLasts)
 TEST_F(Instalments, APurchaseReleasesTheMonthsInstalmentOnce)
 {
     const QString member = addMember(QStringLiteral("张敏"));
-    const QString first = topUp(member, QDate(2025, 2, 3), 500, GiftMode::MonthlyOnPurchase, 50, 200);
-    const QString second = topUp(member, QDate(2025, 2, 4), 300, GiftMode::MonthlyOnPurchase, 30, 90);
+    const QString first
+        = topUp(member, QDate(2025, 2, 3), 500, GiftMode::MonthlyOnPurchase, 50, 200);
+    const QString second
+        = topUp(member, QDate(2025, 2, 4), 300, GiftMode::MonthlyOnPurchase, 30, 90);
     session().clock().fix(QDate(2025, 3, 14));
     const QString sale = saleOn(member, QStringLiteral("2025-03-14 10:00:00"));
     EXPECT_EQ(history(member),

@@ -19,12 +19,13 @@ protected:
     // 10 by WeChat and 50 in cash with 28 change.
     members::RetailDocument splitSale(const QString &member)
     {
-        members::RetailLine amoxicillin = line(QStringLiteral("200001"), 3, 12, QStringLiteral("B1"));
+        members::RetailLine amoxicillin
+            = line(QStringLiteral("200001"), 3, 12, QStringLiteral("B1"));
         amoxicillin.discountRate = 0.9;
         members::RetailLine gift = line(QStringLiteral("200001"), 1, 12, QStringLiteral("B1"));
         gift.giftMarker = QStringLiteral("(赠品)");
-        members::RetailDocument d = retail(member,
-            { amoxicillin, line(QStringLiteral("200002"), 2, 10), gift });
+        members::RetailDocument d
+            = retail(member, { amoxicillin, line(QStringLiteral("200002"), 2, 10), gift });
         d.payment.roundingOff = 0.4;
         d.payment.card = 20;
         d.payment.counter = {};
@@ -49,7 +50,8 @@ TEST_F(Retail, ASaleIsWrittenIntoLedgerStockCashBookAndMember)
     EXPECT_EQ(rows(QStringLiteral("jxc_posxsd"),
                   QStringLiteral("hy_sn,pos_xsrq,ck_sn,pos_yfje,pos_sfje,pos_mlje,a_name,u_sn,"
                                  "pos_xj,pos_czk,pos_wxje,pos_zlje,pos_bcjf,pos_zjf")),
-        QStringList { member + "|2025-03-14 10:00:00|100001|52|52|0.4|admin|100002|50|20|10|28|13|13" });
+        QStringList {
+            member + "|2025-03-14 10:00:00|100001|52|52|0.4|admin|100002|50|20|10|28|13|13" });
     EXPECT_EQ(rows(QStringLiteral("jxc_posxssp"),
                   QStringLiteral("g_sn,pos_dj,pos_sl,pos_zje,t_zp,pos_dzl,pos_cbj,pos_zcb,pos_zsl,"
                                  "dw_name,t_ph")),
@@ -64,13 +66,15 @@ TEST_F(Retail, ASaleIsWrittenIntoLedgerStockCashBookAndMember)
     EXPECT_EQ(rows(QStringLiteral("jxc_kcsp"), QStringLiteral("g_sn,kc_sl,kc_zsl,kc_xssl"),
                   QStringLiteral("g_sn in ('200001','200002')")),
         (QStringList { "200001|96|96|4", "200002|48|48|2" }));
-    EXPECT_EQ(rows(QStringLiteral("jxc_tkc"), QStringLiteral("t_sl"), QStringLiteral("g_sn='200001'")),
+    EXPECT_EQ(
+        rows(QStringLiteral("jxc_tkc"), QStringLiteral("t_sl"), QStringLiteral("g_sn='200001'")),
         QStringList { "96" });
     EXPECT_EQ(rows(QStringLiteral("jxc_goods"), QStringLiteral("g_kc,g_xspl"),
                   QStringLiteral("g_sn='200001'")),
         QStringList { "96|2" });
-    EXPECT_EQ(rows(QStringLiteral("jxc_xjyh"), QStringLiteral("gl_djh,xj_dlx,xj_kmmc,xj_je,xj_ljje"),
-                  QStringLiteral("gl_djh=?"), { number }),
+    EXPECT_EQ(
+        rows(QStringLiteral("jxc_xjyh"), QStringLiteral("gl_djh,xj_dlx,xj_kmmc,xj_je,xj_ljje"),
+            QStringLiteral("gl_djh=?"), { number }),
         (QStringList { number + "|商品销售|现金|22|22", number + "|商品销售|微信|10|10" }));
     // 10 points for the two bottles of special-points goods, and 3 for the other 32 yuan.
     EXPECT_EQ(rows(QStringLiteral("jxc_hyxx"), QStringLiteral("hy_jf,hy_zje,hy_cs,hy_zhje"),
@@ -90,7 +94,8 @@ TEST_F(Retail, TheReversalRestoresEveryStoreLedgerRowAndMemberFigure)
     ui.clear();
     ASSERT_TRUE(members::reverseRetailDocument(session(), number));
     EXPECT_EQ(ui.asked,
-        QStringList { QStringLiteral("您的操作将取消当前选中的已审核单据：%1，确认吗？").arg(number) });
+        QStringList {
+            QStringLiteral("您的操作将取消当前选中的已审核单据：%1，确认吗？").arg(number) });
     EXPECT_EQ(test::differences(before, snapshot()), QStringList {});
 }
 
@@ -99,11 +104,12 @@ TEST_F(Retail, AReturnBringsTheGoodsBackAndRefundsOutOfTheBook)
     const QString member = addMember(QStringLiteral("张敏"));
     post(retail(member, { line(QStringLiteral("200001"), 5, 12, QStringLiteral("B1")) }));
     const QString before = snapshot();
-    const QString number = post(retail(
-        member, { line(QStringLiteral("200001"), -2, 12, QStringLiteral("B1")) }, RetailKind::Return));
+    const QString number = post(retail(member,
+        { line(QStringLiteral("200001"), -2, 12, QStringLiteral("B1")) }, RetailKind::Return));
     EXPECT_EQ(number, "XT25031410001");
-    EXPECT_EQ(rows(QStringLiteral("jxc_goodslist"), QStringLiteral("gl_flag,gl_sl,gl_zje,gl_zcb,gl_kc"),
-                  QStringLiteral("gl_djh=?"), { number }),
+    EXPECT_EQ(
+        rows(QStringLiteral("jxc_goodslist"), QStringLiteral("gl_flag,gl_sl,gl_zje,gl_zcb,gl_kc"),
+            QStringLiteral("gl_djh=?"), { number }),
         QStringList { "xt|-2|-24|-10|97" });
     EXPECT_EQ(rows(QStringLiteral("jxc_kcsp"), QStringLiteral("kc_sl,kc_xssl"),
                   QStringLiteral("g_sn='200001'")),
@@ -126,7 +132,8 @@ struct Refusal
 };
 
 class RetailRefusals : public test::MembersTest, public ::testing::WithParamInterface<Refusal>
-{ };
+{
+};
 
 TEST_P(RetailRefusals, LeaveTheDatabaseAsItWas)
 {
@@ -142,10 +149,9 @@ TEST_P(RetailRefusals, LeaveTheDatabaseAsItWas)
 }
 
 INSTANTIATE_TEST_SUITE_P(Members, RetailRefusals,
-    ::testing::Values(
-        Refusal { "ReceivedDiffers",
-            [](members::RetailDocument &d) { d.payment.counter.cash = 49.9; },
-            "实收金额49.9元与应收金额50元不符！" },
+    ::testing::Values(Refusal { "ReceivedDiffers",
+                          [](members::RetailDocument &d) { d.payment.counter.cash = 49.9; },
+                          "实收金额49.9元与应收金额50元不符！" },
         Refusal { "CardBeyondBalance",
             [](members::RetailDocument &d) {
                 d.payment.counter.cash = 10;
@@ -186,7 +192,8 @@ INSTANTIATE_TEST_SUITE_P(Members, RetailRefusals,
 
 TEST_F(Retail, ANumberTheBackOfficeOrTheTillUsedIsRefused)
 {
-    db().exec(QStringLiteral("insert into jxc_lsxsd (gl_djh,ls_status) values ('XS25031410001',0)"));
+    db().exec(
+        QStringLiteral("insert into jxc_lsxsd (gl_djh,ls_status) values ('XS25031410001',0)"));
     members::RetailDocument d = retail({}, { line(QStringLiteral("200001"), 1, 10) });
     EXPECT_EQ(post(d), "XS25031410002");
     d.number = QStringLiteral("XS25031410001");

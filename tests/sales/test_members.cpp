@@ -17,12 +17,14 @@ protected:
         members::PointsSettings settings;
         settings.amountPerPoint = 10;
         ASSERT_TRUE(members::savePointsSettings(session(), settings));
-        member = members::addMember(session(), { { QStringLiteral("hy_name"), QStringLiteral("张敏") } })
+        member = members::addMember(
+            session(), { { QStringLiteral("hy_name"), QStringLiteral("张敏") } })
                      .value();
         number = saveSale(draft({ line(QStringLiteral("200001"), QStringLiteral("10"),
-                                     QStringLiteral("12"), QStringLiteral("B1")) },
+                                    QStringLiteral("12"), QStringLiteral("B1")) },
             120));
-        db().exec(QStringLiteral("update jxc_lsxsd set hy_sn=? where gl_djh=?"), { member, number });
+        db().exec(
+            QStringLiteral("update jxc_lsxsd set hy_sn=? where gl_djh=?"), { member, number });
     }
     QString figures()
     {

@@ -105,8 +105,8 @@ TEST_F(MemberScreens, AClerkRedeemsAGiftByMobile)
     const QString member = members::addMember(session(),
         { { QStringLiteral("hy_name"), QStringLiteral("张敏") },
             { QStringLiteral("hy_mobile"), QStringLiteral("13900001111") },
-            { QStringLiteral("hy_jf"), 450 } })
-                               .value();
+            { QStringLiteral("hy_jf"),
+                450 } }).value();
     ui::GiftsScreen screen(workspace());
     ui::RedeemPage *page = screen.redeemPage();
     ASSERT_EQ(page->giftGrid()->rowCount(), 1);
@@ -128,8 +128,8 @@ TEST_F(MemberScreens, AClerkRedeemsAGiftByMobile)
     EXPECT_EQ(ui.informed.last(), "兑换成功，单号：DH25031410001");
     EXPECT_EQ(row(QStringLiteral("select hy_jf from jxc_hyxx where hy_sn=?"), { member }),
         QStringList { "50" });
-    EXPECT_EQ(row(QStringLiteral("select kc_sl from jxc_kcsp where g_sn='300001'")),
-        QStringList { "8" });
+    EXPECT_EQ(
+        row(QStringLiteral("select kc_sl from jxc_kcsp where g_sn='300001'")), QStringList { "8" });
     EXPECT_EQ(page->lineGrid()->rowCount(), 0);
     EXPECT_EQ(screen.redemptionsPage()->grid()->rowCount(), 1);
     EXPECT_EQ(screen.redemptionsPage()->grid()->item(0, 0)->text(), "DH25031410001");

@@ -185,7 +185,8 @@ QPushButton *MasterListScreen::addButton(const QString &text, const std::functio
 {
     auto *button = new QPushButton(text, this);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, action);
+    if (action)
+        connect(button, &QPushButton::clicked, this, action);
     m_buttonRow->addWidget(button);
     return button;
 }

@@ -66,7 +66,8 @@ protected:
     virtual std::unique_ptr<MasterRowDialog> editor(const QString &key);
     // Puts a panel left of the grid.
     void setSidePanel(QWidget *panel);
-    // A further button after the list's own, for what a module does with its rows.
+    // A further button after the list's own, for what a module does with its rows (no action:
+    // a button that opens the menu the caller gives it).
     QPushButton *addButton(const QString &text, const std::function<void()> &action);
     // How the list is imported; the master list's own import by default.
     virtual ImportSteps importSteps();

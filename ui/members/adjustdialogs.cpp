@@ -55,9 +55,8 @@ QGridLayout *frame(QDialog *dialog, const members::Member &member, QLineEdit *re
     buttons->addButton(texts::cancel(), QDialogButtonBox::RejectRole);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     layout->addWidget(buttons);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, [dialog] {
-        QMetaObject::invokeMethod(dialog, "save");
-    });
+    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog,
+        [dialog] { QMetaObject::invokeMethod(dialog, "save"); });
     return grid;
 }
 

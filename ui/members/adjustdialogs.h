@@ -18,7 +18,8 @@ class PointsAdjustDialog : public QDialog
 {
     Q_OBJECT
 public:
-    PointsAdjustDialog(const shell::Session &session, const QString &member, QWidget *parent = nullptr);
+    PointsAdjustDialog(
+        const shell::Session &session, const QString &member, QWidget *parent = nullptr);
 
     QSpinBox *pointsField() const { return m_points; }
     QSpinBox *lifetimeField() const { return m_lifetime; }
@@ -40,7 +41,8 @@ class BalanceAdjustDialog : public QDialog
 {
     Q_OBJECT
 public:
-    BalanceAdjustDialog(const shell::Session &session, const QString &member, QWidget *parent = nullptr);
+    BalanceAdjustDialog(
+        const shell::Session &session, const QString &member, QWidget *parent = nullptr);
 
     QDoubleSpinBox *balanceField() const { return m_balance; }
     QLineEdit *reasonField() const { return m_reason; }

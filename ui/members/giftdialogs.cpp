@@ -45,8 +45,8 @@ void finish(QDialog *dialog, QFormLayout *form)
 
 } // namespace
 
-GiftItemDialog::GiftItemDialog(const shell::Session &session, const members::GiftItem &item,
-    bool isNew, QWidget *parent)
+GiftItemDialog::GiftItemDialog(
+    const shell::Session &session, const members::GiftItem &item, bool isNew, QWidget *parent)
     : QDialog(parent)
     , m_session(session)
     , m_isNew(isNew)
@@ -106,10 +106,10 @@ void GiftMovementDialog::save()
 {
     const bool done = m_kind == Kind::Purchase
         ? members::addGiftPurchase(
-              m_session, m_code, m_date->date(), m_quantity->value(), m_note->text())
+            m_session, m_code, m_date->date(), m_quantity->value(), m_note->text())
               .ok()
         : members::addGiveAway(m_session, m_date->date(), m_sale->text().trimmed(),
-              { { m_code, m_quantity->value() } }, m_note->text())
+            { { m_code, m_quantity->value() } }, m_note->text())
               .ok();
     if (done)
         accept();

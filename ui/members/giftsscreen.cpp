@@ -29,12 +29,14 @@ QDateEdit *dateEdit(QDate date, QWidget *parent)
     auto *edit = new QDateEdit(date, parent);
     edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
     edit->setCalendarPopup(true);
+    edit->setMinimumWidth(120);
     return edit;
 }
 
 // A row of buttons, each calling a slot of the page.
 template<class Page>
-QHBoxLayout *buttonRow(Page *page, std::initializer_list<std::pair<QString, void (Page::*)()>> buttons)
+QHBoxLayout *buttonRow(
+    Page *page, std::initializer_list<std::pair<QString, void (Page::*)()>> buttons)
 {
     auto *row = new QHBoxLayout;
     for (const auto &[text, slot] : buttons) {
@@ -59,7 +61,9 @@ void alignNumbers(QTableWidget *grid, std::initializer_list<int> columns)
 RedemptionsPage::RedemptionsPage(Workspace &workspace, QWidget *parent)
     : QWidget(parent)
     , m_workspace(workspace)
-    , m_from(dateEdit(workspace.session.clock().today().addDays(1 - workspace.session.clock().today().day()), this))
+    , m_from(dateEdit(
+          workspace.session.clock().today().addDays(1 - workspace.session.clock().today().day()),
+          this))
     , m_to(dateEdit(workspace.session.clock().today(), this))
     , m_grid(makeGrid(mbtexts::redemptionColumns, this))
 {
@@ -131,7 +135,9 @@ GiftItemsPage::GiftItemsPage(Workspace &workspace, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(buttons);
     layout->addWidget(split, 1);
-    m_items->setColumnWidth(1, 160);
+    for (const auto &[column, width] :
+        { std::pair { 0, 80 }, { 1, 160 }, { 2, 80 }, { 3, 70 }, { 4, 60 } })
+        m_items->setColumnWidth(column, width);
     m_movements->setColumnWidth(2, 130);
     reload();
 }
@@ -163,8 +169,8 @@ void GiftItemsPage::showMovements()
         });
     QList<QStringList> rows;
     for (const members::GiftMovement &m : std::as_const(m_register))
-        rows.append({ m.kind, m.date, m.number, core::plainNumber(m.quantity), m.note,
-            m.operatorName });
+        rows.append(
+            { m.kind, m.date, m.number, core::plainNumber(m.quantity), m.note, m.operatorName });
     fillGrid(m_movements, rows);
     alignNumbers(m_movements, { 3 });
 }

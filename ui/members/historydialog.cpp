@@ -45,8 +45,8 @@ HistoryDialog::HistoryDialog(Workspace &workspace, const QString &member, QWidge
     setWindowTitle(mbtexts::historyTitle);
     QList<QStringList> rows;
     for (const members::HistoryRow &row : history)
-        rows.append({ row.time, row.kind, row.number, figure(row.amount), figure(row.points),
-            row.note });
+        rows.append(
+            { row.time, row.kind, row.number, figure(row.amount), figure(row.points), row.note });
     fillGrid(m_grid, rows);
     for (int r = 0; r < m_grid->rowCount(); ++r)
         for (const int c : { 3, 4 })
@@ -75,7 +75,8 @@ HistoryDialog::HistoryDialog(Workspace &workspace, const QString &member, QWidge
 void HistoryDialog::exportGrid()
 {
     const QString path = QFileDialog::getSaveFileName(this, mdtexts::exportTitle,
-        QDir::home().filePath(mbtexts::historyTitle + QStringLiteral(".xlsx")), mdtexts::xlsxFilter);
+        QDir::home().filePath(mbtexts::historyTitle + QStringLiteral(".xlsx")),
+        mdtexts::xlsxFilter);
     if (path.isEmpty())
         return;
     QList<QVariantList> rows;
@@ -85,7 +86,8 @@ void HistoryDialog::exportGrid()
             row.append(m_grid->item(r, c) ? m_grid->item(r, c)->text() : QString());
         rows.append(row);
     }
-    const Outcome written = core::writeXlsx(path, mbtexts::historyTitle, mbtexts::historyColumns, rows);
+    const Outcome written
+        = core::writeXlsx(path, mbtexts::historyTitle, mbtexts::historyColumns, rows);
     m_workspace.session.ui().inform(written ? mdtexts::exported(path) : written.message());
 }
 

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -54,6 +55,9 @@ LevelsDialog::LevelsDialog(const shell::Session &session, QWidget *parent)
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     buttons->addWidget(close);
     connect(m_grid, &QTableWidget::cellDoubleClicked, this, &LevelsDialog::editLevel);
+    for (const auto &[key, slot] : { std::pair { Qt::Key_F2, &LevelsDialog::editLevel },
+             std::pair { Qt::Key_Insert, &LevelsDialog::addLevel } })
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, slot);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_grid, 1);
     layout->addLayout(buttons);
@@ -69,6 +73,9 @@ void LevelsDialog::reload()
         rows.append({ level.code, level.name, core::plainNumber(level.discount),
             core::plainNumber(level.lower), core::plainNumber(level.upper) });
     fillGrid(m_grid, rows);
+    for (int r = 0; r < m_grid->rowCount(); ++r)
+        for (const int c : { 2, 3, 4 })
+            m_grid->item(r, c)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (!rows.isEmpty())
         m_grid->selectRow(0);
 }
@@ -108,7 +115,8 @@ void LevelsDialog::deleteLevel()
         reload();
 }
 
-LevelDialog::LevelDialog(const shell::Session &session, const members::Level &level, QWidget *parent)
+LevelDialog::LevelDialog(
+    const shell::Session &session, const members::Level &level, QWidget *parent)
     : QDialog(parent)
     , m_session(session)
     , m_code(level.code)

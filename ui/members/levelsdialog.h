@@ -42,7 +42,8 @@ class LevelDialog : public QDialog
 {
     Q_OBJECT
 public:
-    LevelDialog(const shell::Session &session, const members::Level &level, QWidget *parent = nullptr);
+    LevelDialog(
+        const shell::Session &session, const members::Level &level, QWidget *parent = nullptr);
 
     QLineEdit *nameField() const { return m_name; }
     QDoubleSpinBox *lowerField() const { return m_lower; }

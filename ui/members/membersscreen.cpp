@@ -15,6 +15,8 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QShortcut>
 
 namespace medistock::ui {
@@ -23,12 +25,16 @@ MembersScreen::MembersScreen(Workspace &workspace, QWidget *parent)
     : MasterListScreen(workspace, members::memberKind(), parent)
 {
     searchField()->setPlaceholderText(mbtexts::searchHint);
-    addButton(mbtexts::adjustPoints, [this] { adjustPoints(); });
-    addButton(mbtexts::adjustBalance, [this] { adjustBalance(); });
     addButton(mbtexts::topUp, [this] { topUp(); });
     addButton(mbtexts::history, [this] { showHistory(); });
-    addButton(mbtexts::levels, [this] { editLevels(); });
-    addButton(mbtexts::pointsSettings, [this] { editPointsSettings(); });
+    QPushButton *more = addButton(mbtexts::pointsAndSettings, {});
+    auto *menu = new QMenu(more);
+    menu->addAction(mbtexts::adjustPoints, this, &MembersScreen::adjustPoints);
+    menu->addAction(mbtexts::adjustBalance, this, &MembersScreen::adjustBalance);
+    menu->addSeparator();
+    menu->addAction(mbtexts::levels, this, &MembersScreen::editLevels);
+    menu->addAction(mbtexts::pointsSettings, this, &MembersScreen::editPointsSettings);
+    more->setMenu(menu);
     auto *shortcut = new QShortcut(QKeySequence(Qt::Key_F6), this);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, &MembersScreen::topUp);

@@ -107,8 +107,12 @@ RedeemPage::RedeemPage(Workspace &workspace, QWidget *parent)
     layout->addLayout(top);
     layout->addLayout(choices);
     layout->addWidget(split, 1);
-    m_gifts->setColumnWidth(2, 180);
-    m_lines->setColumnWidth(1, 160);
+    for (const auto &[column, width] :
+        { std::pair { 0, 90 }, { 1, 70 }, { 2, 170 }, { 3, 50 }, { 4, 90 }, { 5, 70 }, { 6, 60 } })
+        m_gifts->setColumnWidth(column, width);
+    for (const auto &[column, width] :
+        { std::pair { 0, 90 }, { 1, 150 }, { 2, 70 }, { 3, 60 }, { 4, 70 } })
+        m_lines->setColumnWidth(column, width);
     loadGifts();
     showLines();
     setFocusProxy(m_card);
@@ -126,7 +130,8 @@ bool RedeemPage::findMember()
         return false;
     }
     m_draft.member = found->code;
-    m_member->setText(mbtexts::memberFound(found->card, found->name, found->levelName, found->points));
+    m_member->setText(
+        mbtexts::memberFound(found->card, found->name, found->levelName, found->points));
     m_gifts->setFocus();
     if (m_gifts->rowCount() > 0 && m_gifts->currentRow() < 0)
         m_gifts->selectRow(0);
@@ -145,6 +150,9 @@ void RedeemPage::loadGifts()
         rows.append({ g.goods, g.mnemonic, g.name, g.unit, g.packing, core::plainNumber(g.points),
             core::plainNumber(g.stock) });
     fillGrid(m_gifts, rows);
+    for (int r = 0; r < m_gifts->rowCount(); ++r)
+        for (const int c : { 5, 6 })
+            m_gifts->item(r, c)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 void RedeemPage::pickGift(int row)
@@ -164,7 +172,8 @@ void RedeemPage::showLines()
         const QStringList cells { line.goods, line.name, core::plainNumber(line.pointsPerUnit),
             core::plainNumber(line.quantity), core::plainNumber(line.points()) };
         for (int c = 0; c < cells.size(); ++c) {
-            QTableWidgetItem *item = c >= 2 ? rightAligned(cells[c]) : new QTableWidgetItem(cells[c]);
+            QTableWidgetItem *item
+                = c >= 2 ? rightAligned(cells[c]) : new QTableWidgetItem(cells[c]);
             if (c != 3)
                 item->setFlags(item->flags() & ~Qt::ItemIsEditable);
             m_lines->setItem(r, c, item);

@@ -15,6 +15,7 @@ inline const QString topUp = QStringLiteral("会员充值(F6)");
 inline const QString history = QStringLiteral("会员记录");
 inline const QString levels = QStringLiteral("会员等级");
 inline const QString pointsSettings = QStringLiteral("积分设置");
+inline const QString pointsAndSettings = QStringLiteral("积分与设置");
 inline const QString chooseMemberFirst = QStringLiteral("请先选择一个会员！");
 inline const QString cardPlaceholder = QStringLiteral("不填时自动编卡号");
 QString memberLine(const QString &card, const QString &name); // "会员：100001 张敏"
@@ -55,7 +56,8 @@ QString toppedUp(const QString &number); // "充值成功，单号：XF…"
 // History
 inline const QString historyTitle = QStringLiteral("会员记录");
 inline const QStringList historyColumns { QStringLiteral("日期"), QStringLiteral("类别"),
-    QStringLiteral("单据号"), QStringLiteral("金额"), QStringLiteral("积分"), QStringLiteral("备注") };
+    QStringLiteral("单据号"), QStringLiteral("金额"), QStringLiteral("积分"),
+    QStringLiteral("备注") };
 inline const QString exportButton = QStringLiteral("导出(&X)");
 
 // Levels
