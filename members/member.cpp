@@ -3,6 +3,7 @@
 #include "core/connection.h"
 #include "core/operation.h"
 #include "core/rounding.h"
+#include "core/textclean.h"
 #include "core/transaction.h"
 #include "masterdata/kinds.h"
 #include "masterdata/mnemonic.h"
@@ -90,6 +91,28 @@ void followLevel(core::Connection &db, masterdata::Values &values, double lifeti
         { lifetimePoints, lifetimePoints });
     if (!level.isEmpty())
         values.insert(column("hl_sn"), level);
+}
+
+// A change by hand of one member in one transaction: the right, the refusal of the new figures
+// (empty when they are fine), the member read again inside the transaction, then `write`.
+template<class Write>
+Outcome changeByHand(
+    const shell::Session &session, const QString &code, const QString &refusal, Write &&write)
+{
+    const Outcome allowed = shell::requireRight(session, "qtcz", rights::members);
+    if (!allowed)
+        return allowed;
+    if (!refusal.isEmpty())
+        return core::refuse(session.ui(), refusal);
+    return core::guarded(session.ui(), [&] {
+        core::Transaction transaction(session.db());
+        const std::optional<Member> member = readMember(session.db(), code);
+        if (!member)
+            return core::refuse(session.ui(), texts::memberMissing(code));
+        write(*member);
+        transaction.commit();
+        return Outcome::done();
+    });
 }
 
 } // namespace
@@ -231,54 +254,34 @@ Outcome changeMember(const shell::Session &session, const QString &code, masterd
 Outcome setMemberPoints(const shell::Session &session, const QString &code, double points,
     double lifetimePoints, const QString &note)
 {
-    const Outcome allowed = shell::requireRight(session, "qtcz", rights::members);
-    if (!allowed)
-        return allowed;
-    if (points < 0 || lifetimePoints < 0)
-        return core::refuse(session.ui(), texts::pointsNegative());
-    return core::guarded(session.ui(), [&] {
+    const QString refusal
+        = points < 0 || lifetimePoints < 0 ? texts::pointsNegative() : QString();
+    return changeByHand(session, code, refusal, [&](const Member &member) {
         core::Connection &db = session.db();
-        core::Transaction transaction(db);
-        const std::optional<Member> member = readMember(db, code);
-        if (!member)
-            return core::refuse(session.ui(), texts::memberMissing(code));
-        const QString level = levelForPoints(db, lifetimePoints);
         db.exec(QStringLiteral("update jxc_hyxx set hy_jf=?,hy_zjf=?,hl_sn=? where hy_sn=?"),
-            { points, lifetimePoints, level, code });
+            { points, lifetimePoints, levelForPoints(db, lifetimePoints), code });
         db.exec(QStringLiteral("insert into jxc_jfdh (hy_sn,jf_xfjf,jf_rq,a_name,jf_note) values "
                                "(?,?,?,?,?)"),
-            { code, points - member->points, session.clock().nowText(), session.user().name,
-                texts::pointsChangeNote(
-                    member->points, points, member->lifetimePoints, lifetimePoints, note) });
-        session.log(texts::pointsChangedLog(member->name, member->points, points));
-        transaction.commit();
-        return Outcome::done();
+            { code, points - member.points, session.clock().nowText(), session.user().name,
+                texts::pointsChangeNote(member.points, points, member.lifetimePoints,
+                    lifetimePoints, core::cleanText(note)) });
+        session.log(texts::pointsChangedLog(member.name, member.points, points));
     });
 }
 
 Outcome setMemberBalance(
     const shell::Session &session, const QString &code, double balance, const QString &note)
 {
-    const Outcome allowed = shell::requireRight(session, "qtcz", rights::members);
-    if (!allowed)
-        return allowed;
-    if (balance < 0)
-        return core::refuse(session.ui(), texts::balanceNegative());
-    return core::guarded(session.ui(), [&] {
+    const double rounded = session.params().roundAmount(balance);
+    const QString refusal = balance < 0 ? texts::balanceNegative() : QString();
+    return changeByHand(session, code, refusal, [&](const Member &member) {
         core::Connection &db = session.db();
-        core::Transaction transaction(db);
-        const std::optional<Member> member = readMember(db, code);
-        if (!member)
-            return core::refuse(session.ui(), texts::memberMissing(code));
-        const double rounded = session.params().roundAmount(balance);
         db.exec(QStringLiteral("update jxc_hyxx set hy_zhje=? where hy_sn=?"), { rounded, code });
         db.exec(QStringLiteral("insert into jxc_czxf (hy_sn,xf_je,hy_rq,a_admin,hy_bz) values "
                                "(?,?,?,?,?)"),
-            { code, rounded - member->balance, session.clock().nowText(), session.user().name,
-                note.left(64) });
-        session.log(texts::balanceChangedLog(member->name, member->balance, rounded));
-        transaction.commit();
-        return Outcome::done();
+            { code, rounded - member.balance, session.clock().nowText(), session.user().name,
+                core::cleanText(note).left(64) });
+        session.log(texts::balanceChangedLog(member.name, member.balance, rounded));
     });
 }
 
