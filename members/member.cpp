@@ -254,8 +254,7 @@ Outcome changeMember(const shell::Session &session, const QString &code, masterd
 Outcome setMemberPoints(const shell::Session &session, const QString &code, double points,
     double lifetimePoints, const QString &note)
 {
-    const QString refusal
-        = points < 0 || lifetimePoints < 0 ? texts::pointsNegative() : QString();
+    const QString refusal = points < 0 || lifetimePoints < 0 ? texts::pointsNegative() : QString();
     return changeByHand(session, code, refusal, [&](const Member &member) {
         core::Connection &db = session.db();
         db.exec(QStringLiteral("update jxc_hyxx set hy_jf=?,hy_zjf=?,hl_sn=? where hy_sn=?"),

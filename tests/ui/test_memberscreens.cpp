@@ -9,6 +9,7 @@
 #include "ui/members/redeempage.h"
 #include "ui/members/registration.h"
 #include "ui/members/topupdialog.h"
+#include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
 
 #include <QCheckBox>
@@ -144,4 +145,25 @@ TEST_F(MemberScreens, TheScreensOpenFromTheirRights)
     EXPECT_NE(qobject_cast<ui::MembersScreen *>(window.tabs()->currentWidget()), nullptr);
     window.openOperation(QStringLiteral("rcgl"), 11);
     EXPECT_NE(qobject_cast<ui::GiftsScreen *>(window.tabs()->currentWidget()), nullptr);
+}
+
+// Every successful login releases the top-up gifts that have fallen due: a daily gift of 10 a
+// day from 2025-03-10, 35 in all, has three instalments due on 2025-03-14.
+TEST_F(MemberScreens, LoggingInReleasesTheGiftsThatHaveFallenDue)
+{
+    const QString member
+        = members::addMember(session(), { { QStringLiteral("hy_name"), QStringLiteral("张敏") } })
+              .value();
+    db().exec(QStringLiteral("insert into jxc_hyxf (gl_djh,hy_sn,xf_rq,xf_je,xf_zsrq,hs_zsfs,"
+                             "hs_myje,hs_zsje) values ('XF25031010001',?,'2025-03-10',100,"
+                             "'2025-03-10',3,10,35)"),
+        { member });
+    ui::LoginDialog login(core::Connection::openSqlite(path()), folder(), clock, ui);
+    login.show();
+    QTest::keyClick(login.passwordField(), Qt::Key_Return);
+    ASSERT_EQ(login.result(), QDialog::Accepted);
+    EXPECT_EQ(row(QStringLiteral("select hy_zhje from jxc_hyxx where hy_sn=?"), { member }),
+        QStringList { "30" });
+    EXPECT_EQ(row(QStringLiteral("select hs_zsje from jxc_hyxf where gl_djh='XF25031010001'")),
+        QStringList { "5" });
 }
