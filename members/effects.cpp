@@ -78,7 +78,7 @@ struct Computed
     double cashBack = 0; // K
 };
 
-// Steps 7 and 8 of the amount: special-priced goods kept out unless they take part, the
+// The points base: special-priced goods kept out unless they take part, the
 // remainder carried, the amount truncated.
 double pointsBase(const shell::Session &session, const QString &number, double amount,
     bool isReturn, const Member &member, const PointsSettings &settings)
