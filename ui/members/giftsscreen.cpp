@@ -128,6 +128,12 @@ GiftItemsPage::GiftItemsPage(Workspace &workspace, QWidget *parent)
     buttons->addStretch(1);
     connect(m_items, &QTableWidget::currentCellChanged, this, &GiftItemsPage::showMovements);
     connect(m_items, &QTableWidget::cellDoubleClicked, this, &GiftItemsPage::editItem);
+    for (const auto &[key, slot] : { std::pair { Qt::Key_F2, &GiftItemsPage::editItem },
+             std::pair { Qt::Key_Insert, &GiftItemsPage::addItem } }) {
+        auto *shortcut = new QShortcut(QKeySequence(key), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, slot);
+    }
     auto *split = new QSplitter(Qt::Horizontal, this);
     split->addWidget(m_items);
     split->addWidget(m_movements);
