@@ -12,7 +12,7 @@
 #include "shell/session.h"
 #include "shell/settings.h"
 #include "stock/ledger.h"
-#include "stock/outgoing.h"
+#include "stock/movement.h"
 #include "stock/stores.h"
 
 #include <QSqlQuery>
@@ -25,7 +25,17 @@ namespace medistock::members {
 namespace {
 
 // A redemption counts nothing as sold and names no batch.
-const stock::OutgoingCounting redemptionCounting { false, 0, false };
+// A redemption issues gifts without naming a batch: warehouse and goods stock fall, the batches
+// stay, and nothing counts as sold.
+stock::StoreMovement redemptionMovement(
+    qint64 ledgerRow, const QString &goods, const QString &warehouse, double quantity, double cost)
+{
+    stock::StoreMovement movement { ledgerRow, { goods, warehouse, {}, {}, {} }, -quantity,
+        -quantity };
+    movement.price = cost;
+    movement.batchStock = false;
+    return movement;
+}
 
 const QString offeredGift
     = QStringLiteral("coalesce(a.g_iszp,0)<>0 and coalesce(a.g_sy,0)<>0 and coalesce(a.g_jy,0)=0");
@@ -152,16 +162,14 @@ void writeRedemption(const shell::Session &session, const ValidRedemption &r, co
         const double unitCost = issueCost(db, line.goods, d.warehouse);
         const stock::LedgerRow row = ledgerRowOf(session, r, number, line, unitCost);
         const qint64 id = stock::insertLedgerRow(session, row);
-        stock::postOutgoingRow(session,
-            { id, { line.goods, d.warehouse, {}, {}, {} }, line.quantity, unitCost },
-            redemptionCounting);
+        stock::postMovement(
+            session, redemptionMovement(id, line.goods, d.warehouse, line.quantity, unitCost));
         cost += row.amount;
     }
     accounts::appendDocumentExpense(session,
         { accounts::ExpenseKind::Expense, number, session.today(), texts::redemptionExpenseType(),
             session.params().roundAmount(cost), QString(), texts::redemptionExpenseNote(number) });
-    stock::ensureSettlementRows(session, session.today());
-    stock::settleWarehouse(session, d.warehouse, session.today());
+    stock::settleDay(session, d.warehouse, session.today());
     session.log(texts::redemptionSavedLog(number, r.member.name, d.points()));
 }
 
@@ -317,16 +325,15 @@ Outcome deleteRedemption(shell::Session &session, const QString &number)
                   .toDouble();
         db.exec(QStringLiteral("update jxc_hyxx set hy_jf=hy_jf+? where hy_sn=?"),
             { points, header.value(0) });
-        QList<stock::OutgoingRow> rows;
+        QList<stock::StoreMovement> rows;
         db.forEach(QStringLiteral("select id,g_sn,ck_sn,gl_sl,gl_cbj from jxc_goodslist where "
                                   "gl_djh=? and gl_flag=? order by id"),
             { number, QStringLiteral("dh") }, [&](const QSqlQuery &q) {
-                rows.append({ q.value(0).toLongLong(),
-                    { q.value(1).toString(), q.value(2).toString(), {}, {}, {} },
-                    q.value(3).toDouble(), q.value(4).toDouble() });
+                rows.append(redemptionMovement(q.value(0).toLongLong(), q.value(1).toString(),
+                    q.value(2).toString(), q.value(3).toDouble(), q.value(4).toDouble()));
             });
-        for (const stock::OutgoingRow &row : rows)
-            stock::reverseOutgoingRow(session, row, redemptionCounting);
+        for (const stock::StoreMovement &row : rows)
+            stock::withdrawMovement(session, row);
         accounts::removeExpenseRows(session, number);
         db.exec(QStringLiteral("delete from jxc_dhzp where gl_djh=?"), { number });
         db.exec(QStringLiteral("delete from jxc_dhd where gl_djh=?"), { number });

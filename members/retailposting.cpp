@@ -8,7 +8,7 @@
 #include "members/texts.h"
 #include "shell/session.h"
 #include "stock/ledger.h"
-#include "stock/outgoing.h"
+#include "stock/movement.h"
 
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -111,14 +111,15 @@ stock::LedgerRow ledgerRowOf(const shell::Session &session, const ValidRetail &r
     return row;
 }
 
-// A sale counts as one more sale of each goods; so does a return, as the back office's return
-// does.
-const stock::OutgoingCounting retailCounting { true, 1, true };
-
-void settle(const shell::Session &session, const QString &warehouse, const QString &date)
+// A sale takes what it issued out of the warehouse and counts it sold; a return brings it back.
+// Either counts one more sale of each goods, as the back office's sale and return do.
+stock::StoreMovement retailMovement(
+    qint64 ledgerRow, const stock::BatchKey &batch, double leaving, double cost)
 {
-    stock::ensureSettlementRows(session, date);
-    stock::settleWarehouse(session, warehouse, date);
+    stock::StoreMovement movement { ledgerRow, batch, -leaving, -leaving, leaving };
+    movement.sales = 1;
+    movement.price = cost;
+    return movement;
 }
 
 struct PostedHeader
@@ -141,16 +142,16 @@ PostedHeader postedHeader(core::Connection &db, const QString &number)
         number.startsWith(QLatin1String("XT")) };
 }
 
-QList<stock::OutgoingRow> postedRows(core::Connection &db, const QString &number)
+QList<stock::StoreMovement> postedRows(core::Connection &db, const QString &number)
 {
-    QList<stock::OutgoingRow> rows;
+    QList<stock::StoreMovement> rows;
     db.forEach(QStringLiteral("select id,g_sn,ck_sn,t_ph,t_yxq,t_scrq,gl_sl,gl_cbj from "
                               "jxc_goodslist where gl_djh=? and gl_fdmc=? order by id"),
         { number, texts::retailBranchMark() }, [&](const QSqlQuery &q) {
-            rows.append({ q.value(0).toLongLong(),
+            rows.append(retailMovement(q.value(0).toLongLong(),
                 { q.value(1).toString(), q.value(2).toString(), q.value(3).toString(),
                     q.value(4).toString(), q.value(5).toString() },
-                q.value(6).toDouble(), q.value(7).toDouble() });
+                q.value(6).toDouble(), q.value(7).toDouble()));
         });
     return rows;
 }
@@ -170,12 +171,12 @@ void writeRetailDocument(const shell::Session &session, const ValidRetail &r)
         const PricedLine &p = r.lines.at(i);
         const qint64 id
             = stock::insertLedgerRow(session, ledgerRowOf(session, r, names, p, lineIds.at(i)));
-        stock::postOutgoingRow(session,
-            { id, { p.line.goods, d.warehouse, p.line.batch, p.line.expiry, p.line.produced },
-                p.baseQuantity, p.cost },
-            retailCounting);
+        stock::postMovement(session,
+            retailMovement(id,
+                { p.line.goods, d.warehouse, p.line.batch, p.line.expiry, p.line.produced },
+                p.baseQuantity, p.cost));
     }
-    settle(session, d.warehouse, session.today());
+    stock::settleDay(session, d.warehouse, session.today());
     bookCounterPayment(session,
         { d.number, r.date, texts::retailCashKind(isReturn(d)), d.customer, names.customer,
             names.warehouse, names.employee, texts::retailTitle(isReturn(d)) },
@@ -193,9 +194,9 @@ void removeRetailDocument(const shell::Session &session, const QString &number)
     if (!header.member.isEmpty())
         postMemberEffects(session, number, header.member,
             header.isReturn ? MemberOperation::ReturnReversed : MemberOperation::SaleReversed);
-    for (const stock::OutgoingRow &row : postedRows(db, number))
-        stock::reverseOutgoingRow(session, row, retailCounting);
-    settle(session, header.warehouse, header.date);
+    for (const stock::StoreMovement &row : postedRows(db, number))
+        stock::withdrawMovement(session, row);
+    stock::settleDay(session, header.warehouse, header.date);
     accounts::deleteCashRowsOf(db, number);
     db.exec(QStringLiteral("delete from jxc_posxssp where gl_djh=?"), { number });
     db.exec(QStringLiteral("delete from jxc_posxsd where gl_djh=?"), { number });
