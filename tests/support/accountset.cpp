@@ -107,8 +107,7 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
     return dump;
 }
 
-QStringList selectTexts(
-    core::Connection &connection, const QString &sql, const QVariantList &params)
+QStringList selectTexts(core::Connection &connection, const QString &sql, const QVariantList &params)
 {
     QStringList lines;
     for (const QSqlRecord &row : connection.rows(sql, params)) {
@@ -118,6 +117,29 @@ QStringList selectTexts(
         lines.append(values.join(QLatin1Char('|')));
     }
     return lines;
+}
+
+QStringList tableRows(core::Connection &connection, const QString &table, const QString &columns,
+    const QString &where, const QVariantList &params)
+{
+    return selectTexts(connection,
+        QStringLiteral("select %1 from %2%3 order by id")
+            .arg(columns, table, where.isEmpty() ? QString() : QStringLiteral(" where ") + where),
+        params);
+}
+
+QStringList differences(const QString &before, const QString &after)
+{
+    const QStringList a = before.split(QLatin1Char('\n'));
+    const QStringList b = after.split(QLatin1Char('\n'));
+    QStringList changed;
+    for (const QString &line : a)
+        if (!b.contains(line))
+            changed.append(QStringLiteral("-") + line);
+    for (const QString &line : b)
+        if (!a.contains(line))
+            changed.append(QStringLiteral("+") + line);
+    return changed;
 }
 
 } // namespace medistock::test
