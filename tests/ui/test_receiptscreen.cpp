@@ -206,3 +206,192 @@ TEST_F(ReceiptScreenTest, AKeyedReceiptWritesWhatTheCommandLineWrites)
                   QStringLiteral("select count(*) from jxc_goodslist where gl_djh=?"), { number }),
         QStringLiteral("3"));
 }
+
+class CheckedReceiptTest : public ReceiptScreenTest
+{
+protected:
+    void SetUp() override
+    {
+        ReceiptScreenTest::SetUp();
+        if (HasFatalFailure())
+            return;
+        purchasing::PurchaseDraft draft;
+        draft.entry.date = QStringLiteral("2025-03-14");
+        draft.entry.party = QStringLiteral("100002");
+        draft.entry.warehouse = QStringLiteral("100001");
+        for (const auto &[goods, quantity, batch] :
+            { std::tuple { "10000001", "10", "A2401" }, { "10000002", "5", "D2402" } }) {
+            documents::LineDraft line;
+            line.goods = QString::fromLatin1(goods);
+            line.quantity = QString::fromLatin1(quantity);
+            line.price = QStringLiteral("12.5");
+            line.batch = QString::fromLatin1(batch);
+            line.expiry = QStringLiteral("2026-01-01");
+            draft.entry.lines.append(line);
+        }
+        receipt = purchasing::savePurchaseReceipt(session(), draft).value();
+        ASSERT_TRUE(purchasing::checkPurchaseReceipt(session(), receipt).ok());
+        ui.clear();
+    }
+
+    double stockOf(const QString &goods)
+    {
+        return db()
+            .firstValue(QStringLiteral("select kc_sl from jxc_kcsp where g_sn=? and ck_sn=?"),
+                { goods, QStringLiteral("100001") })
+            .toDouble();
+    }
+
+    QString receipt;
+};
+
+// Unchecked with F6 (after the question) and checked again with F5; then a return taken from
+// the receipt's lines: more than the line holds is refused with the limit's words and the grid
+// keeps the quantity typed; what it holds goes through. A free return of more than the batch
+// holds is refused by the check with the batch check's words, and the check writes nothing.
+TEST_F(CheckedReceiptTest, UncheckedCheckedAgainAndReturnedFromItsLines)
+{
+    auto screen = openReceipt();
+    keys.setWindow(screen.get());
+    screen->openDocument(receipt);
+    ASSERT_TRUE(screen->isChecked());
+    ui.answerNext(true);
+    keys.press(Qt::Key_F6);
+    EXPECT_EQ(ui.asked,
+        QStringList {
+            QStringLiteral("您的操作将取消当前选中的已审核单据：CJ25031410001，确认吗？") });
+    EXPECT_FALSE(screen->isChecked());
+    EXPECT_EQ(stockOf(QStringLiteral("10000001")), 0);
+    EXPECT_TRUE(screen->lines()->flags(screen->lines()->index(0, 8)) & Qt::ItemIsEditable);
+    approveWith(QStringLiteral("0"));
+    EXPECT_TRUE(screen->isChecked());
+    EXPECT_EQ(stockOf(QStringLiteral("10000001")), 10);
+
+    auto back = openReturn();
+    keys.setWindow(back.get());
+    keys.type(QStringLiteral("hdyy"));
+    keys.press(Qt::Key_Return);
+    keys.onDialog<ui::ReceiptLinesDialog>([this](ui::ReceiptLinesDialog &dialog) {
+        EXPECT_EQ(dialog.receiptGrid()->item(0, 0)->text(), QStringLiteral("CJ25031410001"));
+        keys.press(Qt::Key_Return);
+        keys.press(Qt::Key_Space);
+        keys.press(Qt::Key_Return);
+    });
+    keys.press(Qt::Key_F10);
+    EXPECT_FALSE(keys.waiting());
+    ASSERT_EQ(back->lines()->rowCount(), 2);
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Quantity), QStringLiteral("10"));
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Batch), QStringLiteral("A2401"));
+    EXPECT_EQ(back->lines()->line(0).columns.value(QStringLiteral("id2")).toLongLong(),
+        db().firstValue(
+                QStringLiteral("select id2 from jxc_jhsp where j_sn=? order by id"), { receipt })
+            .toLongLong());
+
+    back->grid()->editCell(0, ui::LineField::Quantity);
+    keys.type(QStringLiteral("11"));
+    keys.press(Qt::Key_Return);
+    keys.press(Qt::Key_F3);
+    EXPECT_EQ(ui.informed,
+        QStringList {
+            QStringLiteral("第1行：退货数量超过进货单CJ25031410001中该商品尚可退货的数量10！") });
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Quantity), QStringLiteral("11"));
+    EXPECT_EQ(back->number(), QString());
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_thd")), 0);
+
+    back->grid()->editCell(0, ui::LineField::Quantity);
+    keys.type(QStringLiteral("4"));
+    keys.press(Qt::Key_Return);
+    keys.press(Qt::Key_F3);
+    EXPECT_EQ(back->number(), QStringLiteral("CT25031410001"));
+    approveWith(QStringLiteral("0"));
+    EXPECT_TRUE(back->isChecked());
+    EXPECT_EQ(stockOf(QStringLiteral("10000001")), 6);
+
+    ui.clear();
+    setParameter(QStringLiteral("cs_kc"), 0); // a batch shortage is refused, not asked
+    keys.press(Qt::Key_F2);
+    keys.type(QStringLiteral("hdyy"));
+    keys.press(Qt::Key_Return);
+    keys.type(QStringLiteral("amd"));
+    keys.press(Qt::Key_Return);
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Batch), QStringLiteral("D2402"));
+    keys.press(Qt::Key_Return);
+    keys.type(QStringLiteral("9"));
+    keys.press(Qt::Key_Return);
+    keys.press(Qt::Key_F3);
+    ASSERT_EQ(back->number(), QStringLiteral("CT25031410002"));
+    const QStringList before = test::businessRows(db());
+    approveWith(QStringLiteral("0"));
+    EXPECT_EQ(ui.informed,
+        QStringList {
+            QStringLiteral("该单据对应的批号、有效期中至少一种商品库存不足，\r\n\r\n“10000002”："
+                           "不能退货！") });
+    EXPECT_FALSE(back->isChecked());
+    EXPECT_EQ(test::rowDifferences(before, test::businessRows(db())), QStringList());
+}
+
+// Without "采购进货取消审核" (cggl 10) the button is disabled with the reason, F6 does nothing,
+// and the operation itself refuses with its own words.
+TEST_F(CheckedReceiptTest, AClerkWithoutTheUncheckRightCannotUncheck)
+{
+    addOperatorWithRights(
+        QStringLiteral("小王"), { { QStringLiteral("cggl"), QStringLiteral("111111111") } });
+    switchOperator(QStringLiteral("小王"));
+    auto screen = openReceipt();
+    keys.setWindow(screen.get());
+    screen->openDocument(receipt);
+    ASSERT_TRUE(screen->isChecked());
+    EXPECT_FALSE(screen->uncheckButton()->isEnabled());
+    EXPECT_EQ(
+        screen->uncheckButton()->toolTip(), QStringLiteral("您没有“采购进货取消审核”的权限！"));
+    keys.press(Qt::Key_F6);
+    EXPECT_TRUE(ui.asked.isEmpty());
+    EXPECT_TRUE(screen->isChecked());
+    ui::ReceiptScreenKind kind;
+    EXPECT_FALSE(kind.uncheck(session(), receipt).ok());
+    EXPECT_EQ(ui.informed, QStringList { QStringLiteral("您没有取消审核采购进货单的权限！") });
+    EXPECT_EQ(
+        db().firstText(QStringLiteral("select j_status from jxc_jhd where j_sn=?"), { receipt }),
+        QStringLiteral("1"));
+}
+
+// Typed work is never lost by a key: a goods text not found stays red in its cell, a save the
+// entry refuses keeps every line, and closing or starting anew with unsaved lines asks first.
+TEST_F(ReceiptScreenTest, NothingTypedIsLostOnARefusalOrAClose)
+{
+    auto screen = openReceipt();
+    keys.setWindow(screen.get());
+    keys.type(QStringLiteral("hdyy"));
+    keys.press(Qt::Key_Return);
+    keys.type(QStringLiteral("xyz"));
+    keys.press(Qt::Key_Return);
+    EXPECT_EQ(ui.informed,
+        QStringList { QStringLiteral("没有找到商品：xyz\r\n请输入商品编号、条码、简码或名称。") });
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Code), QStringLiteral("xyz"));
+    EXPECT_EQ(
+        screen->lines()->index(0, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
+
+    ui.clear();
+    screen->grid()->finishEditing();
+    screen->lines()->setData(screen->lines()->index(0, 1), QStringLiteral("amx"), Qt::EditRole);
+    Keyboard::settle();
+    screen->grid()->editCell(0, ui::LineField::Quantity);
+    keys.type(QStringLiteral("0"));
+    keys.press(Qt::Key_Return);
+    keys.press(Qt::Key_F3);
+    EXPECT_EQ(ui.informed, QStringList { QStringLiteral("第1行：数量不能为零！") });
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Name), QStringLiteral("阿莫西林胶囊"));
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_jhd")), 0);
+
+    ui.answerNext(false);
+    EXPECT_FALSE(screen->close());
+    EXPECT_EQ(ui.asked,
+        QStringList { QStringLiteral("当前单据已修改但尚未保存，确定要放弃这些修改吗？") });
+    ui.answerNext(false);
+    keys.press(Qt::Key_F2);
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Code), QStringLiteral("10000001"));
+    ui.answerNext(true);
+    keys.press(Qt::Key_F2);
+    EXPECT_EQ(screen->lines()->rowCount(), 1);
+    EXPECT_TRUE(screen->lines()->line(0).isBlank());
+}

@@ -304,8 +304,9 @@ void QueryScreen::exportTo(const QString &path)
     for (int row = 0; row < m_model->rowCount(); ++row) {
         QVariantList values;
         for (int column : order) {
-            const bool number = isNumber(m_model->columns().at(column))
-                && m_model->value(row, column).typeId() != QMetaType::QString;
+            const QVariant value = m_model->value(row, column);
+            const bool number = isNumber(m_model->columns().at(column)) && value.isValid()
+                && !value.isNull() && value.typeId() != QMetaType::QString;
             values.append(number ? QVariant(m_model->text(row, column).toDouble())
                                  : QVariant(m_model->text(row, column)));
         }
