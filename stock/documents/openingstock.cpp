@@ -57,6 +57,8 @@ namespace {
 // The shared line checks, and every warehouse named by a line.
 Result<documents::ValidDocument> validate(const shell::Session &session, const OpeningDraft &draft)
 {
+    if (draft.lines.isEmpty())
+        return core::refuse(session.ui(), documents::texts::noLines());
     documents::DocumentDraft entry;
     entry.date = draft.date;
     for (const OpeningLine &line : draft.lines) {
