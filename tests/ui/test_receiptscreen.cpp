@@ -395,3 +395,40 @@ TEST_F(ReceiptScreenTest, NothingTypedIsLostOnARefusalOrAClose)
     EXPECT_EQ(screen->lines()->rowCount(), 1);
     EXPECT_TRUE(screen->lines()->line(0).isBlank());
 }
+
+// "cggl" 16, 17 and 18 guard adding goods to a saved unchecked receipt, deleting it, and adding
+// a new goods from the picker.
+TEST_F(ReceiptScreenTest, TheFinerRightsOfTheReceiptGuardTheirActions)
+{
+    const auto newGoodsButton = [&] {
+        ui::GoodsPickerDialog picker(workspace(), QString(), QStringLiteral("100001"),
+            QStringLiteral("cggl"), 18);
+        return test::buttonNamed(&picker, QStringLiteral("新增商品(F7)")) != nullptr;
+    };
+    EXPECT_TRUE(newGoodsButton());
+    purchasing::PurchaseDraft draft;
+    draft.entry.date = QStringLiteral("2025-03-14");
+    draft.entry.party = QStringLiteral("100002");
+    draft.entry.warehouse = QStringLiteral("100001");
+    documents::LineDraft l;
+    l.goods = QStringLiteral("10000003");
+    l.quantity = QStringLiteral("2");
+    l.price = QStringLiteral("8");
+    draft.entry.lines = { l };
+    const QString number = purchasing::savePurchaseReceipt(session(), draft).value();
+
+    addOperatorWithRights(QStringLiteral("小王"), { { QStringLiteral("cggl"), QStringLiteral("111111111111111") } });
+    switchOperator(QStringLiteral("小王"));
+    EXPECT_FALSE(newGoodsButton());
+    auto screen = openReceipt();
+    EXPECT_TRUE(screen->lines()->isAddingAllowed());
+    screen->openDocument(number);
+    EXPECT_FALSE(screen->lines()->isAddingAllowed());
+    EXPECT_FALSE(screen->deleteButton()->isEnabled());
+    EXPECT_EQ(screen->deleteButton()->toolTip(), QStringLiteral("您没有“允许删除采购进货待审核单据”的权限！"));
+    screen->grid()->goToNewLine();
+    EXPECT_EQ(screen->lines()->rowCount(), 1);
+    EXPECT_FALSE(screen->lines()->flags(screen->lines()->index(0, 1)) & Qt::ItemIsEditable);
+    // What the receipt holds may still be changed.
+    EXPECT_TRUE(screen->lines()->flags(screen->lines()->index(0, 8)) & Qt::ItemIsEditable);
+}
