@@ -205,8 +205,9 @@ QWidget *QueryScreen::buildButtons()
     auto *exportButton = new QPushButton(texts::exportButton(), box);
     connect(query, &QPushButton::clicked, this, &QueryScreen::run);
     connect(exportButton, &QPushButton::clicked, this, &QueryScreen::chooseExportFile);
-    QPushButton *print = makePrintButton(m_workspace, this, [this] { return printRequest(); });
-    for (QPushButton *button : { query, exportButton, print }) {
+    m_printButton = makePrintButton(m_workspace, this, [this] { return printRequest(); });
+    m_printButton->setVisible(false);
+    for (QPushButton *button : { query, exportButton, m_printButton }) {
         button->setAutoDefault(false);
         m_buttons->addWidget(button);
     }
@@ -243,6 +244,12 @@ void QueryScreen::setColumns(const QList<QueryColumn> &columns, const QString &l
     for (int i = 0; i < columns.size(); ++i)
         m_grid->setColumnWidth(i, defaultWidth(columns[i], metrics));
     m_workspace.rememberColumns(m_grid, layoutKey);
+}
+
+void QueryScreen::setPrintKey(const QString &key)
+{
+    m_printKey = key;
+    m_printButton->setVisible(!key.isEmpty());
 }
 
 void QueryScreen::setRunKey(const QKeySequence &key)

@@ -87,8 +87,8 @@ public:
     void setRows(QList<QVariantList> rows, QList<QColor> colours = {});
     // A panel under the grid, for what belongs to the current row.
     void setDetail(QWidget *detail);
-    // The report key the print button prints the grid with.
-    void setPrintKey(const QString &key) { m_printKey = key; }
+    // The report key the print button prints with; without one the screen offers no printing.
+    void setPrintKey(const QString &key);
     // The key that runs the query (F5); an empty sequence leaves it to the button, for a list
     // inside a dialog whose F5 means something else.
     void setRunKey(const QKeySequence &key);
@@ -132,6 +132,7 @@ private:
     QLabel *m_count;
     QShortcut *m_runKey;
     QPushButton *m_runButton = nullptr;
+    QPushButton *m_printButton = nullptr;
     int m_filterCount = 0;
 };
 

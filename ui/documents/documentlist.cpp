@@ -45,6 +45,8 @@ DocumentListScreen::DocumentListScreen(Workspace &workspace, const QString &titl
     , m_fixedStatus(filters.status)
 {
     buildFilters(filters);
+    // Each row prints with its own kind's key (printRequest); the first one shows the button.
+    setPrintKey(m_kinds.first().printKey);
     const shell::Parameters &params = workspace.session.params();
     QList<QueryColumn> columns;
     if (m_kinds.size() > 1)

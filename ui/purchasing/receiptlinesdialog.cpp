@@ -49,8 +49,9 @@ ReceiptLinesDialog::ReceiptLinesDialog(DocumentScreen &screen)
 {
     setWindowTitle(pctexts::receiptLinesTitle);
     m_receipts->setColumnWidth(0, 130);
-    m_lines->setColumnWidth(0, 44);
-    m_lines->setColumnWidth(2, 180);
+    const int widths[] = { 44, 96, 180, 96, 50, 84, 90, 76, 76, 76, 76 };
+    for (int column = 0; column < int(std::size(widths)); ++column)
+        m_lines->setColumnWidth(column, widths[column]);
     for (QTableWidget *grid : { m_receipts, m_lines })
         grid->installEventFilter(this);
     const shell::Session &session = screen.workspace().session;
@@ -112,6 +113,8 @@ void ReceiptLinesDialog::showLines()
         box->setFlags(m_returnable[i].left > 0 ? Qt::ItemIsEnabled | Qt::ItemIsUserCheckable
                                                : Qt::NoItemFlags);
         box->setCheckState(Qt::Unchecked);
+        for (int column = 7; column < m_lines->columnCount(); ++column)
+            m_lines->item(i, column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     if (m_lines->rowCount() > 0)
         m_lines->setCurrentCell(0, 0);
