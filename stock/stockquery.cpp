@@ -1,8 +1,10 @@
 #include "stock/stockquery.h"
 
 #include "core/connection.h"
+#include "documents/expiry.h"
 #include "shell/session.h"
 
+#include <QDate>
 #include <QSqlQuery>
 
 namespace medistock::stock {
@@ -48,10 +50,10 @@ QString conditions(const StockFilter &filter, const QString &quantity, QVariantL
     return where.join(QStringLiteral(" and "));
 }
 
-bool expiresWithin(const QString &expiry, const QDate &limit)
+bool expiresWithin(const QString &expiry, const QString &limit)
 {
-    const QDate day = expiryDay(expiry);
-    return day.isValid() && day <= limit;
+    const QString day = documents::expiryDay(expiry);
+    return documents::isExpiryText(expiry) && !day.isEmpty() && day <= limit;
 }
 
 // A row's quantity split into what came in and what went out, by its kind's direction.
@@ -88,8 +90,9 @@ QList<BatchStock> stockByBatch(const shell::Session &session, const StockFilter 
 {
     QVariantList params;
     const QString where = conditions(filter, QStringLiteral("s.t_sl"), params);
-    const QDate limit = QDate::fromString(session.today(), QStringLiteral("yyyy-MM-dd"))
-                            .addDays(filter.expiringWithinDays);
+    const QString limit = QDate::fromString(session.today(), QStringLiteral("yyyy-MM-dd"))
+                              .addDays(filter.expiringWithinDays)
+                              .toString(QStringLiteral("yyyy-MM-dd"));
     QList<BatchStock> rows;
     session.db().forEach(
         QStringLiteral("select %1,s.t_ph,s.t_scrq,s.t_yxq,s.t_sl,(select kc_cbj from jxc_kcsp "
@@ -106,17 +109,6 @@ QList<BatchStock> stockByBatch(const shell::Session &session, const StockFilter 
             rows.append(row);
         });
     return rows;
-}
-
-QDate expiryDay(const QString &expiry)
-{
-    const QString text = expiry.trimmed();
-    if (text.size() == 7) {
-        const QDate first
-            = QDate::fromString(text + QStringLiteral("-01"), QStringLiteral("yyyy-MM-dd"));
-        return first.isValid() ? first.addMonths(1).addDays(-1) : QDate();
-    }
-    return text.size() == 10 ? QDate::fromString(text, QStringLiteral("yyyy-MM-dd")) : QDate();
 }
 
 QList<LedgerEntry> goodsLedger(const shell::Session &session, const QString &goods,

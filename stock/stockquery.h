@@ -2,7 +2,6 @@
 
 #include "stock/ledger.h"
 
-#include <QDate>
 #include <QList>
 #include <QString>
 
@@ -21,8 +20,9 @@ struct StockFilter
     QString classCode; // gc_sn of a goods class, its sub-classes included; empty: every class
     QString text; // code, name, mnemonic or barcode contains it; empty: any goods
     bool inStockOnly = false; // only rows whose quantity is above 0
-    // Batch rows only: those whose expiry falls on or before today + N days (expired ones
-    // included); a negative N sets no limit. Batches without an expiry never qualify.
+    // Batch rows only: those whose expiry (its last day, documents/expiry.h) falls on or before
+    // today + N days, expired ones included; a negative N sets no limit. Batches without an
+    // expiry never qualify.
     int expiringWithinDays = -1;
 };
 
@@ -64,10 +64,6 @@ struct BatchStock
 QList<WarehouseStock> stockByWarehouse(const shell::Session &session, const StockFilter &filter);
 // By goods code, warehouse, expiry, batch number and production date.
 QList<BatchStock> stockByBatch(const shell::Session &session, const StockFilter &filter);
-
-// The last day an expiry text stands for: "yyyy-MM-dd" itself, "yyyy-MM" the month's last day;
-// an invalid date for no expiry ("", "0000-00") and for text that is no date.
-QDate expiryDay(const QString &expiry);
 
 // One movement of the goods ledger as the ledger view shows it.
 struct LedgerEntry

@@ -119,29 +119,6 @@ TEST_F(StockQueryTest, ExpiringWithinDaysCountsTheLastDay)
     EXPECT_EQ(expiring(5000).size(), 3);
 }
 
-struct Expiry
-{
-    const char *text;
-    const char *day; // empty: no day
-};
-
-class ExpiryDay : public ::testing::TestWithParam<Expiry>
-{
-};
-
-TEST_P(ExpiryDay, IsTheLastDayTheTextStandsFor)
-{
-    EXPECT_EQ(stock::expiryDay(QString::fromLatin1(GetParam().text))
-                  .toString(QStringLiteral("yyyy-MM-dd")),
-        QString::fromLatin1(GetParam().day));
-}
-
-INSTANTIATE_TEST_SUITE_P(Texts, ExpiryDay,
-    ::testing::Values(Expiry { "2025-06-15", "2025-06-15" }, Expiry { "2025-06", "2025-06-30" },
-        Expiry { "2024-02", "2024-02-29" }, Expiry { "2025-12", "2025-12-31" }, Expiry { "", "" },
-        Expiry { "0000-00", "" }, Expiry { "2025-13", "" }, Expiry { "2025-02-30", "" },
-        Expiry { "长期", "" }));
-
 // What came in and went out follows each kind's direction, whatever the sign of its quantity.
 TEST_F(StockQueryTest, TheLedgerSplitsMovementsIntoInAndOut)
 {

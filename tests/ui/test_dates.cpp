@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 using medistock::ui::normalizedDate;
 
 struct TypedDate
@@ -11,6 +13,11 @@ struct TypedDate
     const char *typed;
     const char *stored;
 };
+
+void PrintTo(const TypedDate &date, std::ostream *os)
+{
+    *os << '"' << date.typed << '"';
+}
 
 class NormalizedDate : public ::testing::TestWithParam<TypedDate>
 {

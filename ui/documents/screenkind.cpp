@@ -1,8 +1,8 @@
 #include "ui/documents/screenkind.h"
 
+#include "documents/expiry.h"
 #include "sales/fefo.h"
 #include "shell/session.h"
-#include "stock/stockquery.h"
 #include "stock/stockview.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/texts.h"
@@ -74,12 +74,13 @@ QList<BatchChoice> DocumentScreenKind::batchChoices(const shell::Session &sessio
 {
     const QDate day = QDate::fromString(date, QStringLiteral("yyyy-MM-dd"));
     const auto near = [&](const QString &expiry) {
-        const QDate last = stock::expiryDay(expiry);
+        const QDate last
+            = QDate::fromString(documents::expiryDay(expiry), QStringLiteral("yyyy-MM-dd"));
         return last.isValid() && day.isValid() && last <= day.addDays(nearExpiryDays);
     };
     QList<BatchChoice> choices;
     for (const stock::BatchStockRow &row : stock::batchStockRows(session, goods, warehouse))
-        if (row.quantity > 0 && sales::isExpired(row.expiry, date))
+        if (row.quantity > 0 && documents::expiredBy(row.expiry, date))
             choices.append(
                 { row.batch, row.expiry, row.produced, row.quantity, true, true, false });
     // Everything the batches hold, so that the proposal lists every batch still good.

@@ -1,5 +1,6 @@
 #include "ui/purchasing/purchasekinds.h"
 
+#include "accounts/texts.h"
 #include "core/interaction.h"
 #include "masterdata/texts.h"
 #include "purchasing/kinds.h"
@@ -77,7 +78,7 @@ QList<std::pair<QString, QWidget *>> PurchaseScreenKind::createHeaderFields(QWid
         m_packing = amountField(parent);
         m_freightTerms = new QComboBox(parent);
         m_freightTerms->addItems(
-            { QString(), purchasing::texts::wePayFreight(), purchasing::texts::theyPayFreight() });
+            { QString(), accounts::texts::wePayFreight(), accounts::texts::theyPayFreight() });
         fields.append({ pctexts::freight, m_freight });
         fields.append({ pctexts::packing, m_packing });
         fields.append({ pctexts::freightTerms, m_freightTerms });

@@ -1,5 +1,6 @@
 #include "ui/stock/stockqueryscreen.h"
 
+#include "documents/expiry.h"
 #include "masterdata/goodsclass.h"
 #include "shell/rights.h"
 #include "shell/session.h"
@@ -145,7 +146,8 @@ void StockQueryScreen::fetchBatches()
     QList<QVariantList> rows;
     QList<QColor> colours;
     for (const stock::BatchStock &s : stock::stockByBatch(m_workspace.session, filter)) {
-        const QDate last = stock::expiryDay(s.expiry);
+        const QDate last
+            = QDate::fromString(documents::expiryDay(s.expiry), QStringLiteral("yyyy-MM-dd"));
         const QVariant days = last.isValid() ? QVariant(today.daysTo(last)) : QVariant();
         QVariantList row { s.goods.code, s.goods.name, s.goods.spec, s.goods.unit,
             s.goods.warehouseName, s.batch, s.produced, s.expiry, days, s.quantity };
