@@ -20,18 +20,6 @@
 
 using namespace medistock;
 
-namespace {
-
-QStringList column(const ui::QueryScreen &screen, int index)
-{
-    QStringList texts;
-    for (int row = 0; row < screen.model()->rowCount(); ++row)
-        texts.append(screen.model()->text(row, index));
-    return texts;
-}
-
-} // namespace
-
 // Receipts of 03-10 (checked, 10 阿莫西林胶囊 at 10) and 03-14 (unchecked, 5 感冒灵颗粒 at 8), and
 // a checked return of 03-13 of 4 阿莫西林胶囊 against the first receipt's line.
 class DocumentListsTest : public test::UiTest
@@ -42,10 +30,8 @@ protected:
         UiTest::SetUp();
         if (HasFatalFailure())
             return;
-        for (const char *name : { "阿莫西林胶囊", "感冒灵颗粒" })
-            masterdata::addMasterRow(session(), masterdata::goodsKind(),
-                { { QStringLiteral("g_name"), QString::fromUtf8(name) },
-                    { QStringLiteral("dw_name"), QStringLiteral("盒") } });
+        test::addBoxedGoods(
+            session(), { QStringLiteral("阿莫西林胶囊"), QStringLiteral("感冒灵颗粒") });
         first = save(false, QStringLiteral("2025-03-10"), QStringLiteral("10000001"),
             QStringLiteral("10"), 0);
         ASSERT_TRUE(purchasing::checkPurchaseReceipt(session(), first).ok());
@@ -101,14 +87,14 @@ TEST_F(DocumentListsTest, ReceiptsAndReturnsAreListedTogetherAndNarrowedByTheFil
     auto screen = query();
     EXPECT_EQ(screen->fromField()->text(), QStringLiteral("2025-03-01"));
     screen->run();
-    EXPECT_EQ(column(*screen, 1), (QStringList { first, back, second, QString() }));
-    EXPECT_EQ(column(*screen, 0),
+    EXPECT_EQ(test::gridColumn(*screen, 1), (QStringList { first, back, second, QString() }));
+    EXPECT_EQ(test::gridColumn(*screen, 0),
         (QStringList { QStringLiteral("采购进货单"), QStringLiteral("采购退货单"),
             QStringLiteral("采购进货单"), QStringLiteral("合计") }));
-    EXPECT_EQ(column(*screen, 8),
+    EXPECT_EQ(test::gridColumn(*screen, 8),
         (QStringList { QStringLiteral("100.00"), QStringLiteral("-40.00"), QStringLiteral("40.00"),
             QStringLiteral("100.00") }));
-    EXPECT_EQ(column(*screen, 9),
+    EXPECT_EQ(test::gridColumn(*screen, 9),
         (QStringList { QStringLiteral("已审核"), QStringLiteral("已审核"), QStringLiteral("未审核"),
             QString() }));
 
@@ -119,11 +105,11 @@ TEST_F(DocumentListsTest, ReceiptsAndReturnsAreListedTogetherAndNarrowedByTheFil
 
     screen->statusBox()->setCurrentIndex(screen->statusBox()->findData(0));
     screen->run();
-    EXPECT_EQ(column(*screen, 1), (QStringList { second, QString() }));
+    EXPECT_EQ(test::gridColumn(*screen, 1), (QStringList { second, QString() }));
     screen->statusBox()->setCurrentIndex(0);
     screen->goodsField()->setText(QStringLiteral("amx"));
     screen->run();
-    EXPECT_EQ(column(*screen, 1), (QStringList { first, back, QString() }));
+    EXPECT_EQ(test::gridColumn(*screen, 1), (QStringList { first, back, QString() }));
     screen->kindBox()->setCurrentIndex(2);
     screen->toField()->setText(QStringLiteral("2025-03-12"));
     screen->run();
@@ -136,7 +122,8 @@ TEST_F(DocumentListsTest, TheUncheckedListOpensAndDeletes)
 {
     ui::DocumentScreen screen(workspace(), std::make_unique<ui::ReceiptScreenKind>());
     ui::UncheckedDialog dialog(screen);
-    EXPECT_EQ(column(*dialog.list(), 0), (QStringList { second, QStringLiteral("合计") }));
+    EXPECT_EQ(
+        test::gridColumn(*dialog.list(), 0), (QStringList { second, QStringLiteral("合计") }));
     dialog.list()->grid()->selectRow(0);
     dialog.openChosen();
     EXPECT_EQ(screen.number(), second);

@@ -87,12 +87,14 @@ TEST(Layers, NoScreenHoldsAStatement)
     static const QRegularExpression statement(
         QStringLiteral(R"("\s*(select|insert\s+into|update|delete\s+from)\s)"),
         QRegularExpression::CaseInsensitiveOption);
-    ASSERT_TRUE(statement.match(QStringLiteral("QStringLiteral(\"select g_sn from jxc_goods\")")).hasMatch());
+    ASSERT_TRUE(statement.match(QStringLiteral("QStringLiteral(\"select g_sn from jxc_goods\")"))
+                    .hasMatch());
     ASSERT_FALSE(statement.match(QStringLiteral("QStringLiteral(\"选择商品\")")).hasMatch());
     const QDir root(QStringLiteral(MEDISTOCK_SOURCE_DIR));
     int scanned = 0;
-    QDirIterator files(root.filePath(QStringLiteral("ui")), { QStringLiteral("*.h"), QStringLiteral("*.cpp") },
-        QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(root.filePath(QStringLiteral("ui")),
+        { QStringLiteral("*.h"), QStringLiteral("*.cpp") }, QDir::Files,
+        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();

@@ -44,18 +44,6 @@ protected:
     }
 };
 
-QStringList shown(const ui::QueryScreen &screen)
-{
-    QStringList lines;
-    for (int row = 0; row < screen.model()->rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < screen.model()->columnCount(); ++column)
-            cells.append(screen.model()->text(row, column));
-        lines.append(cells.join(QLatin1Char('|')));
-    }
-    return lines;
-}
-
 } // namespace
 
 class QueryScreenTest : public test::UiTest
@@ -67,7 +55,7 @@ TEST_F(QueryScreenTest, TheTotalsRowSumsOnlyItsColumnsAndIsNeverCountedOrActivat
     Sample screen(workspace());
     screen.rows = { { QStringLiteral("甲"), 1.005, 2.5 }, { QStringLiteral("乙"), -3, 0.125 } };
     screen.run();
-    EXPECT_EQ(shown(screen),
+    EXPECT_EQ(test::gridRows(screen),
         (QStringList { QStringLiteral("甲|1.00|2.5000"), QStringLiteral("乙|-3.00|0.1250"),
             QStringLiteral("合计|-2.00|") }));
     EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：2"));
@@ -84,7 +72,7 @@ TEST_F(QueryScreenTest, TheTotalsRowSumsOnlyItsColumnsAndIsNeverCountedOrActivat
 
     screen.rows.clear();
     screen.run();
-    EXPECT_EQ(shown(screen), QStringList { QStringLiteral("合计|0.00|") });
+    EXPECT_EQ(test::gridRows(screen), QStringList { QStringLiteral("合计|0.00|") });
     EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：0"));
     EXPECT_EQ(screen.currentRow(), -1);
 }

@@ -401,8 +401,8 @@ TEST_F(ReceiptScreenTest, NothingTypedIsLostOnARefusalOrAClose)
 TEST_F(ReceiptScreenTest, TheFinerRightsOfTheReceiptGuardTheirActions)
 {
     const auto newGoodsButton = [&] {
-        ui::GoodsPickerDialog picker(workspace(), QString(), QStringLiteral("100001"),
-            QStringLiteral("cggl"), 18);
+        ui::GoodsPickerDialog picker(
+            workspace(), QString(), QStringLiteral("100001"), QStringLiteral("cggl"), 18);
         return test::buttonNamed(&picker, QStringLiteral("新增商品(F7)")) != nullptr;
     };
     EXPECT_TRUE(newGoodsButton());
@@ -417,7 +417,8 @@ TEST_F(ReceiptScreenTest, TheFinerRightsOfTheReceiptGuardTheirActions)
     draft.entry.lines = { l };
     const QString number = purchasing::savePurchaseReceipt(session(), draft).value();
 
-    addOperatorWithRights(QStringLiteral("小王"), { { QStringLiteral("cggl"), QStringLiteral("111111111111111") } });
+    addOperatorWithRights(
+        QStringLiteral("小王"), { { QStringLiteral("cggl"), QStringLiteral("111111111111111") } });
     switchOperator(QStringLiteral("小王"));
     EXPECT_FALSE(newGoodsButton());
     auto screen = openReceipt();
@@ -425,7 +426,8 @@ TEST_F(ReceiptScreenTest, TheFinerRightsOfTheReceiptGuardTheirActions)
     screen->openDocument(number);
     EXPECT_FALSE(screen->lines()->isAddingAllowed());
     EXPECT_FALSE(screen->deleteButton()->isEnabled());
-    EXPECT_EQ(screen->deleteButton()->toolTip(), QStringLiteral("您没有“允许删除采购进货待审核单据”的权限！"));
+    EXPECT_EQ(screen->deleteButton()->toolTip(),
+        QStringLiteral("您没有“允许删除采购进货待审核单据”的权限！"));
     screen->grid()->goToNewLine();
     EXPECT_EQ(screen->lines()->rowCount(), 1);
     EXPECT_FALSE(screen->lines()->flags(screen->lines()->index(0, 1)) & Qt::ItemIsEditable);

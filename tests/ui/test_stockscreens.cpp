@@ -27,18 +27,6 @@ using namespace medistock;
 
 namespace {
 
-QStringList shown(const ui::QueryScreen &screen)
-{
-    QStringList lines;
-    for (int row = 0; row < screen.model()->rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < screen.model()->columnCount(); ++column)
-            cells.append(screen.model()->text(row, column));
-        lines.append(cells.join(QLatin1Char('|')));
-    }
-    return lines;
-}
-
 QStringList captions(const ui::QueryScreen &screen)
 {
     QStringList names;
@@ -72,10 +60,8 @@ protected:
         UiTest::SetUp();
         if (HasFatalFailure())
             return;
-        for (const char *name : { "阿莫西林胶囊", "感冒灵颗粒" })
-            masterdata::addMasterRow(session(), masterdata::goodsKind(),
-                { { QStringLiteral("g_name"), QString::fromUtf8(name) },
-                    { QStringLiteral("dw_name"), QStringLiteral("盒") } });
+        test::addBoxedGoods(
+            session(), { QStringLiteral("阿莫西林胶囊"), QStringLiteral("感冒灵颗粒") });
         post(false, QStringLiteral("2025-03-10"), line("10000001", "10", "10", "B1", "2025-04-30"));
         post(false, QStringLiteral("2025-03-12"), line("10000001", "10", "16", "B2", "2027-12-31"));
         documents::LineDraft back = line("10000001", "4", "10", "B1", "2025-04-30");
@@ -106,14 +92,14 @@ protected:
 TEST_F(StockScreensTest, TheStockQueryShowsWarehouseAndBatchStockWithTheirExpiry)
 {
     ui::StockQueryScreen screen(workspace());
-    EXPECT_EQ(shown(screen),
+    EXPECT_EQ(test::gridRows(screen),
         (QStringList { QStringLiteral("10000001|阿莫西林胶囊||盒||主仓库|16.00|16.00|13.75|220.00"),
             QStringLiteral("10000002|感冒灵颗粒||盒||主仓库|3.00|3.00|8.00|24.00"),
             QStringLiteral("合计||||||19.00|19.00||244.00") }));
     EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：2"));
 
     screen.batchBox()->setChecked(true);
-    EXPECT_EQ(shown(screen),
+    EXPECT_EQ(test::gridRows(screen),
         (QStringList {
             QStringLiteral("10000001|阿莫西林胶囊||盒|主仓库|B1||2025-04-30|47|6.00|13.75|82.50"),
             QStringLiteral(
@@ -147,7 +133,7 @@ TEST_F(StockScreensTest, TheLedgerShowsEachMovementWithItsRunningFigures)
 {
     ui::GoodsLedgerScreen ledger(workspace());
     ledger.showGoods(QStringLiteral("10000001"), QStringLiteral("100001"));
-    EXPECT_EQ(shown(ledger),
+    EXPECT_EQ(test::gridRows(ledger),
         (QStringList {
             QStringLiteral("主仓库|2025-03-10|采购入库单|CJ25031010001|普通供货商|B1|2025-04-30|"
                            "10.00|0.00|10.00|100.00|10.00|10.00|100.00"),

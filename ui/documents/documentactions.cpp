@@ -5,6 +5,7 @@
 #include "core/capitals.h"
 #include "core/interaction.h"
 #include "core/lookups.h"
+#include "core/rounding.h"
 #include "documents/listing.h"
 #include "masterdata/texts.h"
 #include "shell/rights.h"
@@ -39,12 +40,7 @@ QString numberText(double value, int decimals)
 // A stored number as a clerk would have typed it: no trailing zeros.
 QString typedText(double value)
 {
-    QString text = QString::number(value, 'f', 8);
-    while (text.endsWith(QLatin1Char('0')))
-        text.chop(1);
-    if (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+    return core::plainNumber(value);
 }
 
 } // namespace
@@ -240,14 +236,16 @@ void DocumentScreen::loadStored(const QString &number)
 LineEntry DocumentScreen::storedLine(const documents::DocumentLineRow &stored) const
 {
     const shell::Session &session = m_workspace.session;
-    LineEntry line;
-    line.goods = stored.goods;
-    line.chosen = true;
-    line.name = stored.goodsName;
-    line.spec = stored.spec;
-    line.baseUnit = stored.baseUnit;
-    line.units = documents::unitChoices(session.db(), stored.goods);
-    line.unit = stored.unit;
+    // The goods as it is now (its stock in the header's warehouse), the line as stored.
+    documents::GoodsChoice goods;
+    goods.code = stored.goods;
+    if (const auto now = documents::goodsChoice(session, stored.goods, warehouseCode()))
+        goods = *now;
+    goods.name = stored.goodsName;
+    goods.spec = stored.spec;
+    goods.baseUnit = stored.baseUnit;
+    goods.unit = stored.unit;
+    LineEntry line = LineEntry::of(goods, documents::unitChoices(session.db(), stored.goods));
     line.quantity = typedText(stored.quantity);
     line.price = typedText(stored.price);
     line.discountRate = stored.discountRate == 1 ? QString() : typedText(stored.discountRate);
@@ -257,8 +255,6 @@ LineEntry DocumentScreen::storedLine(const documents::DocumentLineRow &stored) c
     line.expiry = stored.expiry;
     line.remark = stored.remark;
     line.priceTyped = true;
-    if (const auto goods = documents::goodsChoice(session, stored.goods, warehouseCode()))
-        line.stock = goods->stock;
     m_kind->loadLine(stored, line);
     return line;
 }

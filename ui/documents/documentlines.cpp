@@ -24,15 +24,7 @@ namespace medistock::ui {
 LineEntry DocumentScreen::lineFor(const documents::GoodsChoice &goods) const
 {
     const shell::Session &session = m_workspace.session;
-    LineEntry line;
-    line.goods = goods.code;
-    line.chosen = true;
-    line.name = goods.name;
-    line.spec = goods.spec;
-    line.baseUnit = goods.baseUnit;
-    line.units = documents::unitChoices(session.db(), goods.code);
-    line.unit = goods.unit;
-    line.stock = goods.stock;
+    LineEntry line = LineEntry::of(goods, documents::unitChoices(session.db(), goods.code));
     line.price = QString::number(m_kind->proposePrice(session, goods, goods.unit, partyCode()), 'f',
         session.params().priceDecimals());
     if (m_kind->outgoing())

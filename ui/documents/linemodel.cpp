@@ -59,6 +59,20 @@ double LineEntry::factor() const
     return 1;
 }
 
+LineEntry LineEntry::of(const documents::GoodsChoice &goods, QList<documents::UnitChoice> units)
+{
+    LineEntry line;
+    line.goods = goods.code;
+    line.chosen = true;
+    line.name = goods.name;
+    line.spec = goods.spec;
+    line.baseUnit = goods.baseUnit;
+    line.units = std::move(units);
+    line.unit = goods.unit;
+    line.stock = goods.stock;
+    return line;
+}
+
 QString captionOf(LineField field)
 {
     return doctexts::lineCaption(int(field));

@@ -55,6 +55,8 @@ struct LineEntry
     bool isBlank() const;
     // Base units per unit of this line's unit.
     double factor() const;
+    // A line of the chosen goods in the unit the choice names, with the goods' units and stock.
+    static LineEntry of(const documents::GoodsChoice &goods, QList<documents::UnitChoice> units);
 };
 
 // The lines of a document for its grid: the figures of every line (amount, total) computed as
