@@ -3,6 +3,7 @@
 #include "documents/goodslookup.h"
 #include "purchasing/entry.h"
 #include "purchasing/kinds.h"
+#include "purchasing/proposals.h"
 #include "purchasing/purchasereturn.h"
 #include "purchasing/receipt.h"
 #include "shell/session.h"
@@ -103,7 +104,7 @@ void seedBusiness(shell::Session &admin)
         opening.lines.append({ QStringLiteral("100001"), lineDraft(l) });
     if (!stock::postOpeningStock(admin, opening))
         qFatal("sample opening stock refused");
-    receipt(admin, day(12),
+    const QString first = receipt(admin, day(12),
         { { "10020001", "100", "6.8", "A2405", -200, 520 },
             { "10010001", "50", "8.2", "GML2409", -80, 640 },
             { "10030001", "80", "2.1", "VC2408", -100, 150 } },
@@ -113,6 +114,19 @@ void seedBusiness(shell::Session &admin)
             { "10020001", "40", "6.75", "A2409", -60, 1030 } },
         true);
     receipt(admin, day(0), { { "10030001", "20", "2.05", "VC2411", -20, 710 } }, false);
+    // Part of the first receipt's amoxicillin goes back to the supplier.
+    purchasing::PurchaseDraft back;
+    back.entry.date = day(2);
+    back.entry.party = QStringLiteral("100002");
+    back.entry.warehouse = QStringLiteral("100001");
+    back.entry.note = QStringLiteral("包装破损");
+    documents::LineDraft line = lineDraft({ "10020001", "6", "6.8", "A2405", -200, 520 });
+    line.columns.set(
+        QStringLiteral("id2"), purchasing::returnableReceiptLines(admin, first).first().lineId);
+    back.entry.lines = { line };
+    const Result<QString> returned = purchasing::savePurchaseReturn(admin, back);
+    if (!returned || !purchasing::checkPurchaseReturn(admin, returned.value()))
+        qFatal("sample return refused");
 }
 
 ui::DocumentScreen *openDocumentScreen(ui::MainWindow &window, int position)

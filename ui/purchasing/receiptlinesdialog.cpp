@@ -162,7 +162,7 @@ void ReceiptLinesDialog::takeInto(DocumentScreen &screen) const
         const double factor = r.line.quantity != 0 ? r.line.baseQuantity / r.line.quantity : 1;
         line.unit = r.line.unit;
         line.quantity = plain(session.params().roundQuantity(r.left / factor));
-        line.price = plain(r.line.price);
+        line.price = QString::number(r.line.price, 'f', session.params().priceDecimals());
         line.taxRate = r.line.taxRate == 0 ? QString() : plain(r.line.taxRate);
         line.discountRate = r.line.discountRate == 1 ? QString() : plain(r.line.discountRate);
         line.batch = r.line.batch;
