@@ -9,6 +9,7 @@
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/masterdata/registration.h"
+#include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
@@ -44,6 +45,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerMasterDataScreens(registry);
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
+    ui::registerMemberScreens(registry);
 }
 
 } // namespace

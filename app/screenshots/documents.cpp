@@ -152,18 +152,18 @@ void shootReceipt(const Shots &shots, ui::MainWindow &window, ui::Workspace &wor
     ui::DocumentScreen *screen = openDocumentScreen(window, 1);
     fillReceipt(*screen, workspace);
     screen->partyField()->setFocus();
-    shots.shoot(&window, QStringLiteral("26-receipt"));
+    shots.shoot(&window, QStringLiteral("40-receipt"));
     ui::GoodsPickerDialog picker(workspace, QStringLiteral("颗粒"), screen->warehouseCode(),
         QStringLiteral("cggl"), 18, &window);
-    shots.shootOver(&window, &picker, QStringLiteral("27-receipt-goods-picker"));
+    shots.shootOver(&window, &picker, QStringLiteral("41-receipt-goods-picker"));
     picker.hide();
     screen->save();
     ui::PurchaseCheckDialog check(
         workspace.session, purchasing::purchaseReceipt(), screen->number(), &window);
-    shots.shootOver(&window, &check, QStringLiteral("28-receipt-check"));
+    shots.shootOver(&window, &check, QStringLiteral("42-receipt-check"));
     check.hide();
     ui::UncheckedDialog unchecked(*screen);
-    shots.shootOver(&window, &unchecked, QStringLiteral("29-unchecked-receipts"));
+    shots.shootOver(&window, &unchecked, QStringLiteral("43-unchecked-receipts"));
     unchecked.hide();
 }
 
@@ -176,11 +176,11 @@ void shootReturn(const Shots &shots, ui::MainWindow &window)
     lines.receiptGrid()->setCurrentCell(1, 0);
     lines.tick(0, true);
     lines.tick(2, true);
-    shots.shootOver(&window, &lines, QStringLiteral("30-return-receipt-lines"));
+    shots.shootOver(&window, &lines, QStringLiteral("44-return-receipt-lines"));
     lines.hide();
     lines.takeInto(*screen);
     screen->noteField()->setText(QStringLiteral("包装破损退回"));
-    shots.shoot(&window, QStringLiteral("31-return"));
+    shots.shoot(&window, QStringLiteral("45-return"));
 }
 
 void shootQueries(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
@@ -191,19 +191,19 @@ void shootQueries(const Shots &shots, ui::MainWindow &window, ui::Workspace &wor
         workspace.session.clock().today().addDays(-40).toString(QStringLiteral("yyyy-MM-dd")));
     query->run();
     query->grid()->selectRow(1);
-    shots.shoot(&window, QStringLiteral("32-receipt-query"));
+    shots.shoot(&window, QStringLiteral("46-receipt-query"));
 
     window.openOperation(QStringLiteral("cggl"), 5);
     auto *stock = qobject_cast<ui::StockQueryScreen *>(window.tabs()->currentWidget());
     stock->run();
-    shots.shoot(&window, QStringLiteral("33-stock-query"));
+    shots.shoot(&window, QStringLiteral("47-stock-query"));
     stock->batchBox()->setChecked(true);
-    shots.shoot(&window, QStringLiteral("34-stock-query-batches"));
+    shots.shoot(&window, QStringLiteral("48-stock-query-batches"));
 
     window.openOperation(QStringLiteral("kcgl"), 6);
     auto *ledger = qobject_cast<ui::GoodsLedgerScreen *>(window.tabs()->currentWidget());
     ledger->showGoods(QStringLiteral("10020001"), QStringLiteral("100001"));
-    shots.shoot(&window, QStringLiteral("35-goods-ledger"));
+    shots.shoot(&window, QStringLiteral("49-goods-ledger"));
 }
 
 void shootOpening(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
@@ -215,9 +215,9 @@ void shootOpening(const Shots &shots, ui::MainWindow &window, ui::Workspace &wor
              Line { "10030001", "36", "2.00", "VC2402", -270, 460 } })
         lines.append(lineEntry(*screen, workspace, l));
     screen->appendLines(lines);
-    shots.shoot(&window, QStringLiteral("36-opening-stock"));
+    shots.shoot(&window, QStringLiteral("50-opening-stock"));
     ui::OpeningEntriesDialog entries(workspace, &window);
-    shots.shootOver(&window, &entries, QStringLiteral("37-opening-entries"));
+    shots.shootOver(&window, &entries, QStringLiteral("51-opening-entries"));
     entries.hide();
 }
 

@@ -4,6 +4,7 @@
 // chosen.
 #include "app/screenshots/documents.h"
 #include "app/screenshots/masterdata.h"
+#include "app/screenshots/members.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -17,6 +18,7 @@
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/masterdata/registration.h"
+#include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
@@ -252,6 +254,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerMasterDataScreens(registry);
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
+    ui::registerMemberScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -273,9 +276,10 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shooter.shoot(&company, QStringLiteral("11-company"));
     company.hide();
 
-    shootMasterData([&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); },
-        window, workspace, scratch);
-    shootDocuments({ [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); },
+    const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
+    shootMasterData(shoot, window, workspace, scratch);
+    shootMembers(shoot, window, workspace, scratch);
+    shootDocuments({ shoot,
                        [&](QWidget *over, QWidget *dialog, const QString &name) {
                            shooter.shootOver(over, dialog, name);
                        } },
