@@ -55,20 +55,24 @@ GoodsLedgerScreen::GoodsLedgerScreen(Workspace &workspace, QWidget *parent)
     setPrintKey(QStringLiteral("kcbd"));
     const shell::Parameters &params = workspace.session.params();
     const int q = params.quantityDecimals();
-    QList<QueryColumn> columns { { sttexts::warehouse }, { sttexts::date }, { sttexts::kind },
-        { sttexts::number, QueryColumn::Kind::Text, 0, false, 120 },
-        { sttexts::party, QueryColumn::Kind::Text, 0, false, 170 }, { sttexts::batch },
-        { sttexts::expiry }, { sttexts::in, QueryColumn::Kind::Number, q, true },
-        { sttexts::out, QueryColumn::Kind::Number, q, true } };
+    // Widths that keep every column in view at 1366 pixels.
+    const auto text = [](const QString &caption, int width) {
+        return QueryColumn { caption, QueryColumn::Kind::Text, 0, false, width };
+    };
+    const auto number = [](const QString &caption, int decimals, bool summed = false) {
+        return QueryColumn { caption, QueryColumn::Kind::Number, decimals, summed, 76 };
+    };
+    QList<QueryColumn> columns { text(sttexts::warehouse, 80), text(sttexts::date, 86),
+        text(sttexts::kind, 86), text(sttexts::number, 118), text(sttexts::party, 190),
+        text(sttexts::batch, 80), text(sttexts::expiry, 86), number(sttexts::in, q, true),
+        number(sttexts::out, q, true) };
     if (m_costs)
-        columns += QList<QueryColumn> { { sttexts::price, QueryColumn::Kind::Number,
-                                            params.priceDecimals() },
-            { sttexts::amount, QueryColumn::Kind::Number, params.amountDecimals() } };
-    columns.append({ sttexts::balance, QueryColumn::Kind::Number, q });
+        columns += QList<QueryColumn> { number(sttexts::price, params.priceDecimals()),
+            number(sttexts::amount, params.amountDecimals()) };
+    columns.append(number(sttexts::balance, q));
     if (m_costs)
-        columns += QList<QueryColumn> { { sttexts::average, QueryColumn::Kind::Number,
-                                            params.priceDecimals() },
-            { sttexts::balanceValue, QueryColumn::Kind::Number, params.stockValueDecimals() } };
+        columns += QList<QueryColumn> { number(sttexts::average, params.priceDecimals()),
+            number(sttexts::balanceValue, params.stockValueDecimals()) };
     setColumns(
         columns, QStringLiteral("商品明细帐") + (m_costs ? QStringLiteral("/成本") : QString()));
     connect(this, &QueryScreen::activated, this, &GoodsLedgerScreen::openSource);
