@@ -23,7 +23,7 @@ GoodsChoice choiceOf(const QSqlQuery &q)
     c.code = q.value(0).toString();
     c.name = q.value(1).toString();
     c.mnemonic = q.value(2).toString();
-    c.spec = q.value(3).toString();
+    c.packing = q.value(3).toString();
     c.maker = q.value(4).toString();
     c.approval = q.value(5).toString();
     c.baseUnit = q.value(6).toString();

@@ -24,7 +24,7 @@ struct GoodsChoice
     QString code; // g_sn
     QString name; // g_name
     QString mnemonic; // g_jm
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString maker; // g_sccs
     QString approval; // color_name
     QString baseUnit; // dw_name

@@ -173,7 +173,7 @@ QList<DocumentLineRow> documentLines(
                            "order by id limit 1"),
             { line.goods });
         line.goodsName = goods.value(0).toString();
-        line.spec = goods.value(1).toString();
+        line.packing = goods.value(1).toString();
         line.maker = goods.value(2).toString();
         line.baseUnit = goods.value(3).toString();
         line.unit = textOf(row, l.unit);

@@ -63,7 +63,7 @@ struct DocumentLineRow
 {
     QString goods;
     QString goodsName;
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString maker; // g_sccs
     QString baseUnit;
     QString unit; // the line's unit; the base unit where the kind keeps none

@@ -31,7 +31,7 @@ struct StockGoods
 {
     QString code; // g_sn
     QString name;
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString unit; // the base unit
     QString maker; // g_sccs
     QString warehouse; // ck_sn

@@ -171,7 +171,7 @@ int runStockQuery(Context &context, Args &args)
                     QStringLiteral("成本价"), QStringLiteral("库存金额") });
         for (const stock::WarehouseStock &row : stock::stockByWarehouse(session, filter))
             printRow(context,
-                { row.goods.code, row.goods.name, row.goods.spec, row.goods.unit,
+                { row.goods.code, row.goods.name, row.goods.packing, row.goods.unit,
                     row.goods.warehouseName, num(row.quantity), num(row.book), num(row.cost),
                     num(row.value) });
         return ExitDone;
@@ -183,7 +183,7 @@ int runStockQuery(Context &context, Args &args)
                 QStringLiteral("库存金额") });
     for (const stock::BatchStock &row : stock::stockByBatch(session, filter))
         printRow(context,
-            { row.goods.code, row.goods.name, row.goods.spec, row.goods.unit,
+            { row.goods.code, row.goods.name, row.goods.packing, row.goods.unit,
                 row.goods.warehouseName, row.batch, row.produced, row.expiry, num(row.quantity),
                 num(row.cost), num(row.value) });
     return ExitDone;

@@ -242,7 +242,7 @@ LineEntry DocumentScreen::storedLine(const documents::DocumentLineRow &stored) c
     if (const auto now = documents::goodsChoice(session, stored.goods, warehouseCode()))
         goods = *now;
     goods.name = stored.goodsName;
-    goods.spec = stored.spec;
+    goods.packing = stored.packing;
     goods.baseUnit = stored.baseUnit;
     goods.unit = stored.unit;
     LineEntry line = LineEntry::of(goods, documents::unitChoices(session.db(), stored.goods));

@@ -29,7 +29,7 @@ QStringList lineCaptions()
 {
     QStringList captions;
     for (LineField field :
-        { LineField::Row, LineField::Code, LineField::Name, LineField::Spec, LineField::Unit,
+        { LineField::Row, LineField::Code, LineField::Name, LineField::Packing, LineField::Unit,
             LineField::Batch, LineField::Produced, LineField::Expiry, LineField::Quantity,
             LineField::Price, LineField::Amount, LineField::Total, LineField::Remark })
         captions.append(doctexts::lineCaption(int(field)));
@@ -204,7 +204,7 @@ void DocumentListScreen::showLines(int row)
             int n = 0;
             for (const documents::DocumentLineRow &line :
                 documents::documentLines(m_workspace.session.db(), *kind->entry, m_rowNumbers[row]))
-                texts.append({ QString::number(++n), line.goods, line.goodsName, line.spec,
+                texts.append({ QString::number(++n), line.goods, line.goodsName, line.packing,
                     line.unit, line.batch, line.produced, line.expiry,
                     fixed(line.quantity, params.quantityDecimals()),
                     fixed(line.price, params.priceDecimals()),

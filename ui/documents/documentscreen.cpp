@@ -42,7 +42,7 @@ int widthOf(LineField field)
         return 86;
     case LineField::Name:
         return 170;
-    case LineField::Spec:
+    case LineField::Packing:
         return 96;
     case LineField::Unit:
     case LineField::Discount:

@@ -65,7 +65,7 @@ LineEntry LineEntry::of(const documents::GoodsChoice &goods, QList<documents::Un
     line.goods = goods.code;
     line.chosen = true;
     line.name = goods.name;
-    line.spec = goods.spec;
+    line.packing = goods.packing;
     line.baseUnit = goods.baseUnit;
     line.units = std::move(units);
     line.unit = goods.unit;
@@ -217,8 +217,8 @@ QString LineModel::display(const LineEntry &line, int row, LineField field) cons
         return line.goods;
     case LineField::Name:
         return line.name;
-    case LineField::Spec:
-        return line.spec;
+    case LineField::Packing:
+        return line.packing;
     case LineField::Unit:
         return line.unit;
     case LineField::Batch:

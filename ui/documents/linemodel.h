@@ -14,7 +14,7 @@ enum class LineField {
     Row,
     Code,
     Name,
-    Spec,
+    Packing,
     Unit,
     Batch,
     Produced,
@@ -36,7 +36,7 @@ struct LineEntry
     QString goods; // g_sn once a goods is chosen; until then the text typed into the cell
     bool chosen = false;
     QString name;
-    QString spec;
+    QString packing;
     QString baseUnit;
     QList<documents::UnitChoice> units; // base unit first
     double stock = 0; // in the header's warehouse, base units

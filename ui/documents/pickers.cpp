@@ -104,7 +104,7 @@ namespace {
 QStringList goodsCaptions(bool costs, bool sales)
 {
     QStringList captions { doctexts::lineCaption(int(LineField::Code)),
-        doctexts::lineCaption(int(LineField::Name)), doctexts::spec, doctexts::unit,
+        doctexts::lineCaption(int(LineField::Name)), doctexts::packing, doctexts::unit,
         doctexts::maker, doctexts::stock };
     if (costs)
         captions.append(doctexts::purchasePrice);
@@ -116,7 +116,7 @@ QStringList goodsCaptions(bool costs, bool sales)
 PickRow goodsRow(
     const documents::GoodsChoice &g, const shell::Parameters &params, bool costs, bool sales)
 {
-    QStringList texts { g.code, g.name, g.spec, g.unit, g.maker,
+    QStringList texts { g.code, g.name, g.packing, g.unit, g.maker,
         number(g.stock, params.quantityDecimals()) };
     const double purchase = g.lastPurchasePrice > 0 ? g.lastPurchasePrice : g.presetPurchasePrice;
     if (costs)

@@ -14,7 +14,7 @@ namespace medistock::ui {
 
 QList<LineField> DocumentScreenKind::lineFields() const
 {
-    return { LineField::Row, LineField::Code, LineField::Name, LineField::Spec, LineField::Unit,
+    return { LineField::Row, LineField::Code, LineField::Name, LineField::Packing, LineField::Unit,
         LineField::Batch, LineField::Produced, LineField::Expiry, LineField::Quantity,
         LineField::Price, LineField::Discount, LineField::Amount, LineField::TaxRate,
         LineField::Total, LineField::Stock, LineField::Remark };

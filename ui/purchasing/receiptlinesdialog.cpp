@@ -42,7 +42,7 @@ ReceiptLinesDialog::ReceiptLinesDialog(DocumentScreen &screen)
                               doctexts::goodsCount, doctexts::amount, doctexts::note },
           this))
     , m_lines(makeGrid({ QStringLiteral("退货"), caption(LineField::Code), caption(LineField::Name),
-                           caption(LineField::Spec), caption(LineField::Unit),
+                           caption(LineField::Packing), caption(LineField::Unit),
                            caption(LineField::Batch), caption(LineField::Expiry), pctexts::bought,
                            pctexts::returnedBefore, pctexts::left, caption(LineField::Price) },
           this))
@@ -104,7 +104,7 @@ void ReceiptLinesDialog::showLines()
         });
     QList<QStringList> rows;
     for (const documents::ReturnableLine &r : std::as_const(m_returnable))
-        rows.append({ QString(), r.line.goods, r.line.goodsName, r.line.spec, r.line.unit,
+        rows.append({ QString(), r.line.goods, r.line.goodsName, r.line.packing, r.line.unit,
             r.line.batch, r.line.expiry, plain(r.line.baseQuantity), plain(r.returned),
             plain(r.left), plain(r.line.price) });
     fillGrid(m_lines, rows);

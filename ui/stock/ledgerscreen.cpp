@@ -26,12 +26,12 @@ CodeNameField *makeGoodsField(const shell::Session &session, QWidget *parent)
         QList<CodeNameField::Choice> choices;
         readSafely(session.ui(), [&] {
             for (const documents::GoodsChoice &g : documents::findGoods(session, text, QString()))
-                choices.append({ g.code, g.name, { g.code, g.name, g.spec, g.baseUnit, g.maker } });
+                choices.append({ g.code, g.name, { g.code, g.name, g.packing, g.baseUnit, g.maker } });
         });
         return choices;
     };
     auto *field = new CodeNameField(sttexts::goods,
-        { sttexts::code, sttexts::name, sttexts::spec, sttexts::unit, sttexts::maker }, search,
+        { sttexts::code, sttexts::name, sttexts::packing, sttexts::unit, sttexts::maker }, search,
         session.ui(), parent);
     field->setMinimumWidth(200);
     return field;

@@ -63,7 +63,7 @@ const documents::DocumentKind &OpeningScreenKind::entry() const
 
 QList<LineField> OpeningScreenKind::lineFields() const
 {
-    return { LineField::Row, LineField::Code, LineField::Name, LineField::Spec, LineField::Unit,
+    return { LineField::Row, LineField::Code, LineField::Name, LineField::Packing, LineField::Unit,
         LineField::Batch, LineField::Produced, LineField::Expiry, LineField::Quantity,
         LineField::Price, LineField::Amount, LineField::Stock, LineField::Remark };
 }

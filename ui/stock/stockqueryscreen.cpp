@@ -87,7 +87,7 @@ void StockQueryScreen::setMode(bool batches)
     const QueryColumn quantity { sttexts::quantity, QueryColumn::Kind::Number,
         params.quantityDecimals(), true };
     QList<QueryColumn> columns { { sttexts::code },
-        { sttexts::name, QueryColumn::Kind::Text, 0, false, 180 }, { sttexts::spec },
+        { sttexts::name, QueryColumn::Kind::Text, 0, false, 180 }, { sttexts::packing },
         { sttexts::unit, QueryColumn::Kind::Text, 0, false, 50 } };
     if (batches)
         columns += QList<QueryColumn> { { sttexts::warehouse }, { sttexts::batch },
@@ -127,7 +127,7 @@ void StockQueryScreen::fetchWarehouses()
         m_class->currentData().toString(), m_search->text(), m_inStock->isChecked(), -1 };
     QList<QVariantList> rows;
     for (const stock::WarehouseStock &s : stock::stockByWarehouse(m_workspace.session, filter)) {
-        QVariantList row { s.goods.code, s.goods.name, s.goods.spec, s.goods.unit, s.goods.maker,
+        QVariantList row { s.goods.code, s.goods.name, s.goods.packing, s.goods.unit, s.goods.maker,
             s.goods.warehouseName, s.quantity, s.book };
         if (m_costs)
             row << s.cost << s.value;
@@ -149,7 +149,7 @@ void StockQueryScreen::fetchBatches()
         const QDate last
             = QDate::fromString(documents::expiryDay(s.expiry), QStringLiteral("yyyy-MM-dd"));
         const QVariant days = last.isValid() ? QVariant(today.daysTo(last)) : QVariant();
-        QVariantList row { s.goods.code, s.goods.name, s.goods.spec, s.goods.unit,
+        QVariantList row { s.goods.code, s.goods.name, s.goods.packing, s.goods.unit,
             s.goods.warehouseName, s.batch, s.produced, s.expiry, days, s.quantity };
         if (m_costs)
             row << s.cost << s.value;
