@@ -4,6 +4,7 @@
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "ui/common/reading.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/statistics/texts.h"
 
@@ -54,14 +55,14 @@ void FilterBar::addRange()
     const QDate today = m_workspace.session.clock().today();
     m_from = makeDate(QDate(today.year(), today.month(), 1));
     m_to = makeDate(today);
-    add(texts::from(), m_from);
-    add(texts::to(), m_to);
+    add(ui::texts::dateFrom(), m_from);
+    add(ui::texts::dateTo(), m_to);
 }
 
 void FilterBar::addWarehouse()
 {
     m_warehouse = new QComboBox(this);
-    m_warehouse->addItem(texts::allWarehouses(), QString());
+    m_warehouse->addItem(ui::texts::allWarehouses(), QString());
     readSafely(m_workspace.session.ui(), [&] {
         const masterdata::MasterKind &kind
             = *masterdata::findMasterKind(QStringLiteral("warehouse"));

@@ -3,6 +3,7 @@
 #include "core/interaction.h"
 #include "statistics/costsync.h"
 #include "statistics/jxc.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/statistics/filterbar.h"
 #include "ui/statistics/movementscreen.h"
@@ -138,7 +139,7 @@ void JxcScreen::showDifferences()
     const QList<JxcRow> rows
         = statistics::jxcDifferences(workspace().session, { filter.classCode, filter.keyword });
     model()->setTable(tableOf(rows).table);
-    countLabel()->setText(texts::rowCount(model()->dataRows()));
+    countLabel()->setText(ui::texts::rowCount(model()->dataRows()));
     workspace().session.ui().inform(differenceText(rows));
 }
 

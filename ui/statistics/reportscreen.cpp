@@ -89,7 +89,7 @@ ReportScreen::ReportScreen(
     , m_grid(makeGrid(this))
     , m_model(new ReportModel(std::move(columns), workspace.session.params(), this))
     , m_split(new QSplitter(Qt::Horizontal, this))
-    , m_count(new QLabel(texts::rowCount(0), this))
+    , m_count(new QLabel(ui::texts::rowCount(0), this))
     , m_status(new QLabel(this))
     , m_progress(new QProgressBar(this))
     , m_runner(new ReportRunner(workspace.session, this))
@@ -140,13 +140,13 @@ QWidget *ReportScreen::buildButtons()
         row->addWidget(b);
         return b;
     };
-    m_run = button(texts::runButton(), [this] { run(); });
+    m_run = button(ui::texts::queryButton(), [this] { run(); });
     m_cancel = button(texts::cancelButton(), [this] { cancel(); });
     m_cancel->setEnabled(false);
-    m_export = button(texts::exportButton(), [this] { chooseExportFile(); });
-    m_print = button(texts::printButton(), [] {});
+    m_export = button(ui::texts::exportButton(), [this] { chooseExportFile(); });
+    m_print = button(ui::texts::printButton(), [] {});
     m_print->setEnabled(false);
-    m_print->setToolTip(ui::texts::notAvailable());
+    m_print->setToolTip(ui::texts::printingNotBuilt());
     row->addStretch(1);
     return m_buttons;
 }
@@ -249,7 +249,7 @@ void ReportScreen::showResult(const RunResult &result, const QStringList &told)
     }
     m_model->setTable(result.table);
     m_detail = result.detail;
-    m_count->setText(texts::rowCount(m_model->dataRows()));
+    m_count->setText(ui::texts::rowCount(m_model->dataRows()));
     if (m_model->dataRows() > 0)
         m_grid->selectRow(0);
     if (m_shown)
@@ -271,8 +271,8 @@ void ReportScreen::chooseExportFile()
 {
     if (running())
         return;
-    const QString path = QFileDialog::getSaveFileName(this, texts::exportTitle(),
-        QDir::home().filePath(m_title + QStringLiteral(".xlsx")), texts::xlsxFilter());
+    const QString path = QFileDialog::getSaveFileName(this, ui::texts::exportTitle(),
+        QDir::home().filePath(m_title + QStringLiteral(".xlsx")), ui::texts::xlsxFilter());
     if (!path.isEmpty())
         exportTo(path);
 }
@@ -285,7 +285,7 @@ bool ReportScreen::exportTo(const QString &path)
             shown.append(c);
     QString error;
     const bool written = exportTable(*m_model, shown, path, m_title, error);
-    m_workspace.session.ui().inform(written ? texts::exported(path) : error);
+    m_workspace.session.ui().inform(written ? ui::texts::exported(path) : error);
     return written;
 }
 

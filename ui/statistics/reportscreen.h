@@ -21,7 +21,7 @@ namespace medistock::ui::stats {
 
 class FilterBar;
 
-// A statistics screen: filters on top, the buttons "查询(F5)", "取消(Esc)", "导出(F7)" and
+// A statistics screen: filters on top, the buttons "查询(F5)", "取消(Esc)", "导出(&X)" and
 // "打印(F8)" below them, the grid with its totals row (a chart beside it where the report has
 // one), and "记录数：N" with the progress of a run at the bottom. F5 or Enter in a filter runs
 // the report on a worker thread (ReportRunner); the window stays usable and Esc cancels. A

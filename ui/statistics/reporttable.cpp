@@ -3,6 +3,7 @@
 #include "core/rounding.h"
 #include "core/spreadsheet.h"
 #include "shell/parameters.h"
+#include "ui/common/texts.h"
 #include "ui/statistics/texts.h"
 
 #include <QBrush>
@@ -79,7 +80,7 @@ QVariant ReportModel::cell(int row, int column) const
     if (row < m_table.rows.size())
         return m_table.rows[row].value(column);
     if (column == m_labelColumn)
-        return texts::totalsRow();
+        return ui::texts::totalRow();
     return totals().value(column);
 }
 
@@ -157,7 +158,7 @@ bool exportTable(const ReportModel &model, const QList<int> &columns, const QStr
         rows.append(pick(row));
     if (model.hasTotals()) {
         QVariantList totals = model.totals();
-        totals[model.totalsLabelColumn()] = texts::totalsRow();
+        totals[model.totalsLabelColumn()] = ui::texts::totalRow();
         rows.append(pick(totals));
     }
     const Outcome written = core::writeXlsx(path, sheet, headers, rows);

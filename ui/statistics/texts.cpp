@@ -1,32 +1,10 @@
 #include "ui/statistics/texts.h"
 
-#include "ui/masterdata/texts.h"
-
 namespace medistock::ui::stats::texts {
-
-QString totalsRow()
-{
-    return QStringLiteral("合计");
-}
-
-QString from()
-{
-    return QStringLiteral("日期从");
-}
-
-QString to()
-{
-    return QStringLiteral("至");
-}
 
 QString warehouse()
 {
     return QStringLiteral("仓库");
-}
-
-QString allWarehouses()
-{
-    return QStringLiteral("所有仓库");
 }
 
 QString goodsClass()
@@ -49,29 +27,9 @@ QString keywordHint()
     return QStringLiteral("编号、名称或简码");
 }
 
-QString rowCount(int rows)
-{
-    return mdtexts::rowCount(rows);
-}
-
-QString runButton()
-{
-    return QStringLiteral("查询(F5)");
-}
-
 QString cancelButton()
 {
     return QStringLiteral("取消(Esc)");
-}
-
-QString exportButton()
-{
-    return QStringLiteral("导出(F7)");
-}
-
-QString printButton()
-{
-    return QStringLiteral("打印(F8)");
 }
 
 QString running()
@@ -82,21 +40,6 @@ QString running()
 QString cancelledRun()
 {
     return QStringLiteral("统计已取消。");
-}
-
-QString exportTitle()
-{
-    return mdtexts::exportTitle;
-}
-
-QString xlsxFilter()
-{
-    return mdtexts::xlsxFilter;
-}
-
-QString exported(const QString &path)
-{
-    return mdtexts::exported(path);
 }
 
 QString checkButton()

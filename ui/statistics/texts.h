@@ -5,25 +5,14 @@
 // The words of the statistics screens.
 namespace medistock::ui::stats::texts {
 
-QString totalsRow(); // "合计"
-QString from(); // "日期从"
-QString to(); // "至"
 QString warehouse(); // "仓库"
-QString allWarehouses(); // "所有仓库"
 QString goodsClass(); // "类别"
 QString allClasses(); // "所有类别"
 QString keyword(); // "商品"
 QString keywordHint(); // "编号、名称或简码"
-QString rowCount(int rows); // "记录数：12"
-QString runButton(); // "查询(F5)"
 QString cancelButton(); // "取消(Esc)"
-QString exportButton(); // "导出(F7)"
-QString printButton(); // "打印(F8)"
 QString running(); // while a report runs
 QString cancelledRun();
-QString exportTitle();
-QString xlsxFilter();
-QString exported(const QString &path);
 
 // 进销存统计
 QString checkButton(); // "差额核对(F9)"
