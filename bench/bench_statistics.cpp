@@ -4,11 +4,10 @@
 // The account set is built once by the bulk loader (bench/stockledger.cpp) into the temporary
 // folder:
 //   ./build/bench/bench_statistics
+#include "bench/keep.h"
 #include "bench/stockledger.h"
 #include "core/dberror.h"
 #include "statistics/jxc.h"
-
-#include <QCoreApplication>
 
 #include <benchmark/benchmark.h>
 
@@ -18,25 +17,11 @@ namespace {
 
 const bench::LedgerShape millionRows { 5000, 1000000, 20000 };
 
-std::unique_ptr<bench::BenchSet> &theSet()
-{
-    static std::unique_ptr<bench::BenchSet> set;
-    return set;
-}
-
-// The set's connection must close while Qt is still there, not among the static destructors.
-void dropSet()
-{
-    theSet().reset();
-}
-
 bench::BenchSet &benchSet()
 {
-    std::unique_ptr<bench::BenchSet> &set = theSet();
-    if (!set) {
-        set = std::make_unique<bench::BenchSet>(millionRows);
-        qAddPostRoutine(dropSet);
-    }
+    static bench::BenchSet *set = nullptr;
+    if (!set)
+        set = &bench::keepForRun(std::make_unique<bench::BenchSet>(millionRows));
     return *set;
 }
 
