@@ -6,6 +6,7 @@
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/statistics/documentdialog.h"
 #include "ui/statistics/filterbar.h"
 #include "ui/statistics/jxcscreen.h"
 #include "ui/statistics/movementscreen.h"
@@ -17,11 +18,13 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDir>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTest>
 
 using namespace medistock;
@@ -132,6 +135,19 @@ TEST_F(StatisticsScreens, TheSummaryRunsOnF5AndItsMovementViewOpensOnEnter)
             "2025-02-10 XT25021010001 销售退货 主仓库 华康药店  10.60 5.00 53.00    105.00 "
             "1113.00",
             "合计       35.00 413.00  0.00 0.00  " }));
+
+    // Enter on a movement opens the document behind it, read only.
+    movements->grid()->setFocus();
+    movements->grid()->selectRow(0);
+    QTest::keyClick(movements->grid(), Qt::Key_Return);
+    auto *document = movements->findChild<DocumentDialog *>();
+    ASSERT_NE(document, nullptr);
+    EXPECT_TRUE(document->windowTitle().endsWith(" CJ25020310001"));
+    ASSERT_EQ(document->lines()->rowCount(), 1);
+    QStringList line;
+    for (int column = 0; column < 6; ++column)
+        line.append(document->lines()->item(0, column)->text());
+    EXPECT_EQ(line, (QStringList { "200001", "阿莫西林胶囊", "盒", "30.00", "12.00", "360.00" }));
 }
 
 TEST_F(StatisticsScreens, TheDifferenceCheckNarrowsTheGridAndTellsTheGoods)
@@ -238,6 +254,16 @@ TEST_F(StatisticsScreens, CostAndProfitColumnsShowOnlyWithTheirRight)
     ASSERT_TRUE(sheet.ok());
     EXPECT_EQ(sheet.value().value(1),
         (QStringList { "200001", "阿莫西林胶囊", "0.25g*24", "盒", "2", "25", "375" }));
+    // A column the clerk moved to the front is exported there.
+    QHeaderView *header = sales->grid()->horizontalHeader();
+    header->moveSection(header->visualIndex(6), 0);
+    ASSERT_TRUE(sales->exportTo(path));
+    const auto moved = core::readXlsx(path);
+    ASSERT_TRUE(moved.ok());
+    EXPECT_EQ(moved.value().value(0),
+        (QStringList { "金额", "商品编号", "名称", "规格", "单位", "单据数", "数量" }));
+    EXPECT_EQ(moved.value().value(1),
+        (QStringList { "375", "200001", "阿莫西林胶囊", "0.25g*24", "盒", "2", "25" }));
     delete sales;
 }
 

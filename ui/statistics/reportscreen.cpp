@@ -279,10 +279,14 @@ void ReportScreen::chooseExportFile()
 
 bool ReportScreen::exportTo(const QString &path)
 {
+    // The columns as the clerk arranged them: moved ones where they were put, hidden ones left out.
+    const QHeaderView *header = m_grid->horizontalHeader();
     QList<int> shown;
-    for (int c = 0; c < m_model->columnCount(); ++c)
-        if (!m_grid->isColumnHidden(c))
-            shown.append(c);
+    for (int visual = 0; visual < header->count(); ++visual) {
+        const int logical = header->logicalIndex(visual);
+        if (!header->isSectionHidden(logical))
+            shown.append(logical);
+    }
     QString error;
     const bool written = exportTable(*m_model, shown, path, m_title, error);
     m_workspace.session.ui().inform(written ? ui::texts::exported(path) : error);

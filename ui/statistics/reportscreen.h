@@ -27,6 +27,8 @@ class FilterBar;
 // the report on a worker thread (ReportRunner); the window stays usable and Esc cancels. A
 // double-click opens what the row stands for. Cost and profit columns show only with the right
 // "显示商品成本价". Printing waits for the report templates: its button stays disabled.
+// It does not build on the shared QueryScreen: that one fetches on the window's thread, while a
+// report over a year of the ledger must run aside with its progress and a way to cancel it.
 class ReportScreen : public QWidget
 {
     Q_OBJECT
