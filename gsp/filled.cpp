@@ -100,10 +100,15 @@ Outcome deleteFilledLine(const shell::Session &session, FilledKind kind, qint64 
     core::Connection &db = session.db();
     return core::guarded(session.ui(), [&] {
         const QSqlRecord line = db.firstRow(
-            QStringLiteral("select gl_djh,g_sn from %1 where id=?").arg(table(info.lineTable)),
+            QStringLiteral("select a.gl_djh,a.g_sn,a.t_ph,b.g_name from %1 a left join jxc_goods b "
+                           "on a.g_sn=b.g_sn where a.id=?")
+                .arg(table(info.lineTable)),
             { lineId });
         if (line.isEmpty())
             return core::refuse(session.ui(), texts::lineNotFound(lineId));
+        if (!session.ui().ask(texts::deleteLineQuestion(
+                line.value(0).toString(), line.value(3).toString(), line.value(2).toString())))
+            return Outcome::refused(QString());
         core::Transaction transaction(db);
         db.exec(QStringLiteral("delete from %1 where id=?").arg(table(info.lineTable)), { lineId });
         session.log(texts::lineDeletedLog(

@@ -187,6 +187,35 @@ std::optional<Side> sideOf(const QString &kind, double quantity)
     return std::nullopt;
 }
 
+QList<PostedLine> postedLines(const shell::Session &session, const QString &number)
+{
+    QList<PostedLine> lines;
+    session.db().forEach(
+        QStringLiteral(
+            "select id,gl_flag,g_sn,g_name,gg_name,dw_name,gl_sl,gl_dj,gl_je,t_ph,t_scrq,"
+            "t_yxq,ck_name from jxc_goodslist where gl_djh=? order by id"),
+        { number }, [&](const QSqlQuery &q) {
+            Cells c(q);
+            PostedLine line;
+            line.id = c.id();
+            const QString kind = c.text();
+            line.goods = c.text();
+            line.goodsName = c.text();
+            line.spec = c.text();
+            line.unit = c.text();
+            line.quantity = c.number();
+            line.price = c.number();
+            line.amount = c.number();
+            line.batch = c.text();
+            line.produced = c.text();
+            line.expiry = c.text();
+            line.warehouseName = c.text();
+            line.kindText = texts::ledgerKindText(kind, line.quantity);
+            lines.append(line);
+        });
+    return lines;
+}
+
 Result<QList<RestrictedRow>> restrictedLedger(
     const shell::Session &session, const RecordFilter &filter)
 {

@@ -83,4 +83,24 @@ struct RestrictedSummaryRow
 Result<QList<RestrictedSummaryRow>> restrictedSummary(
     const shell::Session &session, const RecordFilter &filter);
 
+// What a row of the ledger view opens: every goods-ledger row the document posted, in posting
+// order, as the quantity it moved (signed as the ledger keeps it).
+struct PostedLine
+{
+    qint64 id = 0;
+    QString kindText;
+    QString goods;
+    QString goodsName;
+    QString spec;
+    QString unit;
+    double quantity = 0; // gl_sl
+    double price = 0; // gl_dj
+    double amount = 0; // gl_je
+    QString batch;
+    QString produced;
+    QString expiry;
+    QString warehouseName;
+};
+QList<PostedLine> postedLines(const shell::Session &session, const QString &number);
+
 } // namespace medistock::gsp

@@ -154,6 +154,26 @@ Employee employeeOf(const shell::Session &session, const QString &code)
     return employee;
 }
 
+QList<Place> departments(const shell::Session &session)
+{
+    QList<Place> list;
+    session.db().forEach(QStringLiteral("select de_sn,de_name from jxc_dept order by de_sn"), {},
+        [&](const QSqlQuery &q) {
+            list.append({ q.value(0).toString(), q.value(1).toString() });
+        });
+    return list;
+}
+
+QList<Place> branches(const shell::Session &session)
+{
+    QList<Place> list;
+    session.db().forEach(QStringLiteral("select fd_sn,fd_name from jxc_fd order by fd_sn"), {},
+        [&](const QSqlQuery &q) {
+            list.append({ q.value(0).toString(), q.value(1).toString() });
+        });
+    return list;
+}
+
 Result<QString> saveEmployee(const shell::Session &session, const Employee &typed)
 {
     const Outcome allowed = shell::requireRight(session, "gspgl", staffRight);

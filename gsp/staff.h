@@ -53,6 +53,15 @@ Result<QList<StaffRow>> staffRegister(
 // One employee; an empty code when there is none.
 Employee employeeOf(const shell::Session &session, const QString &code);
 
+// The departments (jxc_dept) and branches (jxc_fd) an employee may belong to, by code.
+struct Place
+{
+    QString code;
+    QString name;
+};
+QList<Place> departments(const shell::Session &session);
+QList<Place> branches(const shell::Session &session);
+
 // Adds or changes an employee ("员工花名册", right 8) in one transaction; returns the code.
 Result<QString> saveEmployee(const shell::Session &session, const Employee &employee);
 // Deletes an employee after the question; one who is on a training plan or record stays (he can

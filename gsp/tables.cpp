@@ -7,6 +7,25 @@ namespace medistock::gsp {
 
 namespace {
 
+// The kind of a column by its caption: "…金额" an amount, "…单价" a price, a caption that names a
+// quantity or stock a quantity, the named figures plain numbers, the rest text.
+ColumnKind kindOf(const QString &caption)
+{
+    if (caption.endsWith(QStringLiteral("金额")))
+        return ColumnKind::Amount;
+    if (caption.endsWith(QStringLiteral("单价")))
+        return ColumnKind::Price;
+    if (caption.contains(QStringLiteral("数量")) || caption.endsWith(QStringLiteral("库存")))
+        return ColumnKind::Quantity;
+    static const QStringList figures { QStringLiteral("温度"), QStringLiteral("湿度"),
+        QStringLiteral("天数"), QStringLiteral("批次数"), QStringLiteral("笔数"),
+        QStringLiteral("系数") };
+    for (const QString &figure : figures)
+        if (caption.contains(figure))
+            return ColumnKind::Figure;
+    return ColumnKind::Text;
+}
+
 // Starts a table with its columns; a caption ending in "+" is summed (the "+" is dropped).
 RecordTable startTable(const QString &title, const QString &printKey, const QStringList &columns)
 {
@@ -14,12 +33,11 @@ RecordTable startTable(const QString &title, const QString &printKey, const QStr
     table.title = title;
     table.printKey = printKey;
     for (const QString &column : columns) {
-        if (column.endsWith(QLatin1Char('+'))) {
+        const bool summed = column.endsWith(QLatin1Char('+'));
+        if (summed)
             table.summed.append(int(table.headers.size()));
-            table.headers.append(column.chopped(1));
-        } else {
-            table.headers.append(column);
-        }
+        table.headers.append(summed ? column.chopped(1) : column);
+        table.kinds.append(kindOf(table.headers.last()));
     }
     return table;
 }
@@ -69,20 +87,20 @@ Outcome exportTable(const RecordTable &table, const QString &path)
 RecordTable acceptanceTable(const QList<AcceptanceRow> &rows)
 {
     RecordTable t = startTable(texts::acceptanceTitle(), QStringLiteral("gspysjl"),
-        { QStringLiteral("进货日期"), QStringLiteral("单据号"), QStringLiteral("供货商"),
-            QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("规格"),
-            QStringLiteral("药剂类型"), QStringLiteral("批准文号"), QStringLiteral("进口药品"),
-            QStringLiteral("单位"), QStringLiteral("数量+"), QStringLiteral("单价"),
-            QStringLiteral("金额+"), QStringLiteral("产品批号"), QStringLiteral("生产日期"),
-            QStringLiteral("有效期至"), QStringLiteral("仓库"), QStringLiteral("验收结果"),
-            QStringLiteral("包装检查"), QStringLiteral("合格证"), QStringLiteral("处理意见"),
-            QStringLiteral("验收员"), QStringLiteral("验收日期") });
+        { QStringLiteral("进货日期"), QStringLiteral("供货商"), QStringLiteral("商品名称"),
+            QStringLiteral("规格"), QStringLiteral("药剂类型"), QStringLiteral("批准文号"),
+            QStringLiteral("产品批号"), QStringLiteral("有效期至"), QStringLiteral("数量+"),
+            QStringLiteral("验收结果"), QStringLiteral("包装检查"), QStringLiteral("合格证"),
+            QStringLiteral("处理意见"), QStringLiteral("验收员"), QStringLiteral("单据号"),
+            QStringLiteral("商品编号"), QStringLiteral("进口药品"), QStringLiteral("单位"),
+            QStringLiteral("单价"), QStringLiteral("金额+"), QStringLiteral("生产日期"),
+            QStringLiteral("仓库"), QStringLiteral("验收日期") });
     for (const AcceptanceRow &r : rows)
         addRow(t, r.id,
-            { r.date, r.number, r.supplierName, r.goods, r.goodsName, r.spec, r.dosage, r.approval,
-                yesOrEmpty(r.imported), r.unit, r.quantity, r.price, r.amount, r.batch, r.produced,
-                r.expiry, r.warehouseName, r.result, r.packaging, r.certificate, r.handling,
-                r.checker, r.checkDate });
+            { r.date, r.supplierName, r.goodsName, r.spec, r.dosage, r.approval, r.batch, r.expiry,
+                r.quantity, r.result, r.packaging, r.certificate, r.handling, r.checker, r.number,
+                r.goods, yesOrEmpty(r.imported), r.unit, r.price, r.amount, r.produced,
+                r.warehouseName, r.checkDate });
     return t;
 }
 
@@ -126,17 +144,17 @@ RecordTable splittingTable(const QList<SplittingRow> &rows)
 {
     RecordTable t = startTable(texts::splittingTitle(), QStringLiteral("ypcljl"),
         { QStringLiteral("日期"), QStringLiteral("单据号"), QStringLiteral("单据类型"),
-            QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("规格"),
-            QStringLiteral("单位"), QStringLiteral("拆零系数"), QStringLiteral("进货数量+"),
-            QStringLiteral("销售数量+"), QStringLiteral("单价"), QStringLiteral("产品批号"),
-            QStringLiteral("生产日期"), QStringLiteral("有效期至"), QStringLiteral("往来单位"),
-            QStringLiteral("仓库"), QStringLiteral("批次库存"), QStringLiteral("检查人") });
+            QStringLiteral("商品名称"), QStringLiteral("规格"), QStringLiteral("单位"),
+            QStringLiteral("拆零系数"), QStringLiteral("产品批号"), QStringLiteral("有效期至"),
+            QStringLiteral("进货数量+"), QStringLiteral("销售数量+"), QStringLiteral("批次库存"),
+            QStringLiteral("检查人"), QStringLiteral("单价"), QStringLiteral("往来单位"),
+            QStringLiteral("仓库"), QStringLiteral("商品编号"), QStringLiteral("生产日期") });
     for (const SplittingRow &r : rows)
         addRow(t, r.id,
-            { r.date, r.number, texts::ledgerKindText(r.kind, r.purchased + r.sold), r.goods,
-                r.goodsName, r.spec, r.unit, r.splitFactor, r.purchased, r.sold, r.price, r.batch,
-                r.produced, r.expiry, r.partyName, r.warehouseName, optional(r.batchStock),
-                r.checker });
+            { r.date, r.number, texts::ledgerKindText(r.kind, r.purchased + r.sold), r.goodsName,
+                r.spec, r.unit, r.splitFactor, r.batch, r.expiry, r.purchased, r.sold,
+                optional(r.batchStock), r.checker, r.price, r.partyName, r.warehouseName, r.goods,
+                r.produced });
     return t;
 }
 
@@ -309,6 +327,45 @@ RecordTable trainingTable(const QList<TrainingRow> &rows)
             { x.held, r.topic, r.planned, r.employee, r.employeeName, x.performance, x.result,
                 x.score, x.assessor, x.note, r.operatorName });
     }
+    return t;
+}
+
+RecordTable categoryTable(const QList<Category> &rows)
+{
+    RecordTable t = startTable(texts::categoriesTitle(), QString(),
+        { QStringLiteral("编号"), QStringLiteral("药品类型") });
+    for (const Category &r : rows)
+        addRow(t, r.id, { r.code, r.name });
+    return t;
+}
+
+RecordTable pickableTable(const QList<PickableBatch> &batches)
+{
+    RecordTable t = startTable(QStringLiteral("药品批次"), QString(),
+        { QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("规格"),
+            QStringLiteral("单位"), QStringLiteral("生产厂商"), QStringLiteral("药品类型"),
+            QStringLiteral("产品批号"), QStringLiteral("生产日期"), QStringLiteral("有效期至"),
+            QStringLiteral("批次库存"), QStringLiteral("仓库库存") });
+    for (qsizetype i = 0; i < batches.size(); ++i) {
+        const PickableBatch &b = batches[i];
+        addRow(t, qint64(i),
+            { b.goods, b.goodsName, b.spec, b.unit, b.manufacturer, b.category, b.batch, b.produced,
+                b.expiry, b.quantity, b.warehouseStock });
+    }
+    return t;
+}
+
+RecordTable postedLinesTable(const QString &title, const QList<PostedLine> &lines)
+{
+    RecordTable t = startTable(title, QString(),
+        { QStringLiteral("单据类型"), QStringLiteral("商品编号"), QStringLiteral("商品名称"),
+            QStringLiteral("规格"), QStringLiteral("单位"), QStringLiteral("数量+"),
+            QStringLiteral("单价"), QStringLiteral("金额+"), QStringLiteral("产品批号"),
+            QStringLiteral("生产日期"), QStringLiteral("有效期至"), QStringLiteral("仓库") });
+    for (const PostedLine &l : lines)
+        addRow(t, l.id,
+            { l.kindText, l.goods, l.goodsName, l.spec, l.unit, l.quantity, l.price, l.amount,
+                l.batch, l.produced, l.expiry, l.warehouseName });
     return t;
 }
 

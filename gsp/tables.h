@@ -1,10 +1,12 @@
 #pragma once
 
 #include "core/outcome.h"
+#include "gsp/categories.h"
 #include "gsp/derived.h"
 #include "gsp/expiry.h"
 #include "gsp/filled.h"
 #include "gsp/inspection.h"
+#include "gsp/picking.h"
 #include "gsp/restricted.h"
 #include "gsp/staff.h"
 #include "gsp/temperature.h"
@@ -18,6 +20,10 @@
 
 namespace medistock::gsp {
 
+// What a column holds, for the decimals it is shown with: quantities, prices and amounts take
+// the places of the parameters, other figures (temperatures, counts) are shown as they are.
+enum class ColumnKind { Text, Quantity, Price, Amount, Figure };
+
 // A record as the clerk reads it: the columns under their captions, one row per record row
 // (numbers as numbers, flags as "是" or empty), the key each row stands for, and the columns a
 // totals row sums. The command line prints it, the screens show it, the export writes it.
@@ -26,6 +32,7 @@ struct RecordTable
     QString title; // the sheet name and the print title
     QString printKey; // the report template; empty when the record has none
     QStringList headers;
+    QList<ColumnKind> kinds; // one per column
     QList<QVariantList> rows;
     QVariantList keys; // the line id, entry id, record number or employee code of each row
     QList<int> summed; // columns added up in the totals row
@@ -50,5 +57,8 @@ RecordTable temperatureTable(const QList<TemperatureRow> &rows);
 RecordTable staffTable(const QList<StaffRow> &rows);
 RecordTable planTable(const QList<PlanRow> &rows);
 RecordTable trainingTable(const QList<TrainingRow> &rows);
+RecordTable categoryTable(const QList<Category> &rows);
+RecordTable pickableTable(const QList<PickableBatch> &batches);
+RecordTable postedLinesTable(const QString &title, const QList<PostedLine> &lines);
 
 } // namespace medistock::gsp

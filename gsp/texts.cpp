@@ -202,6 +202,12 @@ QString deleteRecordQuestion(const QString &title, const QString &number)
     return QStringLiteral("您的操作将删除%1：%2，确认吗？").arg(title, number);
 }
 
+QString deleteLineQuestion(const QString &number, const QString &goodsName, const QString &batch)
+{
+    return QStringLiteral("您的操作将删除%1中的一行：%2（批号%3），确认吗？")
+        .arg(number, goodsName, batch);
+}
+
 QString recordSavedLog(const QString &title, const QString &number, int lines)
 {
     return QStringLiteral("保存%1%2，共%3个批次").arg(title, number).arg(lines);

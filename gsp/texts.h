@@ -52,6 +52,7 @@ QString batchNotPickable(const QString &goods, const QString &batch);
 QString recordNotFound(const QString &title, const QString &number);
 QString lineNotFound(qint64 id);
 QString deleteRecordQuestion(const QString &title, const QString &number);
+QString deleteLineQuestion(const QString &number, const QString &goodsName, const QString &batch);
 QString recordSavedLog(const QString &title, const QString &number, int lines);
 QString recordDeletedLog(const QString &title, const QString &number);
 QString lineDeletedLog(const QString &title, const QString &number, const QString &goods);

@@ -8,6 +8,7 @@
 #include "ui/common/messagebox.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
@@ -40,6 +41,7 @@ void registerScreens(ui::ScreenRegistry &registry)
 {
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerGspScreens(registry);
 }
 
 } // namespace
@@ -76,5 +78,6 @@ int main(int argc, char *argv[])
     registerScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.showMaximized();
+    ui::addGspReminders(window, workspace);
     return app.exec();
 }

@@ -2,6 +2,7 @@
 // folder with a few operators, roles, a second account set and example master data, so that the
 // program can be seen without a display. Runs on the offscreen platform unless another one is
 // chosen.
+#include "app/screenshots/gsp.h"
 #include "app/screenshots/masterdata.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
@@ -15,6 +16,7 @@
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
@@ -230,6 +232,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::ScreenRegistry registry;
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerGspScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -251,8 +254,9 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shooter.shoot(&company, QStringLiteral("11-company"));
     company.hide();
 
-    shootMasterData([&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); },
-        window, workspace, scratch);
+    const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
+    shootMasterData(shoot, window, workspace, scratch);
+    shootGsp(shoot, window, workspace);
 }
 
 } // namespace

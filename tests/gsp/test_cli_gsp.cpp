@@ -53,7 +53,7 @@ TEST_F(GspCommands, RecordsPrintTabSeparatedRowsUnderAHeader)
             QStringLiteral("2025-01-01"), QStringLiteral("--key"), QStringLiteral("CJ") });
     ASSERT_EQ(none.status, 0);
     EXPECT_EQ(none.out.count(QLatin1Char('\n')), 1);
-    EXPECT_TRUE(none.out.startsWith(QStringLiteral("进货日期\t单据号\t供货商\t")));
+    EXPECT_TRUE(none.out.startsWith(QStringLiteral("进货日期\t供货商\t商品名称\t")));
 }
 
 TEST_F(GspCommands, AnInspectionIsEnteredAndListedWithItsLines)
