@@ -124,14 +124,11 @@ Result<QList<AcceptanceRow>> acceptanceRecord(
     const shell::Session &session, const RecordFilter &filter)
 {
     return detail::readRows<AcceptanceRow>(session, filter, [&](QList<AcceptanceRow> &rows) {
-        Conditions where;
-        where.keyword({ QStringLiteral("a.j_sn"), QStringLiteral("d.ghs_sn"),
-                          QStringLiteral("d.ghs_name"), QStringLiteral("d.ghs_jm") },
-            filter.key);
-        where.warehouse(QStringLiteral("c.ck_sn"), filter.warehouse);
-        where.warehouseRights(session, QStringLiteral("e"));
-        QVariantList params { 1, rangeStart(filter), rangeEnd(filter) };
-        params.append(where.params());
+        const Conditions where = conditionsOf(session, filter,
+            { { QStringLiteral("a.j_sn"), QStringLiteral("d.ghs_sn"), QStringLiteral("d.ghs_name"),
+                  QStringLiteral("d.ghs_jm") },
+                QStringLiteral("c.ck_sn"), QStringLiteral("e") });
+        const QVariantList params = rangeParams(filter, { 1 }, where);
         session.db().forEach(
             QStringLiteral(
                 "select a.id,a.j_sn,a.g_sn,a.dw_name,a.jh_sl,a.jh_dj,a.jh_zje,a.t_ph,a.t_scrq,"
@@ -148,14 +145,11 @@ Result<QList<PrescriptionRow>> prescriptionRecord(
     const shell::Session &session, const RecordFilter &filter)
 {
     return detail::readRows<PrescriptionRow>(session, filter, [&](QList<PrescriptionRow> &rows) {
-        Conditions where;
-        where.keyword({ QStringLiteral("a.gl_djh"), QStringLiteral("d.kh_sn"),
-                          QStringLiteral("d.kh_name"), QStringLiteral("d.kh_jm") },
-            filter.key);
-        where.warehouse(QStringLiteral("c.ck_sn"), filter.warehouse);
-        where.warehouseRights(session, QStringLiteral("e"));
-        QVariantList params { 1, 0, rangeStart(filter), rangeEnd(filter) };
-        params.append(where.params());
+        const Conditions where = conditionsOf(session, filter,
+            { { QStringLiteral("a.gl_djh"), QStringLiteral("d.kh_sn"), QStringLiteral("d.kh_name"),
+                  QStringLiteral("d.kh_jm") },
+                QStringLiteral("c.ck_sn"), QStringLiteral("e") });
+        const QVariantList params = rangeParams(filter, { 1, 0 }, where);
         session.db().forEach(
             QStringLiteral(
                 "select a.id,a.gl_djh,a.g_sn,a.dw_name,a.ls_sl,a.ls_dj,a.ls_zje,a.t_ph,a.t_scrq,"
@@ -174,18 +168,13 @@ Result<QList<SplittingRow>> splittingRecord(
     const shell::Session &session, const RecordFilter &filter)
 {
     return detail::readRows<SplittingRow>(session, filter, [&](QList<SplittingRow> &rows) {
-        Conditions where;
-        where.keyword({ QStringLiteral("a.gl_djh"), QStringLiteral("a.ghs_sn"),
-                          QStringLiteral("a.ghs_name") },
-            filter.key);
-        where.warehouse(QStringLiteral("a.ck_sn"), filter.warehouse);
-        where.warehouseRights(session, QStringLiteral("e"));
-        QVariantList params { QStringLiteral("cj"), QStringLiteral("ct"), rangeStart(filter),
-            rangeEnd(filter) };
-        params.append(where.params());
-        params.append(
-            { QStringLiteral("xs"), QStringLiteral("xt"), rangeStart(filter), rangeEnd(filter) });
-        params.append(where.params());
+        const Conditions where = conditionsOf(session, filter,
+            { { QStringLiteral("a.gl_djh"), QStringLiteral("a.ghs_sn"),
+                  QStringLiteral("a.ghs_name") },
+                QStringLiteral("a.ck_sn"), QStringLiteral("e") });
+        QVariantList params
+            = rangeParams(filter, { QStringLiteral("cj"), QStringLiteral("ct") }, where);
+        params.append(rangeParams(filter, { QStringLiteral("xs"), QStringLiteral("xt") }, where));
         const QString checker = texts::splittingChecker();
         session.db().forEach(QStringLiteral("select m.*,k.t_sl from (")
                 + splittingSide(true, where.sql()) + QStringLiteral(" union all ")

@@ -178,14 +178,11 @@ void listFilledRecords(const shell::Session &session, FilledKind kind, const Rec
     const std::function<void(const FilledRecordInfo &, const QSqlQuery &, int next)> &row)
 {
     const FilledKindInfo &info = infoOf(kind);
-    Conditions where;
-    where.keyword({ QStringLiteral("a.gl_djh"), QStringLiteral("u.u_sn"),
-                      QStringLiteral("u.u_name"), QStringLiteral("u.u_jm") },
-        filter.key);
-    where.warehouse(QStringLiteral("a.ck_sn"), filter.warehouse);
-    where.warehouseRights(session, QStringLiteral("e"));
-    QVariantList params { rangeStart(filter), rangeEnd(filter) };
-    params.append(where.params());
+    const Conditions where = conditionsOf(session, filter,
+        { { QStringLiteral("a.gl_djh"), QStringLiteral("u.u_sn"), QStringLiteral("u.u_name"),
+              QStringLiteral("u.u_jm") },
+            QStringLiteral("a.ck_sn"), QStringLiteral("e") });
+    const QVariantList params = rangeParams(filter, {}, where);
     const int shared = 10;
     session.db().forEach(
         QStringLiteral("select a.id,a.gl_djh,a.t_rq,a.ck_sn,e.ck_name,a.u_sn,u.u_name,a.t_note,"

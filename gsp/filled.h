@@ -73,6 +73,15 @@ void listFilledRecords(const shell::Session &session, FilledKind kind, const Rec
     const QString &columns,
     const std::function<void(const FilledRecordInfo &, const QSqlQuery &, int next)> &row);
 
+// The header fields both records keep, as their list read them.
+template<class Header> void takeShared(Header &header, const FilledRecordInfo &info)
+{
+    header.date = info.date;
+    header.warehouse = info.warehouse;
+    header.employee = info.employee;
+    header.note = info.note;
+}
+
 // Refuses (and tells) a warehouse code that is not in jxc_ckxx, or an employee code that is not
 // in jxc_user (an empty employee is allowed).
 Outcome checkPlaces(

@@ -81,4 +81,24 @@ void Conditions::add(const QString &clause, const QVariantList &values)
     m_params.append(values);
 }
 
+Conditions conditionsOf(
+    const shell::Session &session, const RecordFilter &filter, const Narrowing &narrowing)
+{
+    Conditions where;
+    where.keyword(narrowing.keyword, filter.key);
+    if (!narrowing.warehouse.isEmpty())
+        where.warehouse(narrowing.warehouse, filter.warehouse);
+    if (!narrowing.warehouseAlias.isEmpty())
+        where.warehouseRights(session, narrowing.warehouseAlias);
+    return where;
+}
+
+QVariantList rangeParams(const RecordFilter &filter, QVariantList before, const Conditions &where)
+{
+    before.append(rangeStart(filter));
+    before.append(rangeEnd(filter));
+    before.append(where.params());
+    return before;
+}
+
 } // namespace medistock::gsp

@@ -57,6 +57,22 @@ private:
     QVariantList m_params;
 };
 
+// How a list narrows by the filter besides its dates: the columns the keyword searches, the
+// column of the chosen warehouse (empty: the list has no warehouse), and the alias of the joined
+// jxc_ckxx for the warehouses the operator is bound to (empty: none joined).
+struct Narrowing
+{
+    QStringList keyword {};
+    QString warehouse {};
+    QString warehouseAlias {};
+};
+Conditions conditionsOf(
+    const shell::Session &session, const RecordFilter &filter, const Narrowing &narrowing);
+
+// The values of a dated list in the order its statement binds them: `before`, the range's two
+// bounds, then the conditions' values.
+QVariantList rangeParams(const RecordFilter &filter, QVariantList before, const Conditions &where);
+
 // A typed date "yyyy-MM-dd", trimmed; empty when it is not a real date.
 QString normalDate(const QString &text);
 

@@ -208,10 +208,7 @@ Result<QList<InspectionRecord>> inspectionRecords(
                 InspectionRecord record;
                 record.info = info;
                 InspectionHeader &h = record.header;
-                h.date = info.date;
-                h.warehouse = info.warehouse;
-                h.employee = info.employee;
-                h.note = info.note;
+                detail::takeShared(h, info);
                 detail::Cells c(q, next);
                 h.storeTemperature = c.number();
                 h.storeHumidity = c.number();

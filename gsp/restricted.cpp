@@ -62,7 +62,9 @@ RestrictedRow restrictedRowOf(const QSqlQuery &q)
 // The restricted goods' movements in the range; throws DbError.
 QList<RestrictedRow> readMovements(const shell::Session &session, const RecordFilter &filter)
 {
-    Conditions where;
+    Conditions where = conditionsOf(session, filter,
+        { { QStringLiteral("a.gl_djh"), QStringLiteral("a.ghs_sn"), QStringLiteral("a.ghs_name") },
+            QStringLiteral("a.ck_sn"), QStringLiteral("e") });
     QStringList marks;
     QVariantList kinds;
     for (const char *kind : listedKinds) {
@@ -72,13 +74,7 @@ QList<RestrictedRow> readMovements(const shell::Session &session, const RecordFi
     where.add(
         QStringLiteral("and a.gl_flag in (") + marks.join(QLatin1Char(',')) + QLatin1Char(')'),
         kinds);
-    where.keyword(
-        { QStringLiteral("a.gl_djh"), QStringLiteral("a.ghs_sn"), QStringLiteral("a.ghs_name") },
-        filter.key);
-    where.warehouse(QStringLiteral("a.ck_sn"), filter.warehouse);
-    where.warehouseRights(session, QStringLiteral("e"));
-    QVariantList params { 0, rangeStart(filter), rangeEnd(filter) };
-    params.append(where.params());
+    const QVariantList params = rangeParams(filter, { 0 }, where);
     QList<RestrictedRow> rows;
     session.db().forEach(
         QStringLiteral(
@@ -120,9 +116,8 @@ void insertSummaryRow(
 void insertStockRows(const shell::Session &session, const RecordFilter &filter)
 {
     core::Connection &db = session.db();
-    Conditions where;
-    where.warehouse(QStringLiteral("a.ck_sn"), filter.warehouse);
-    where.warehouseRights(session, QStringLiteral("e"));
+    const Conditions where
+        = conditionsOf(session, filter, { {}, QStringLiteral("a.ck_sn"), QStringLiteral("e") });
     QVariantList params { 0 };
     params.append(where.params());
     const QList<QSqlRecord> pairs = db.rows(

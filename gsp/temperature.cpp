@@ -180,11 +180,9 @@ Result<QList<TemperatureRow>> temperatureLog(
     const shell::Session &session, const RecordFilter &filter)
 {
     return detail::readRows<TemperatureRow>(session, filter, [&](QList<TemperatureRow> &rows) {
-        Conditions where;
-        where.warehouse(QStringLiteral("a.ck_sn"), filter.warehouse);
-        where.warehouseRights(session, QStringLiteral("c"));
-        QVariantList params { rangeStart(filter), rangeEnd(filter) };
-        params.append(where.params());
+        const Conditions where
+            = conditionsOf(session, filter, { {}, QStringLiteral("a.ck_sn"), QStringLiteral("c") });
+        const QVariantList params = rangeParams(filter, {}, where);
         session.db().forEach(
             QStringLiteral("select a.id,a.ck_sn,c.ck_name,a.cw_rq,a.cw_time,a.cw_wd,a.cw_sd,"
                            "a.cw_wd2,a.cw_sd2,a.cw_cs,a.cw_jly,a.cw_note,a.a_name from jxc_ckwsd "

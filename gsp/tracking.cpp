@@ -102,10 +102,7 @@ Result<QList<TrackingRecord>> trackingRecords(
                 TrackingRecord record;
                 record.info = info;
                 TrackingHeader &h = record.header;
-                h.date = info.date;
-                h.warehouse = info.warehouse;
-                h.employee = info.employee;
-                h.note = info.note;
+                detail::takeShared(h, info);
                 detail::Cells c(q, next);
                 record.year = c.text();
                 record.month = c.text();

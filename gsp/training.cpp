@@ -182,13 +182,10 @@ Outcome removeTrainingPick(const shell::Session &session, qint64 id)
 
 Result<int> savePlan(const shell::Session &session, const Plan &typed)
 {
-    const Outcome allowed = shell::requireRight(session, "gspgl", planRight);
-    if (!allowed)
-        return allowed;
     Plan plan = typed;
-    const QString refusal = detail::cleanPlan(plan);
-    if (!refusal.isEmpty())
-        return core::refuse(session.ui(), refusal);
+    const Outcome admitted = detail::admitPlan(session, plan);
+    if (!admitted)
+        return admitted;
     int written = 0;
     const Outcome outcome = core::guarded(session.ui(), [&] {
         const QList<TrainingPick> picks = trainingPicks(session, TrainingPicks::Plan);
@@ -224,13 +221,10 @@ Result<int> savePlan(const shell::Session &session, const Plan &typed)
 
 Result<int> saveTrainings(const shell::Session &session, const Training &typed)
 {
-    const Outcome allowed = shell::requireRight(session, "gspgl", recordRight);
-    if (!allowed)
-        return allowed;
     Training training = typed;
-    const QString refusal = detail::cleanTraining(training);
-    if (!refusal.isEmpty())
-        return core::refuse(session.ui(), refusal);
+    const Outcome admitted = detail::admitTraining(session, training);
+    if (!admitted)
+        return admitted;
     int written = 0;
     const Outcome outcome = core::guarded(session.ui(), [&] {
         core::Connection &db = session.db();

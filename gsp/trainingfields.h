@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/outcome.h"
 #include "gsp/training.h"
 
 #include <QString>
@@ -17,6 +18,10 @@ namespace detail {
 // refusal text, or empty.
 QString cleanPlan(Plan &plan);
 QString cleanTraining(Training &training);
+
+// The right of plans or of records, then what was typed cleaned and checked; a refusal is told.
+Outcome admitPlan(const shell::Session &session, Plan &plan);
+Outcome admitTraining(const shell::Session &session, Training &training);
 
 // The values in column order: u_pxzt,u_pxmd,u_pxnr,u_dd,u_js,u_ydsj,u_pxdx,u_khfs,u_pxfs,u_bz.
 QVariantList planValues(const Plan &plan);

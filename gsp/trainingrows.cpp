@@ -95,6 +95,24 @@ QString cleanTraining(Training &t)
     return refusal.isEmpty() ? timeRefusal(QStringLiteral("培训时间"), t.held) : refusal;
 }
 
+Outcome admitPlan(const shell::Session &session, Plan &plan)
+{
+    const Outcome allowed = shell::requireRight(session, "gspgl", planRight);
+    if (!allowed)
+        return allowed;
+    const QString refusal = cleanPlan(plan);
+    return refusal.isEmpty() ? Outcome::done() : core::refuse(session.ui(), refusal);
+}
+
+Outcome admitTraining(const shell::Session &session, Training &training)
+{
+    const Outcome allowed = shell::requireRight(session, "gspgl", recordRight);
+    if (!allowed)
+        return allowed;
+    const QString refusal = cleanTraining(training);
+    return refusal.isEmpty() ? Outcome::done() : core::refuse(session.ui(), refusal);
+}
+
 QVariantList planValues(const Plan &p)
 {
     return { p.topic, p.purpose, p.content, p.place, p.teacher, p.planned, p.audience, p.assessment,
@@ -111,12 +129,9 @@ QVariantList trainingValues(const Training &t)
 Result<QList<PlanRow>> trainingPlans(const shell::Session &session, const RecordFilter &filter)
 {
     return detail::readRows<PlanRow>(session, filter, [&](QList<PlanRow> &rows) {
-        Conditions where;
-        where.keyword(
-            { QStringLiteral("a.u_sn"), QStringLiteral("b.u_name"), QStringLiteral("b.u_jm") },
-            filter.key);
-        QVariantList params { rangeStart(filter), rangeEnd(filter) };
-        params.append(where.params());
+        const Conditions where = conditionsOf(session, filter,
+            { { QStringLiteral("a.u_sn"), QStringLiteral("b.u_name"), QStringLiteral("b.u_jm") } });
+        const QVariantList params = rangeParams(filter, {}, where);
         session.db().forEach(
             QStringLiteral("select a.id,a.id2,a.u_rq,a.u_sn,b.u_name,a.a_name,a.u_pxzt,a.u_pxmd,"
                            "a.u_pxnr,a.u_dd,a.u_js,a.u_ydsj,a.u_pxdx,a.u_khfs,a.u_pxfs,a.u_bz from "
@@ -142,12 +157,9 @@ Result<QList<TrainingRow>> trainingRecords(
     const shell::Session &session, const RecordFilter &filter)
 {
     return detail::readRows<TrainingRow>(session, filter, [&](QList<TrainingRow> &rows) {
-        Conditions where;
-        where.keyword(
-            { QStringLiteral("a.u_sn"), QStringLiteral("b.u_name"), QStringLiteral("b.u_jm") },
-            filter.key);
-        QVariantList params { rangeStart(filter), rangeEnd(filter) };
-        params.append(where.params());
+        const Conditions where = conditionsOf(session, filter,
+            { { QStringLiteral("a.u_sn"), QStringLiteral("b.u_name"), QStringLiteral("b.u_jm") } });
+        const QVariantList params = rangeParams(filter, {}, where);
         session.db().forEach(
             QStringLiteral("select a.id,a.id2,a.u_sn,b.u_name,a.a_name,c.u_pxzt,c.u_ydsj,a.u_pxsj,"
                            "a.u_pxbx,a.u_khjg,a.u_cj,a.u_pdr,a.u_bz from jxc_ygpxjl a,jxc_yghmc b,"
@@ -172,13 +184,10 @@ Result<QList<TrainingRow>> trainingRecords(
 
 Outcome changePlan(const shell::Session &session, qint64 id, const Plan &typed)
 {
-    const Outcome allowed = shell::requireRight(session, "gspgl", planRight);
-    if (!allowed)
-        return allowed;
     Plan plan = typed;
-    const QString refusal = detail::cleanPlan(plan);
-    if (!refusal.isEmpty())
-        return core::refuse(session.ui(), refusal);
+    const Outcome admitted = detail::admitPlan(session, plan);
+    if (!admitted)
+        return admitted;
     return core::guarded(session.ui(), [&] {
         core::Connection &db = session.db();
         const QSqlRecord row = rowOf(db, "jxc_ygpxjh", id);
@@ -225,13 +234,10 @@ Outcome deletePlan(const shell::Session &session, qint64 id)
 
 Outcome changeTraining(const shell::Session &session, qint64 id, const Training &typed)
 {
-    const Outcome allowed = shell::requireRight(session, "gspgl", recordRight);
-    if (!allowed)
-        return allowed;
     Training training = typed;
-    const QString refusal = detail::cleanTraining(training);
-    if (!refusal.isEmpty())
-        return core::refuse(session.ui(), refusal);
+    const Outcome admitted = detail::admitTraining(session, training);
+    if (!admitted)
+        return admitted;
     return core::guarded(session.ui(), [&] {
         core::Connection &db = session.db();
         const QSqlRecord row = rowOf(db, "jxc_ygpxjl", id);

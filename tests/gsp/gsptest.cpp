@@ -141,14 +141,7 @@ gsp::RecordFilter GspTest::filter(
 
 QStringList GspTest::rows(const QString &sql, const QVariantList &params)
 {
-    QStringList lines;
-    for (const QSqlRecord &row : db().rows(sql, params)) {
-        QStringList values;
-        for (int i = 0; i < row.count(); ++i)
-            values.append(row.value(i).toString());
-        lines.append(values.join(QLatin1Char('|')));
-    }
-    return lines;
+    return queryRows(db(), sql, params);
 }
 
 QString GspTest::snapshot()

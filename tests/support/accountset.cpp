@@ -82,6 +82,18 @@ QStringList dumpTable(core::Connection &connection, const QString &table)
     return lines;
 }
 
+QStringList queryRows(core::Connection &connection, const QString &sql, const QVariantList &params)
+{
+    QStringList lines;
+    for (const QSqlRecord &row : connection.rows(sql, params)) {
+        QStringList values;
+        for (int i = 0; i < row.count(); ++i)
+            values.append(row.value(i).toString());
+        lines.append(values.join(QLatin1Char('|')));
+    }
+    return lines;
+}
+
 int rowCount(core::Connection &connection, const QString &table)
 {
     return connection.firstValue(QStringLiteral("select count(*) from ") + table).toInt();

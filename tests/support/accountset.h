@@ -75,5 +75,8 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
 // The rows of one table as text lines.
 QStringList dumpTable(core::Connection &connection, const QString &table);
 int rowCount(core::Connection &connection, const QString &table);
+// The rows a query reads, each as its values joined by "|".
+QStringList queryRows(
+    core::Connection &connection, const QString &sql, const QVariantList &params = {});
 
 } // namespace medistock::test

@@ -5,6 +5,7 @@
 #include "gsp/categories.h"
 #include "gsp/tables.h"
 #include "masterdata/goodsclass.h"
+#include "ui/common/grid.h"
 #include "ui/common/reading.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/recordscreen.h"
@@ -50,7 +51,7 @@ BatchPicker::BatchPicker(Workspace &workspace, gsp::FilledKind kind, QWidget *pa
     , m_class(new QComboBox(this))
     , m_category(new QComboBox(this))
     , m_key(new QLineEdit(this))
-    , m_batches(makeRecordGrid(this))
+    , m_batches(makeTableView(this))
     , m_batchModel(new RecordTableModel(workspace.session.params(), this))
     , m_picked(new QTableWidget(0, int(pickedCaptions.size()), this))
 {

@@ -72,18 +72,10 @@ FilledDialog::FilledDialog(Workspace &workspace, gsp::FilledKind kind, QWidget *
     , m_picker(new BatchPicker(workspace, kind, this))
 {
     setWindowTitle(gsp::titleOf(kind));
-    auto *saveButton = new QPushButton(gsptexts::save, this);
-    auto *cancel = new QPushButton(gsptexts::cancel, this);
-    saveButton->setAutoDefault(false);
-    cancel->setAutoDefault(false);
-    connect(saveButton, &QPushButton::clicked, this, &FilledDialog::save);
-    connect(cancel, &QPushButton::clicked, this, &FilledDialog::reject);
+    QHBoxLayout *buttons = saveCancelRow(
+        this, [this] { save(); }, false);
     auto *f3 = new QShortcut(QKeySequence(Qt::Key_F3), this);
     connect(f3, &QShortcut::activated, this, &FilledDialog::save);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(saveButton);
-    buttons->addWidget(cancel);
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(buildHeader());

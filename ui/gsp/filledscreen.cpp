@@ -2,6 +2,7 @@
 
 #include "core/interaction.h"
 #include "gsp/filled.h"
+#include "ui/common/grid.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/filleddialog.h"
 #include "ui/gsp/tablemodel.h"
@@ -40,7 +41,7 @@ FilledScreen::FilledScreen(Workspace &workspace, gsp::FilledKind kind, QWidget *
             const RecordScreen &screen) { return recordsOf(workspace, kind, screen.filter()); },
         parent)
     , m_kind(kind)
-    , m_lines(makeRecordGrid(this))
+    , m_lines(makeTableView(this))
     , m_linesModel(new RecordTableModel(workspace.session.params(), this))
 {
     m_lines->setModel(m_linesModel);

@@ -4,6 +4,7 @@
 #include "gsp/expiry.h"
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
+#include "ui/common/grid.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
@@ -12,6 +13,7 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -54,20 +56,20 @@ QDateEdit *makeDateField(const QDate &date, QWidget *parent)
     return field;
 }
 
-QTableView *makeRecordGrid(QWidget *parent)
+QHBoxLayout *saveCancelRow(QDialog *dialog, const std::function<void()> &save, bool byEnter)
 {
-    auto *view = new QTableView(parent);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setAlternatingRowColors(true);
-    view->setWordWrap(false);
-    view->verticalHeader()->setVisible(false);
-    view->verticalHeader()->setDefaultSectionSize(24);
-    view->horizontalHeader()->setSectionsMovable(true);
-    view->horizontalHeader()->setStretchLastSection(true);
-    view->horizontalHeader()->setHighlightSections(false);
-    return view;
+    auto *saveButton = new QPushButton(gsptexts::save, dialog);
+    auto *cancel = new QPushButton(gsptexts::cancel, dialog);
+    saveButton->setAutoDefault(false);
+    cancel->setAutoDefault(false);
+    saveButton->setDefault(byEnter);
+    QObject::connect(saveButton, &QPushButton::clicked, dialog, save);
+    QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+    auto *row = new QHBoxLayout;
+    row->addStretch(1);
+    row->addWidget(saveButton);
+    row->addWidget(cancel);
+    return row;
 }
 
 RecordScreen::RecordScreen(
@@ -77,7 +79,7 @@ RecordScreen::RecordScreen(
     , m_name(name)
     , m_fetch(std::move(fetch))
     , m_bar(new QHBoxLayout)
-    , m_grid(makeRecordGrid(this))
+    , m_grid(makeTableView(this))
     , m_model(new RecordTableModel(workspace.session.params(), this))
     , m_split(new QSplitter(Qt::Vertical, this))
     , m_count(new QLabel(this))

@@ -9,6 +9,7 @@
 #include <functional>
 
 class QComboBox;
+class QDialog;
 class QDateEdit;
 class QHBoxLayout;
 class QLabel;
@@ -116,7 +117,8 @@ private:
 QComboBox *makeWarehouseBox(Workspace &workspace, bool withAll, QWidget *parent);
 // A date field "yyyy-MM-dd" with a calendar.
 QDateEdit *makeDateField(const QDate &date, QWidget *parent);
-// A read-only grid of whole rows.
-QTableView *makeRecordGrid(QWidget *parent);
+// The row of a dialog's buttons: 保存 running `save` (Enter too, when `byEnter`; a dialog
+// whose grids take Enter leaves it off) and 取消 rejecting.
+QHBoxLayout *saveCancelRow(QDialog *dialog, const std::function<void()> &save, bool byEnter);
 
 } // namespace medistock::ui

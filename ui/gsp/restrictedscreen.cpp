@@ -3,6 +3,7 @@
 #include "core/interaction.h"
 #include "gsp/restricted.h"
 #include "gsp/texts.h"
+#include "ui/common/grid.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/tablemodel.h"
 #include "ui/gsp/texts.h"
@@ -60,7 +61,7 @@ void RestrictedScreen::openDocument(int row)
 
 TableDialog::TableDialog(Workspace &workspace, const gsp::RecordTable &table, QWidget *parent)
     : QDialog(parent)
-    , m_grid(makeRecordGrid(this))
+    , m_grid(makeTableView(this))
 {
     setWindowTitle(table.title);
     auto *model = new RecordTableModel(workspace.session.params(), this);

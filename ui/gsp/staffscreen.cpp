@@ -161,18 +161,10 @@ EmployeeDialog::EmployeeDialog(Workspace &workspace, const QString &code, QWidge
     columns->addLayout(left);
     columns->addSpacing(16);
     columns->addLayout(right);
-    auto *saveButton = new QPushButton(gsptexts::save, this);
-    auto *cancel = new QPushButton(gsptexts::cancel, this);
-    saveButton->setDefault(true);
-    connect(saveButton, &QPushButton::clicked, this, &EmployeeDialog::save);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(saveButton);
-    buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(columns);
-    layout->addLayout(buttons);
+    layout->addLayout(saveCancelRow(
+        this, [this] { save(); }, true));
     if (!code.isEmpty())
         readSafely(workspace.session.ui(), [&] { load(gsp::employeeOf(workspace.session, code)); });
     enableEnterNavigation(this);

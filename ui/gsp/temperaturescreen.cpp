@@ -224,18 +224,10 @@ TemperatureDialog::TemperatureDialog(Workspace &workspace, QWidget *parent)
         form->addRow(label, edit);
     }
     field(QStringLiteral("recorder"))->setText(workspace.session.user().name);
-    auto *saveButton = new QPushButton(gsptexts::save, this);
-    auto *cancel = new QPushButton(gsptexts::cancel, this);
-    saveButton->setDefault(true);
-    connect(saveButton, &QPushButton::clicked, this, &TemperatureDialog::save);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(saveButton);
-    buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);
-    layout->addLayout(buttons);
+    layout->addLayout(saveCancelRow(
+        this, [this] { save(); }, true));
     enableEnterNavigation(this);
     field(QStringLiteral("temperature"))->setFocus();
     resize(420, 0);

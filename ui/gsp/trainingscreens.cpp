@@ -143,19 +143,10 @@ TrainingDialog::TrainingDialog(Workspace &workspace, Mode mode, qint64 id, QWidg
     top->addLayout(form, 2);
     if (id == 0)
         top->addWidget(buildPicker(), 3);
-    auto *saveButton = new QPushButton(gsptexts::save, this);
-    auto *cancel = new QPushButton(gsptexts::cancel, this);
-    saveButton->setAutoDefault(false);
-    cancel->setAutoDefault(false);
-    connect(saveButton, &QPushButton::clicked, this, &TrainingDialog::save);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(saveButton);
-    buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(top, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(saveCancelRow(
+        this, [this] { save(); }, false));
     enableEnterNavigation(this);
     m_fields.value(QString::fromLatin1(fieldsOf(mode).front().name))->setFocus();
     resize(id == 0 ? 1000 : 420, id == 0 ? 560 : 0);
