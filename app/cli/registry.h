@@ -47,6 +47,8 @@ void addSalesCommands(Registry &registry);
 // gsp (the GSP records), with gsp-add and gsp-delete.
 void addGspCommands(Registry &registry);
 void addGspEntryCommands(Registry &registry);
+// Members, points, top-ups, gifts and the till's documents.
+void addMembersCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

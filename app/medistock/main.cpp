@@ -10,6 +10,7 @@
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
+#include "ui/members/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -42,6 +43,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
+    ui::registerMemberScreens(registry);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 // chosen.
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/masterdata.h"
+#include "app/screenshots/members.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -18,6 +19,7 @@
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
+#include "ui/members/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -233,6 +235,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
+    ui::registerMemberScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -256,6 +259,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
 
     const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
     shootMasterData(shoot, window, workspace, scratch);
+    shootMembers(shoot, window, workspace, scratch);
     shootGsp(shoot, window, workspace);
 }
 

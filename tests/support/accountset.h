@@ -78,5 +78,11 @@ int rowCount(core::Connection &connection, const QString &table);
 // The rows a query reads, each as its values joined by "|".
 QStringList queryRows(
     core::Connection &connection, const QString &sql, const QVariantList &params = {});
+// The rows of a table as "a|b|c" over the given columns, in id order, narrowed by `where`.
+QStringList tableRows(core::Connection &connection, const QString &table, const QString &columns,
+    const QString &where = {}, const QVariantList &params = {});
+// The lines of two snapshots that differ, each marked "-" (only before) or "+" (only after);
+// empty when they are equal.
+QStringList differences(const QString &before, const QString &after);
 
 } // namespace medistock::test
