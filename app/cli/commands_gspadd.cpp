@@ -59,9 +59,9 @@ void pickBatches(Context &context, Args &args, gsp::FilledKind kind, gsp::BatchC
     require(batches.outcome());
     for (const gsp::PickableBatch &batch : batches.value()) {
         bool chosen = all;
-        for (const QString &spec : wanted)
-            chosen = chosen || spec == batch.goods
-                || spec == batch.goods + QLatin1Char('/') + batch.batch;
+        for (const QString &named : wanted)
+            chosen = chosen || named == batch.goods
+                || named == batch.goods + QLatin1Char('/') + batch.batch;
         if (chosen)
             require(gsp::pickBatch(session, kind, choice.warehouse, batch).outcome());
     }

@@ -1,6 +1,11 @@
+#include "gsp/documentsfolder.h"
 #include "gsp/temperature.h"
 #include "tests/gsp/gsptest.h"
 #include "tests/support/documentrows.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 namespace medistock::test {
 
@@ -164,6 +169,33 @@ TEST(StorageClasses, FollowTheWarehouseNameAndKeepTheirBounds)
     EXPECT_EQ(normal.highTemperature, 30);
     EXPECT_EQ(normal.lowHumidity, 35);
     EXPECT_EQ(normal.highHumidity, 75);
+}
+
+} // namespace medistock::test
+
+namespace medistock::test {
+
+TEST(GspDocumentsFolder, IsMadeBesideTheDataWhenMissingAndKeptWhenThere)
+{
+    QTemporaryDir data;
+    const QString expected = QDir(data.path()).filePath(QStringLiteral("gsp"));
+    EXPECT_FALSE(QDir(expected).exists());
+    EXPECT_EQ(gsp::gspDocumentsFolder(data.path()).value(), expected);
+    ASSERT_TRUE(QDir(expected).exists());
+    QFile kept(QDir(expected).filePath(QStringLiteral("质量管理制度.txt")));
+    ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
+    kept.close();
+    EXPECT_EQ(gsp::gspDocumentsFolder(data.path()).value(), expected);
+    EXPECT_TRUE(kept.exists());
+    // A file where the folder should be cannot become one.
+    QTemporaryDir other;
+    QFile blocker(QDir(other.path()).filePath(QStringLiteral("gsp")));
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    const auto refused = gsp::gspDocumentsFolder(other.path());
+    EXPECT_FALSE(refused.ok());
+    EXPECT_EQ(refused.message(),
+        QStringLiteral("不能创建文件夹：") + QDir(other.path()).filePath(QStringLiteral("gsp")));
 }
 
 } // namespace medistock::test
