@@ -100,3 +100,57 @@ TEST_F(GspCommands, UsageErrorsAndRefusalsHaveTheirExitStatus)
     EXPECT_EQ(hot.err, QStringLiteral("温度“70”超出范围，应在 -50 到 60 之间！\n"));
     EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_ckwsd")), 0);
 }
+
+TEST_F(GspCommands, StaffAreRegisteredTrainedAndCopiedToTheSalesmen)
+{
+    for (const QString &name : { QStringLiteral("刘敏"), QStringLiteral("赵静") })
+        ASSERT_EQ(
+            run({ QStringLiteral("gsp-add"), QStringLiteral("employee"), QStringLiteral("--name"),
+                    name, QStringLiteral("--sex"), QStringLiteral("女") })
+                .status,
+            0);
+    const test::CliRun plan = run({ QStringLiteral("gsp-add"), QStringLiteral("plan"),
+        QStringLiteral("--employee"), QStringLiteral("100001"), QStringLiteral("--employee"),
+        QStringLiteral("100002"), QStringLiteral("--topic"), QStringLiteral("GSP知识"),
+        QStringLiteral("--planned"), QStringLiteral("2025-03-20") });
+    ASSERT_EQ(plan.status, 0) << plan.err.toStdString();
+    EXPECT_EQ(plan.out, QStringLiteral("2\n"));
+    const test::CliRun training = run({ QStringLiteral("gsp-add"), QStringLiteral("training"),
+        QStringLiteral("--plan"), QStringLiteral("2"), QStringLiteral("--held"),
+        QStringLiteral("2025-03-20"), QStringLiteral("--score"), QStringLiteral("95") });
+    ASSERT_EQ(training.status, 0) << training.err.toStdString();
+    const test::CliRun listed = run({ QStringLiteral("gsp"), QStringLiteral("trainings") });
+    EXPECT_EQ(listed.out.split(QLatin1Char('\n')).value(1),
+        QStringLiteral("2025-03-20\tGSP知识\t2025-03-20\t100002\t赵静\t\t\t95\t\t\tadmin"));
+
+    const test::CliRun copied
+        = run({ QStringLiteral("gsp-add"), QStringLiteral("salesman"), QStringLiteral("100002") });
+    ASSERT_EQ(copied.status, 0) << copied.err.toStdString();
+    const test::CliRun again
+        = run({ QStringLiteral("gsp-add"), QStringLiteral("salesman"), QStringLiteral("100002") });
+    EXPECT_EQ(again.status, 1);
+    EXPECT_TRUE(again.err.endsWith(QStringLiteral("业务员中已有“赵静”，不再复制！\n")));
+    EXPECT_EQ(db().firstText(QStringLiteral("select count(*) from jxc_user where u_name=?"),
+                  { QStringLiteral("赵静") }),
+        QStringLiteral("1"));
+}
+
+TEST_F(GspCommands, DeletingAsksAndNeedsYes)
+{
+    ASSERT_EQ(run({ QStringLiteral("gsp-add"), QStringLiteral("temperature"),
+                      QStringLiteral("--warehouse"), QStringLiteral("100001"),
+                      QStringLiteral("--temp"), QStringLiteral("20"), QStringLiteral("--humidity"),
+                      QStringLiteral("50"), QStringLiteral("--time"), QStringLiteral("08:00") })
+                  .status,
+        0);
+    const test::CliRun no = test::runCli({ QStringLiteral("--data"), folder(),
+        QStringLiteral("--today"), QStringLiteral("2025-03-14"), QStringLiteral("gsp-delete"),
+        QStringLiteral("temperature"), QStringLiteral("1") });
+    EXPECT_EQ(no.status, 1);
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_ckwsd")), 1);
+    EXPECT_EQ(
+        run({ QStringLiteral("gsp-delete"), QStringLiteral("temperature"), QStringLiteral("1") })
+            .status,
+        0);
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_ckwsd")), 0);
+}

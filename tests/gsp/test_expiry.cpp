@@ -1,5 +1,7 @@
 #include "gsp/expiry.h"
+#include "gsp/temperature.h"
 #include "tests/gsp/gsptest.h"
+#include "tests/support/documentrows.h"
 
 namespace medistock::test {
 
@@ -114,6 +116,29 @@ TEST(ExpiryDays, AcceptsWholeDaysFromZeroTo36500)
             QStringLiteral("天数“%1”不正确，应为 0 到 36500 之间的整数！")
                 .arg(QString::fromUtf8(bad)));
     }
+}
+
+TEST_F(GspTest, AnOperatorBoundToAWarehouseQueriesAndIsRemindedOfItAlone)
+{
+    batch(QStringLiteral("200001"), QStringLiteral("100001"), QStringLiteral("M1"),
+        QStringLiteral("2025-04"), 5);
+    batch(QStringLiteral("200001"), QStringLiteral("100002"), QStringLiteral("B1"),
+        QStringLiteral("2025-04"), 5);
+    addOperatorWithRights(session(), QStringLiteral("小王"),
+        { { QStringLiteral("gspgl"), QStringLiteral("11111111111") },
+            { QStringLiteral("kcgl"), QStringLiteral("0000000000000001") } });
+    const QString code = db().firstText(
+        QStringLiteral("select a_sn from jxc_admin where a_name=?"), { QStringLiteral("小王") });
+    db().exec(QStringLiteral("update jxc_ckxx set ck_asn=? where ck_sn='100002'"),
+        { code + QLatin1Char(',') });
+    setParameter(QStringLiteral("cs_cgyh"), 1);
+    loginAs(QStringLiteral("小王"));
+    EXPECT_EQ(batches(gsp::expiryQuery(session(), 90, QString(), QString()).value()),
+        QStringList { QStringLiteral("B1") });
+    EXPECT_EQ(gsp::nearExpiryCount(session()).value(), 1);
+    EXPECT_EQ(gsp::temperatureReminder(session()),
+        QStringLiteral("今天（2025-03-14）以下仓库还没有登记温湿度：\r\n分店仓库\r\n"
+                       "请在“仓库温湿度管理”中登记！"));
 }
 
 } // namespace medistock::test

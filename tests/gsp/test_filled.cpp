@@ -241,4 +241,62 @@ TEST_F(FilledRecords, TheInspectionCountsComeFromTheWarehousesBatchStock)
     EXPECT_DOUBLE_EQ(header.herbal.qualified, 8);
 }
 
+TEST_F(FilledRecords, APickKeepsItsFiguresWhenAChangeIsRefused)
+{
+    const gsp::PickableBatch a1 = offered().first();
+    ASSERT_TRUE(
+        gsp::pickBatch(session(), FilledKind::Inspection, QStringLiteral("100001"), a1).value());
+    const qint64 id = gsp::pickedLines(session(), FilledKind::Inspection).first().id;
+    const QString before = snapshot();
+    const QString longText(33, QChar(0x574f)); // 33 times "坏"
+    for (const auto &[quantity, quality, message] :
+        std::initializer_list<std::tuple<QString, QString, QString>> {
+            { QStringLiteral("-1"), QString(), QStringLiteral("数量“-1”不是正确的数字！") },
+            { QStringLiteral("十二"), QString(), QStringLiteral("数量“十二”不是正确的数字！") },
+            { QStringLiteral("12"), longText, QStringLiteral("质量状况太长，最多 32 个字！") } }) {
+        EXPECT_FALSE(gsp::changePickedLine(session(), id, quantity, quality, QString()).ok());
+        EXPECT_EQ(ui.informed.last(), message);
+        EXPECT_EQ(snapshot(), before);
+    }
+    // Another operator's picks are not his to change or drop.
+    addOperatorWithRights(
+        session(), QStringLiteral("小王"), { { QStringLiteral("gspgl"), QStringLiteral("111") } });
+    loginAs(QStringLiteral("小王"));
+    EXPECT_FALSE(gsp::removePickedLine(session(), id).ok());
+    EXPECT_TRUE(gsp::pickedLines(session(), FilledKind::Inspection).isEmpty());
+    EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_tempspxf2")), 1);
+}
+
+TEST_F(FilledRecords, TheInspectorMustBeAnEmployeeAndTheWarehouseOneOfTheList)
+{
+    pickAll(FilledKind::Tracking);
+    gsp::TrackingHeader header = gsp::proposedTracking(session(), QStringLiteral("100001"));
+    header.warehouse = QStringLiteral("100009");
+    EXPECT_FALSE(gsp::saveTracking(session(), header).ok());
+    EXPECT_EQ(ui.informed.last(), QStringLiteral("仓库“100009”不存在！"));
+    header = gsp::proposedTracking(session(), QStringLiteral("100001"));
+    header.fromDays = 30;
+    header.toDays = 10;
+    EXPECT_FALSE(gsp::saveTracking(session(), header).ok());
+    EXPECT_EQ(
+        ui.informed.last(), QStringLiteral("效期天数“30-10”超出范围，应在 0 到 36500 之间！"));
+    EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_jxqd")), 0);
+    EXPECT_EQ(gsp::pickedLines(session(), FilledKind::Tracking).size(), 3);
+}
+
+TEST_F(FilledRecords, AnOperatorWithoutTheRightSavesAndDeletesNothing)
+{
+    pickAll(FilledKind::Inspection);
+    const QString number = gsp::saveInspection(
+        session(), gsp::proposedInspection(session(), QStringLiteral("100001")))
+                               .value();
+    addOperatorWithRights(session(), QStringLiteral("小王"),
+        { { QStringLiteral("gspgl"), QStringLiteral("11011") } });
+    loginAs(QStringLiteral("小王"));
+    EXPECT_FALSE(gsp::deleteFilledRecord(session(), FilledKind::Inspection, number).ok());
+    EXPECT_EQ(ui.informed.last(), QStringLiteral("您没有“陈列检查记录”的权限！"));
+    EXPECT_TRUE(ui.asked.isEmpty());
+    EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_cljcsp")), 3);
+}
+
 } // namespace medistock::test

@@ -104,4 +104,29 @@ TEST_F(GspTest, TheRestrictedSummaryCountsOpeningMovementsAndLedgerStockPerGoods
         QStringList { QStringLiteral("小王|99") });
 }
 
+TEST_F(GspTest, TheRestrictedLedgerNarrowsToAWarehouseAndADocumentOpensWithAllItsLines)
+{
+    ledgerRow(QStringLiteral("cj"), QStringLiteral("200002"), 10, 30);
+    receipt(QStringLiteral("200002"), QStringLiteral("6"), QStringLiteral("3"),
+        QStringLiteral("2025-03-11"), true, QStringLiteral("100002"));
+    const auto branch = gsp::restrictedLedger(session(), filter({}, QStringLiteral("100002")));
+    ASSERT_EQ(branch->size(), 1);
+    EXPECT_EQ(branch->first().warehouseName, QStringLiteral("分店仓库"));
+    EXPECT_DOUBLE_EQ(branch->first().inQuantity, 6);
+    const auto summary = gsp::restrictedSummary(session(), filter({}, QStringLiteral("100002")));
+    ASSERT_EQ(summary->size(), 1);
+    EXPECT_DOUBLE_EQ(summary->first().inQuantity, 6);
+    EXPECT_DOUBLE_EQ(summary->first().ledgerStock, 6);
+    // The source document: every line it posted, whatever the goods.
+    const QString number
+        = sale(QStringLiteral("200002"), QStringLiteral("2"), QStringLiteral("2025-03-12"));
+    const QList<gsp::PostedLine> lines = gsp::postedLines(session(), number);
+    ASSERT_EQ(lines.size(), 1);
+    EXPECT_EQ(lines.first().kindText, QStringLiteral("商品销售单"));
+    EXPECT_EQ(lines.first().goodsName, QStringLiteral("复方甘草片"));
+    EXPECT_DOUBLE_EQ(lines.first().quantity, 2);
+    EXPECT_DOUBLE_EQ(lines.first().amount, 24);
+    EXPECT_TRUE(gsp::postedLines(session(), QStringLiteral("XS99999999999")).isEmpty());
+}
+
 } // namespace medistock::test

@@ -249,4 +249,45 @@ TEST_F(GspCategories, EveryStaffChangeNeedsItsRight)
     EXPECT_EQ(ui.informed.last(), QStringLiteral("您没有“员工培训计划”的权限！"));
 }
 
+TEST_F(StaffRecords, APlanRowAndATrainingRowAreChangedAndDeletedOnTheirOwn)
+{
+    ASSERT_TRUE(gsp::pickForPlan(session(), QStringLiteral("100001")).value());
+    ASSERT_TRUE(gsp::savePlan(session(), plan()).ok());
+    const qint64 planId = gsp::trainingPlans(session(), filter()).value().first().id;
+    gsp::Plan changed = plan(QStringLiteral("处方药管理"));
+    changed.planned = QStringLiteral("2025-03-21 14:00");
+    ASSERT_TRUE(gsp::changePlan(session(), planId, changed).ok());
+    EXPECT_EQ(rows(QStringLiteral("select u_pxzt,u_ydsj,id2-id from jxc_ygpxjh")),
+        QStringList { QStringLiteral("处方药管理|2025-03-21 14:00|0") });
+    // A time of day still falls within its day's range.
+    EXPECT_EQ(gsp::trainingPlans(session(),
+                  filter({}, {}, QStringLiteral("2025-03-21"), QStringLiteral("2025-03-21")))
+                  .value()
+                  .size(),
+        1);
+
+    ASSERT_TRUE(gsp::pickForRecord(session(), planId).value());
+    gsp::Training training;
+    training.held = QStringLiteral("2025-03-21");
+    ASSERT_TRUE(gsp::saveTrainings(session(), training).ok());
+    const qint64 trainingId = gsp::trainingRecords(session(), filter()).value().first().id;
+    training.score = QStringLiteral("88");
+    training.held = QStringLiteral("21/03/2025");
+    EXPECT_FALSE(gsp::changeTraining(session(), trainingId, training).ok());
+    EXPECT_EQ(ui.informed.last(),
+        QStringLiteral("培训时间“21/03/2025”不是正确的日期，请按 yyyy-MM-dd 输入！"));
+    training.held = QStringLiteral("2025-03-21");
+    ASSERT_TRUE(gsp::changeTraining(session(), trainingId, training).ok());
+    EXPECT_EQ(rows(QStringLiteral("select u_sn,u_pxsj,u_cj from jxc_ygpxjl")),
+        QStringList { QStringLiteral("100001|2025-03-21|88") });
+    ui.answerNext(false);
+    EXPECT_FALSE(gsp::deleteTraining(session(), trainingId).ok());
+    EXPECT_EQ(ui.asked.last(), QStringLiteral("您的操作将删除刘敏的这条培训记录，确认吗？"));
+    EXPECT_TRUE(gsp::deleteTraining(session(), trainingId).ok());
+    EXPECT_TRUE(gsp::deletePlan(session(), planId).ok());
+    EXPECT_EQ(
+        rowCount(db(), QStringLiteral("jxc_ygpxjh")) + rowCount(db(), QStringLiteral("jxc_ygpxjl")),
+        0);
+}
+
 } // namespace medistock::test

@@ -171,10 +171,6 @@ TEST(StorageClasses, FollowTheWarehouseNameAndKeepTheirBounds)
     EXPECT_EQ(normal.highHumidity, 75);
 }
 
-} // namespace medistock::test
-
-namespace medistock::test {
-
 TEST(GspDocumentsFolder, IsMadeBesideTheDataWhenMissingAndKeptWhenThere)
 {
     QTemporaryDir data;

@@ -3,16 +3,22 @@
 #include "ui/common/screenregistry.h"
 #include "ui/gsp/batchpicker.h"
 #include "ui/gsp/filleddialog.h"
+#include "ui/gsp/otherscreens.h"
 #include "ui/gsp/registration.h"
+#include "ui/gsp/restrictedscreen.h"
+#include "ui/gsp/staffscreen.h"
+#include "ui/gsp/tablemodel.h"
 #include "ui/gsp/temperaturescreen.h"
 #include "ui/shell/mainwindow.h"
 
 #include <QChart>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QSqlRecord>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -154,4 +160,68 @@ TEST_F(GspScreens, TheMainWindowCountsNearExpiryBatchesAndRemindsOfTheTemperatur
     EXPECT_EQ(window.tabs()->tabText(0), QStringLiteral("过期查询"));
     auto *grid = window.tabs()->currentWidget()->findChild<QTableView *>();
     EXPECT_EQ(grid->model()->rowCount(), 2 + 1);
+}
+
+TEST_F(GspScreens, AnEmployeeIsTypedIntoTheRegister)
+{
+    ui::StaffScreen screen(workspace());
+    EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：0"));
+    ui::EmployeeDialog dialog(workspace(), QString());
+    test::typeInto(dialog.field(QStringLiteral("name")), QStringLiteral("陈建华"));
+    test::typeInto(dialog.field(QStringLiteral("born")), QStringLiteral("1980-02-30"));
+    dialog.choice(QStringLiteral("sex"))->setCurrentIndex(1);
+    dialog.flag(QStringLiteral("pharmacist"))->setChecked(true);
+    dialog.save();
+    EXPECT_NE(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(ui.informed.last(),
+        QStringLiteral("出生日期“1980-02-30”不是正确的日期，请按 yyyy-MM-dd 输入！"));
+    dialog.field(QStringLiteral("born"))->setText(QStringLiteral("1980-02-28"));
+    dialog.save();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.savedCode(), QStringLiteral("100001"));
+    EXPECT_EQ(db().firstText(QStringLiteral(
+                  "select u_name||'|'||u_jm||'|'||u_sex||'|'||u_csrq||'|'||u_isys||'|'||"
+                  "de_sn from jxc_yghmc")),
+        QStringLiteral("陈建华|CJH|男|1980-02-28|1|100001"));
+    screen.reload();
+    EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：1"));
+    EXPECT_EQ(screen.currentKey().toString(), QStringLiteral("100001"));
+}
+
+TEST_F(GspScreens, TheExpiryQueryTakesItsDaysAndNamesThemUnderTheGrid)
+{
+    ui::ExpiryScreen screen(workspace());
+    EXPECT_EQ(screen.daysBox()->value(), 180);
+    EXPECT_EQ(screen.captionLabel()->text(), QStringLiteral("查询还有180天过期的药品"));
+    EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：2"));
+    screen.daysBox()->setValue(30);
+    QTest::keyClick(screen.daysBox(), Qt::Key_Return);
+    EXPECT_EQ(screen.captionLabel()->text(), QStringLiteral("查询还有30天过期的药品"));
+    // 30 days reach "2025-04": B1 expires on 2025-04-30, after the month's text.
+    EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：0"));
+}
+
+TEST_F(GspScreens, TheRestrictedLedgerSwitchesToItsSummary)
+{
+    db().exec(QStringLiteral("update jxc_goods set g_xzsl=2 where g_sn='200001'"));
+    db().exec(QStringLiteral(
+        "insert into jxc_goodslist (gl_flag,gl_djh,gl_kdrq,g_sn,g_name,gl_sl,gl_je,gl_dj,"
+        "ck_sn,gl_kc,gl_kczje) values ('qc','QC1','2025-01-02','200001','阿莫西林胶囊',10,"
+        "30,3,'100001',10,30)"));
+    ui::RestrictedScreen screen(workspace());
+    EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：1"));
+    EXPECT_EQ(screen.model()->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(),
+        QStringLiteral("单据类型"));
+    EXPECT_EQ(screen.model()->data(screen.model()->index(0, 2), Qt::DisplayRole).toString(),
+        QStringLiteral("期初数"));
+    QPushButton *summary
+        = qobject_cast<QPushButton *>(test::buttonNamed(&screen, QStringLiteral("汇总(&H)")));
+    ASSERT_NE(summary, nullptr);
+    summary->click();
+    EXPECT_TRUE(screen.showsSummary());
+    EXPECT_EQ(summary->text(), QStringLiteral("明细(&M)"));
+    EXPECT_EQ(screen.model()->headerData(10, Qt::Horizontal, Qt::DisplayRole).toString(),
+        QStringLiteral("帐面库存"));
+    EXPECT_EQ(screen.model()->data(screen.model()->index(0, 10), Qt::DisplayRole).toString(),
+        QStringLiteral("10.00"));
 }
