@@ -11,10 +11,12 @@
 #include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/purchasing/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/shell/registration.h"
+#include "ui/stock/registration.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -43,6 +45,8 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
+    ui::registerPurchasingScreens(registry);
+    ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
 }
 

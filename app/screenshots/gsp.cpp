@@ -279,57 +279,57 @@ void shootGsp(const std::function<void(QWidget *, const QString &)> &shoot, ui::
     window.resize(1366, 768);
 
     const std::pair<int, const char *> screens[]
-        = { { 1, "51-gsp-acceptance" }, { 2, "52-gsp-prescriptions" }, { 3, "53-gsp-inspections" },
-              { 4, "55-gsp-splitting" }, { 5, "56-gsp-restricted" }, { 6, "59-gsp-tracking" },
-              { 7, "61-gsp-prescription-sales" }, { 8, "62-gsp-staff" }, { 9, "64-gsp-categories" },
-              { 11, "65-gsp-temperatures" }, { 12, "67-gsp-plans" }, { 13, "69-gsp-trainings" } };
+        = { { 1, "61-gsp-acceptance" }, { 2, "62-gsp-prescriptions" }, { 3, "63-gsp-inspections" },
+              { 4, "65-gsp-splitting" }, { 5, "66-gsp-restricted" }, { 6, "69-gsp-tracking" },
+              { 7, "71-gsp-prescription-sales" }, { 8, "72-gsp-staff" }, { 9, "74-gsp-categories" },
+              { 11, "75-gsp-temperatures" }, { 12, "77-gsp-plans" }, { 13, "79-gsp-trainings" } };
     for (const auto &[position, name] : screens) {
         window.openOperation(QStringLiteral("gspgl"), position);
         shoot(&window, QString::fromLatin1(name));
         if (position == 5) {
             auto *restricted = qobject_cast<ui::RestrictedScreen *>(window.tabs()->currentWidget());
             restricted->setSummary(true);
-            shoot(&window, QStringLiteral("57-gsp-restricted-summary"));
+            shoot(&window, QStringLiteral("67-gsp-restricted-summary"));
             restricted->setSummary(false);
             ui::TableDialog document(workspace,
                 gsp::postedLinesTable(QStringLiteral("单据明细"),
                     gsp::postedLines(
                         s, restricted->model()->table().rows.value(0).value(1).toString())),
                 &window);
-            shoot(&document, QStringLiteral("58-gsp-restricted-document"));
+            shoot(&document, QStringLiteral("68-gsp-restricted-document"));
             document.hide();
         }
     }
     window.openOperation(QStringLiteral("kcgl"), 16);
-    shoot(&window, QStringLiteral("50-expiry-query"));
+    shoot(&window, QStringLiteral("60-expiry-query"));
 
     ui::FilledDialog inspection(workspace, gsp::FilledKind::Inspection, &window);
     for (int i = 0; i < 3; ++i) {
         inspection.picker()->batchGrid()->selectRow(i);
         inspection.picker()->pickCurrent();
     }
-    shoot(&inspection, QStringLiteral("54-gsp-inspection-new"));
+    shoot(&inspection, QStringLiteral("64-gsp-inspection-new"));
     gsp::clearPicks(s, gsp::FilledKind::Inspection);
     inspection.hide();
     ui::FilledDialog tracking(workspace, gsp::FilledKind::Tracking, &window);
-    shoot(&tracking, QStringLiteral("60-gsp-tracking-new"));
+    shoot(&tracking, QStringLiteral("70-gsp-tracking-new"));
     tracking.hide();
     ui::EmployeeDialog employee(workspace, QStringLiteral("100001"), &window);
-    shoot(&employee, QStringLiteral("63-gsp-employee"));
+    shoot(&employee, QStringLiteral("73-gsp-employee"));
     employee.hide();
     ui::TemperatureDialog entry(workspace, &window);
     entry.field(QStringLiteral("temperature"))->setText(QStringLiteral("22.5"));
     entry.field(QStringLiteral("humidity"))->setText(QStringLiteral("58"));
-    shoot(&entry, QStringLiteral("66-gsp-temperature-entry"));
+    shoot(&entry, QStringLiteral("76-gsp-temperature-entry"));
     entry.hide();
     ui::TrainingDialog plan(workspace, ui::TrainingScreen::Mode::Plans, 0, &window);
     plan.field(QStringLiteral("topic"))->setText(QStringLiteral("处方药销售管理"));
     plan.offered()->selectRow(0);
     plan.pickCurrent();
-    shoot(&plan, QStringLiteral("68-gsp-plan-new"));
+    shoot(&plan, QStringLiteral("78-gsp-plan-new"));
     gsp::clearTrainingPicks(s, gsp::TrainingPicks::Plan);
     plan.hide();
     ui::TrainingDialog record(workspace, ui::TrainingScreen::Mode::Records, 0, &window);
-    shoot(&record, QStringLiteral("70-gsp-training-new"));
+    shoot(&record, QStringLiteral("80-gsp-training-new"));
     record.hide();
 }

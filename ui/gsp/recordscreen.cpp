@@ -5,6 +5,7 @@
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "ui/common/grid.h"
+#include "ui/common/printing.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
@@ -35,7 +36,7 @@ QComboBox *makeWarehouseBox(Workspace &workspace, bool withAll, QWidget *parent)
 {
     auto *box = new QComboBox(parent);
     if (withAll)
-        box->addItem(gsptexts::allWarehouses, QString());
+        box->addItem(texts::allWarehouses(), QString());
     const masterdata::MasterKind *kind = masterdata::findMasterKind(QStringLiteral("warehouse"));
     readSafely(workspace.session.ui(), [&] {
         for (const QSqlRecord &row :
@@ -59,7 +60,7 @@ QDateEdit *makeDateField(const QDate &date, QWidget *parent)
 QHBoxLayout *saveCancelRow(QDialog *dialog, const std::function<void()> &save, bool byEnter)
 {
     auto *saveButton = new QPushButton(gsptexts::save, dialog);
-    auto *cancel = new QPushButton(gsptexts::cancel, dialog);
+    auto *cancel = new QPushButton(texts::cancel(), dialog);
     saveButton->setAutoDefault(false);
     cancel->setAutoDefault(false);
     saveButton->setDefault(byEnter);
@@ -84,8 +85,10 @@ RecordScreen::RecordScreen(
     , m_split(new QSplitter(Qt::Vertical, this))
     , m_count(new QLabel(this))
     , m_caption(new QLabel(this))
-    , m_export(new QPushButton(gsptexts::exportButton, this))
-    , m_print(new QPushButton(gsptexts::print, this))
+    , m_export(new QPushButton(texts::exportButton(), this))
+    , m_print(makePrintButton(workspace, this, [this] {
+        return PrintRequest { m_model->table().printKey, QString(), m_model };
+    }))
 {
     m_grid->setModel(m_model);
     m_grid->installEventFilter(this);
@@ -96,7 +99,7 @@ RecordScreen::RecordScreen(
     connect(m_grid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
         [this] { emit currentRowChanged(currentRow()); });
     buildFilters(filters);
-    auto *query = new QPushButton(gsptexts::query, this);
+    auto *query = new QPushButton(texts::queryButton(), this);
     query->setAutoDefault(false);
     connect(query, &QPushButton::clicked, this, &RecordScreen::reload);
     m_query = query;
@@ -108,8 +111,6 @@ RecordScreen::RecordScreen(
 
     m_export->setAutoDefault(false);
     connect(m_export, &QPushButton::clicked, this, &RecordScreen::chooseExportFile);
-    m_print->setEnabled(false);
-    m_print->setToolTip(texts::notAvailable());
     m_bar->addWidget(m_export);
     m_bar->addWidget(m_print);
 
@@ -134,8 +135,8 @@ void RecordScreen::buildFilters(const Filters &filters)
     if (filters.dates) {
         m_from = makeDateField(QDate(2000, 1, 1), this);
         m_to = makeDateField(QDate(9999, 12, 31), this);
-        addFilter(gsptexts::from, m_from);
-        addFilter(gsptexts::to, m_to);
+        addFilter(texts::dateFrom(), m_from);
+        addFilter(texts::dateTo(), m_to);
     }
     if (filters.warehouse)
         addFilter(gsptexts::warehouse, m_warehouse = makeWarehouseBox(m_workspace, true, this));
@@ -147,7 +148,7 @@ void RecordScreen::buildFilters(const Filters &filters)
     }
     if (filters.sex) {
         m_sex = new QComboBox(this);
-        m_sex->addItem(gsptexts::anySex, QString());
+        m_sex->addItem(texts::all(), QString());
         m_sex->addItem(QStringLiteral("男"), QStringLiteral("男"));
         m_sex->addItem(QStringLiteral("女"), QStringLiteral("女"));
         addFilter(gsptexts::sex, m_sex);
@@ -247,7 +248,7 @@ void RecordScreen::reload()
     if (!table)
         return;
     m_model->setTable(table.value());
-    m_count->setText(gsptexts::rowCount(m_model->recordCount()));
+    m_count->setText(texts::rowCount(m_model->recordCount()));
     // Widths fit the contents the first time, and again when the grid shows other columns (the
     // restricted ledger's summary); the first layout is the one kept per operator.
     if (m_model->table().headers != m_headers) {
@@ -268,9 +269,9 @@ void RecordScreen::reload()
 
 void RecordScreen::chooseExportFile()
 {
-    const QString path = QFileDialog::getSaveFileName(this, gsptexts::exportTitle,
+    const QString path = QFileDialog::getSaveFileName(this, texts::exportTitle(),
         QDir::home().filePath(m_model->table().title + QStringLiteral(".xlsx")),
-        gsptexts::xlsxFilter);
+        texts::xlsxFilter());
     if (!path.isEmpty())
         exportTo(path);
 }
@@ -278,7 +279,7 @@ void RecordScreen::chooseExportFile()
 void RecordScreen::exportTo(const QString &path)
 {
     const Outcome outcome = gsp::exportTable(m_model->table(), path);
-    m_workspace.session.ui().inform(outcome ? gsptexts::exported(path) : outcome.message());
+    m_workspace.session.ui().inform(outcome ? texts::exported(path) : outcome.message());
 }
 
 bool RecordScreen::eventFilter(QObject *watched, QEvent *event)

@@ -4,6 +4,7 @@
 #include "gsp/restricted.h"
 #include "gsp/texts.h"
 #include "ui/common/grid.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/tablemodel.h"
 #include "ui/gsp/texts.h"
@@ -72,7 +73,7 @@ TableDialog::TableDialog(Workspace &workspace, const gsp::RecordTable &table, QW
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_grid, 1);
-    layout->addWidget(new QLabel(gsptexts::rowCount(model->recordCount()), this));
+    layout->addWidget(new QLabel(texts::rowCount(model->recordCount()), this));
     layout->addWidget(buttons);
     resize(900, 360);
 }

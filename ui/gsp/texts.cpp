@@ -4,16 +4,6 @@
 
 namespace medistock::ui::gsptexts {
 
-QString rowCount(int rows)
-{
-    return QStringLiteral("记录数：%1").arg(rows);
-}
-
-QString exported(const QString &path)
-{
-    return QStringLiteral("已导出到：%1").arg(path);
-}
-
 QString documentTitle(const QString &kindText, const QString &number)
 {
     return QStringLiteral("单据明细：%1 %2").arg(kindText, number);

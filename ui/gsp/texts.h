@@ -7,25 +7,13 @@
 namespace medistock::ui::gsptexts {
 
 // Filters and the buttons every record screen has
-inline const QString from = QStringLiteral("日期从");
-inline const QString to = QStringLiteral("到");
 inline const QString warehouse = QStringLiteral("仓库");
-inline const QString allWarehouses = QStringLiteral("所有仓库");
 inline const QString keyword = QStringLiteral("关键字");
 inline const QString keywordHint = QStringLiteral("单号、往来单位编号、名称或简码");
 inline const QString goodsHint = QStringLiteral("商品编号、名称或简码");
 inline const QString staffHint = QStringLiteral("编号、姓名、简码、职务或籍贯");
 inline const QString days = QStringLiteral("天数");
 inline const QString sex = QStringLiteral("性别");
-inline const QString anySex = QStringLiteral("全部");
-inline const QString query = QStringLiteral("查询(F5)");
-inline const QString exportButton = QStringLiteral("导出(&X)");
-inline const QString print = QStringLiteral("打印(F8)");
-inline const QString exportTitle = QStringLiteral("导出到Excel表格");
-inline const QString xlsxFilter = QStringLiteral("Excel表格 (*.xlsx)");
-inline const QString totals = QStringLiteral("合计");
-QString rowCount(int rows); // "记录数：12"
-QString exported(const QString &path); // "已导出到：…"
 inline const QString chooseRowFirst = QStringLiteral("请先选择一行记录！");
 
 // Buttons of the screens that enter records
@@ -34,7 +22,6 @@ inline const QString edit = QStringLiteral("修改(F3)");
 inline const QString remove = QStringLiteral("删除(&D)");
 inline const QString removeLine = QStringLiteral("删除行");
 inline const QString save = QStringLiteral("保存(&S)");
-inline const QString cancel = QStringLiteral("取消");
 inline const QString copyToSalesmen = QStringLiteral("复制到业务员");
 inline const QString summary = QStringLiteral("汇总(&H)");
 inline const QString ledgerView = QStringLiteral("明细(&M)");
