@@ -257,9 +257,12 @@ void seedFilledRecords(shell::Session &s)
             h.coldHumidity = 48;
             h.coolTemperature = 17;
             h.coolHumidity = 52;
+            h.employee = QStringLiteral("100001");
             gsp::saveInspection(s, h);
         } else {
-            gsp::saveTracking(s, gsp::proposedTracking(s, QStringLiteral("100001")));
+            gsp::TrackingHeader h = gsp::proposedTracking(s, QStringLiteral("100001"));
+            h.employee = QStringLiteral("100001");
+            gsp::saveTracking(s, h);
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "tests/support/documentrows.h"
 #include "tests/ui/uitest.h"
 #include "ui/common/screenregistry.h"
+#include "ui/common/texts.h"
 #include "ui/gsp/batchpicker.h"
 #include "ui/gsp/filleddialog.h"
 #include "ui/gsp/otherscreens.h"
@@ -118,6 +119,7 @@ TEST_F(GspScreens, ATemperatureEntryIsTypedAndListed)
 {
     ui::TemperatureScreen screen(workspace());
     EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：0"));
+    EXPECT_FALSE(screen.printButton()->isVisibleTo(&screen)); // the log has no report template
     ui::TemperatureDialog dialog(workspace());
     dialog.timeField()->setTime(QTime(9, 30));
     test::typeInto(dialog.field(QStringLiteral("temperature")), QStringLiteral("31.5"));
@@ -166,6 +168,10 @@ TEST_F(GspScreens, AnEmployeeIsTypedIntoTheRegister)
 {
     ui::StaffScreen screen(workspace());
     EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：0"));
+    // The register has a report template: its print button waits, disabled, for printing.
+    EXPECT_TRUE(screen.printButton()->isVisibleTo(&screen));
+    EXPECT_FALSE(screen.printButton()->isEnabled());
+    EXPECT_EQ(screen.printButton()->toolTip(), ui::texts::printingNotBuilt());
     ui::EmployeeDialog dialog(workspace(), QString());
     test::typeInto(dialog.field(QStringLiteral("name")), QStringLiteral("陈建华"));
     test::typeInto(dialog.field(QStringLiteral("born")), QStringLiteral("1980-02-30"));

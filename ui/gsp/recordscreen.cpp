@@ -249,6 +249,8 @@ void RecordScreen::reload()
         return;
     m_model->setTable(table.value());
     m_count->setText(texts::rowCount(m_model->recordCount()));
+    // A record without a report template offers no printing.
+    m_print->setVisible(!m_model->table().printKey.isEmpty());
     // Widths fit the contents the first time, and again when the grid shows other columns (the
     // restricted ledger's summary); the first layout is the one kept per operator.
     if (m_model->table().headers != m_headers) {

@@ -27,8 +27,9 @@ class RecordTableModel;
 // The screen of one GSP record or query: the filters on top (a date range defaulting to
 // 2000-01-01 .. 9999-12-31, a warehouse, a keyword, and where the record has them the days or
 // the sex), Enter or F5 runs the query, the grid below with a totals row, "记录数：N" at the
-// bottom, export of the grid to .xlsx, and printing (offered once report printing is built).
-// A screen that enters records adds its buttons; double-click or Enter on a row activates it.
+// bottom, export of the grid to .xlsx, and "打印(F8)" where the record has a report template
+// (disabled until report printing is built). A screen that enters records adds its buttons;
+// double-click or Enter on a row activates it.
 class RecordScreen : public QWidget
 {
     Q_OBJECT
