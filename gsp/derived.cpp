@@ -25,7 +25,7 @@ AcceptanceRow acceptanceRowOf(const QSqlQuery &q)
     row.produced = c.text();
     row.expiry = c.text();
     row.goodsName = c.text();
-    row.spec = c.text();
+    row.packing = c.text();
     row.approval = c.text();
     row.dosage = c.text();
     row.supplierName = c.text();
@@ -63,7 +63,7 @@ PrescriptionRow prescriptionRowOf(const QSqlQuery &q)
     row.mobile = c.text();
     row.pharmacist = c.text();
     row.goodsName = c.text();
-    row.spec = c.text();
+    row.packing = c.text();
     row.dosage = c.text();
     row.imported = c.flag();
     row.registration = c.text();
@@ -87,7 +87,7 @@ SplittingRow splittingRowOf(const QSqlQuery &q, const QString &checker)
     row.date = c.text();
     row.goods = c.text();
     row.goodsName = c.text();
-    row.spec = c.text();
+    row.packing = c.text();
     row.unit = c.text();
     row.splitFactor = c.number();
     row.purchased = c.number();

@@ -28,7 +28,7 @@ struct AcceptanceRow
     QString number; // j_sn
     QString goods; // g_sn
     QString goodsName; // g_name
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString approval; // color_name "批准文号"
     QString dosage; // g_yjlx
     bool imported = false; // g_isjk
@@ -60,7 +60,7 @@ struct PrescriptionRow
     QString number; // gl_djh
     QString goods;
     QString goodsName;
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString dosage; // g_yjlx
     bool imported = false; // g_isjk
     QString registration; // g_zczh "注册证号"
@@ -100,7 +100,7 @@ struct SplittingRow
     QString date; // gl_kdrq
     QString goods;
     QString goodsName;
-    QString spec;
+    QString packing;
     QString unit;
     double splitFactor = 0; // g_clxs
     double purchased = 0; // jh_sl: gl_sl of a purchase row, else 0

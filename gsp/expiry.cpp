@@ -53,7 +53,7 @@ ExpiryRow expiryRowOf(const QSqlQuery &q)
     row.quantity = c.number();
     row.goodsName = c.text();
     row.unit = c.text();
-    row.spec = c.text();
+    row.packing = c.text();
     row.manufacturer = c.text();
     row.warehouseName = c.text();
     return row;

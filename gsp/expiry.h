@@ -24,7 +24,7 @@ struct ExpiryRow
     QString goods;
     QString goodsName;
     QString unit; // dw_name
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString manufacturer; // g_sccs
     QString warehouse; // ck_sn
     QString warehouseName;

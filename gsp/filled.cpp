@@ -35,7 +35,7 @@ FilledLine filledLineOf(const QSqlQuery &q)
     line.expiry = c.text();
     line.operatorName = c.text();
     line.goodsName = c.text();
-    line.spec = c.text();
+    line.packing = c.text();
     line.unit = c.text();
     line.manufacturer = c.text();
     return line;

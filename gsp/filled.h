@@ -38,7 +38,7 @@ struct FilledLine
     QString number;
     QString goods;
     QString goodsName;
-    QString spec;
+    QString packing;
     QString unit;
     QString manufacturer;
     double quantity = 0; // t_sl

@@ -30,7 +30,7 @@ PickableBatch pickableOf(const QSqlQuery &q)
     PickableBatch batch;
     batch.goods = c.text();
     batch.goodsName = c.text();
-    batch.spec = c.text();
+    batch.packing = c.text();
     batch.unit = c.text();
     batch.manufacturer = c.text();
     batch.category = c.text();
@@ -73,7 +73,7 @@ PickedLine pickedOf(const QSqlQuery &q)
     line.produced = c.text();
     line.expiry = c.text();
     line.goodsName = c.text();
-    line.spec = c.text();
+    line.packing = c.text();
     line.unit = c.text();
     return line;
 }

@@ -35,7 +35,7 @@ struct PickableBatch
 {
     QString goods;
     QString goodsName;
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString unit; // dw_name
     QString manufacturer; // g_sccs
     QString category; // gsp_name
@@ -68,7 +68,7 @@ struct PickedLine
     qint64 id = 0; // the work row
     QString goods;
     QString goodsName;
-    QString spec;
+    QString packing;
     QString unit;
     double quantity = 0;
     QString quality;

@@ -29,7 +29,7 @@ RestrictedRow restrictedRowOf(const QSqlQuery &q)
     row.date = c.text();
     row.goods = c.text();
     row.goodsName = c.text();
-    row.spec = c.text();
+    row.packing = c.text();
     row.unit = c.text();
     row.warehouseName = c.text();
     row.partyName = c.text();
@@ -157,7 +157,7 @@ RestrictedSummaryRow summaryRowOf(const QSqlQuery &q)
     row.ledgerAmount = c.number();
     row.goodsName = c.text();
     row.unit = c.text();
-    row.spec = c.text();
+    row.packing = c.text();
     return row;
 }
 
@@ -196,7 +196,7 @@ QList<PostedLine> postedLines(const shell::Session &session, const QString &numb
             const QString kind = c.text();
             line.goods = c.text();
             line.goodsName = c.text();
-            line.spec = c.text();
+            line.packing = c.text();
             line.unit = c.text();
             line.quantity = c.number();
             line.price = c.number();

@@ -35,7 +35,7 @@ struct RestrictedRow
     QString date; // gl_kdrq
     QString goods;
     QString goodsName;
-    QString spec;
+    QString packing;
     QString unit;
     QString warehouseName;
     QString partyName; // ghs_name
@@ -70,7 +70,7 @@ struct RestrictedSummaryRow
     QString goods;
     QString goodsName;
     QString unit;
-    QString spec;
+    QString packing;
     double opening = 0; // hz_kc
     double openingAmount = 0; // hz_kczje
     double inQuantity = 0; // hz_rksl
@@ -91,7 +91,7 @@ struct PostedLine
     QString kindText;
     QString goods;
     QString goodsName;
-    QString spec;
+    QString packing;
     QString unit;
     double quantity = 0; // gl_sl
     double price = 0; // gl_dj

@@ -97,9 +97,9 @@ RecordTable acceptanceTable(const QList<AcceptanceRow> &rows)
             QStringLiteral("仓库"), QStringLiteral("验收日期") });
     for (const AcceptanceRow &r : rows)
         addRow(t, r.id,
-            { r.date, r.supplierName, r.goodsName, r.spec, r.dosage, r.approval, r.batch, r.expiry,
-                r.quantity, r.result, r.packaging, r.certificate, r.handling, r.checker, r.number,
-                r.goods, yesOrEmpty(r.imported), r.unit, r.price, r.amount, r.produced,
+            { r.date, r.supplierName, r.goodsName, r.packing, r.dosage, r.approval, r.batch,
+                r.expiry, r.quantity, r.result, r.packaging, r.certificate, r.handling, r.checker,
+                r.number, r.goods, yesOrEmpty(r.imported), r.unit, r.price, r.amount, r.produced,
                 r.warehouseName, r.checkDate });
     return t;
 }
@@ -117,7 +117,7 @@ RecordTable prescriptionTable(const QList<PrescriptionRow> &rows)
     for (const PrescriptionRow &r : rows)
         addRow(t, r.id,
             { r.date, r.number, r.customerName, r.patient, r.idCard, r.address, r.mobile,
-                r.prescriptionNumber, r.instructions, r.goods, r.goodsName, r.spec, r.dosage,
+                r.prescriptionNumber, r.instructions, r.goods, r.goodsName, r.packing, r.dosage,
                 r.unit, r.quantity, r.batch, r.expiry, r.pharmacist, r.checker, r.checkDate });
     return t;
 }
@@ -134,9 +134,10 @@ RecordTable prescriptionSalesTable(const QList<PrescriptionRow> &rows)
             QStringLiteral("仓库"), QStringLiteral("审核人"), QStringLiteral("审核日期") });
     for (const PrescriptionRow &r : rows)
         addRow(t, r.id,
-            { r.date, r.number, r.customerName, r.goods, r.goodsName, r.spec, r.dosage, r.category,
-                r.registration, yesOrEmpty(r.imported), r.manufacturer, r.unit, r.quantity, r.price,
-                r.amount, r.batch, r.produced, r.expiry, r.warehouseName, r.checker, r.checkDate });
+            { r.date, r.number, r.customerName, r.goods, r.goodsName, r.packing, r.dosage,
+                r.category, r.registration, yesOrEmpty(r.imported), r.manufacturer, r.unit,
+                r.quantity, r.price, r.amount, r.batch, r.produced, r.expiry, r.warehouseName,
+                r.checker, r.checkDate });
     return t;
 }
 
@@ -152,7 +153,7 @@ RecordTable splittingTable(const QList<SplittingRow> &rows)
     for (const SplittingRow &r : rows)
         addRow(t, r.id,
             { r.date, r.number, texts::ledgerKindText(r.kind, r.purchased + r.sold), r.goodsName,
-                r.spec, r.unit, r.splitFactor, r.batch, r.expiry, r.purchased, r.sold,
+                r.packing, r.unit, r.splitFactor, r.batch, r.expiry, r.purchased, r.sold,
                 optional(r.batchStock), r.checker, r.price, r.partyName, r.warehouseName, r.goods,
                 r.produced });
     return t;
@@ -167,7 +168,7 @@ RecordTable expiryTable(const QList<ExpiryRow> &rows, int days)
             QStringLiteral("库存数量+") });
     for (const ExpiryRow &r : rows)
         addRow(t, r.id,
-            { r.goods, r.goodsName, r.spec, r.unit, r.manufacturer, r.warehouseName, r.batch,
+            { r.goods, r.goodsName, r.packing, r.unit, r.manufacturer, r.warehouseName, r.batch,
                 r.produced, r.expiry, r.quantity });
     return t;
 }
@@ -185,10 +186,10 @@ RecordTable restrictedTable(const QList<RestrictedRow> &rows)
             QStringLiteral("有效期至"), QStringLiteral("住址"), QStringLiteral("手机号码") });
     for (const RestrictedRow &r : rows)
         addRow(t, r.id,
-            { r.date, r.number, r.kindText, r.goods, r.goodsName, r.spec, r.unit, r.warehouseName,
-                r.partyName, r.inPrice, r.inQuantity, r.inAmount, r.outPrice, r.outQuantity,
-                r.outAmount, r.instructions, r.patient, r.idCard, r.prescriptionNumber, r.batch,
-                r.produced, r.expiry, r.address, r.mobile });
+            { r.date, r.number, r.kindText, r.goods, r.goodsName, r.packing, r.unit,
+                r.warehouseName, r.partyName, r.inPrice, r.inQuantity, r.inAmount, r.outPrice,
+                r.outQuantity, r.outAmount, r.instructions, r.patient, r.idCard,
+                r.prescriptionNumber, r.batch, r.produced, r.expiry, r.address, r.mobile });
     return t;
 }
 
@@ -202,7 +203,7 @@ RecordTable restrictedSummaryTable(const QList<RestrictedSummaryRow> &rows)
             QStringLiteral("库存金额+") });
     for (const RestrictedSummaryRow &r : rows)
         addRow(t, r.goods,
-            { r.goods, r.goodsName, r.spec, r.unit, r.opening, r.openingAmount, r.inQuantity,
+            { r.goods, r.goodsName, r.packing, r.unit, r.opening, r.openingAmount, r.inQuantity,
                 r.inAmount, r.outQuantity, r.outAmount, r.ledgerStock, r.ledgerAmount });
     return t;
 }
@@ -256,8 +257,8 @@ RecordTable filledLinesTable(FilledKind kind, const QList<FilledLine> &lines)
             QStringLiteral("数量+"), QStringLiteral("质量状况"), QStringLiteral("处理情况") });
     for (const FilledLine &l : lines)
         addRow(t, l.id,
-            { l.number, l.goods, l.goodsName, l.spec, l.unit, l.manufacturer, l.batch, l.produced,
-                l.expiry, l.quantity, l.quality, l.handling });
+            { l.number, l.goods, l.goodsName, l.packing, l.unit, l.manufacturer, l.batch,
+                l.produced, l.expiry, l.quantity, l.quality, l.handling });
     return t;
 }
 
@@ -349,8 +350,8 @@ RecordTable pickableTable(const QList<PickableBatch> &batches)
     for (qsizetype i = 0; i < batches.size(); ++i) {
         const PickableBatch &b = batches[i];
         addRow(t, qint64(i),
-            { b.goods, b.goodsName, b.spec, b.unit, b.manufacturer, b.category, b.batch, b.produced,
-                b.expiry, b.quantity, b.warehouseStock });
+            { b.goods, b.goodsName, b.packing, b.unit, b.manufacturer, b.category, b.batch,
+                b.produced, b.expiry, b.quantity, b.warehouseStock });
     }
     return t;
 }
@@ -364,7 +365,7 @@ RecordTable postedLinesTable(const QString &title, const QList<PostedLine> &line
             QStringLiteral("生产日期"), QStringLiteral("有效期至"), QStringLiteral("仓库") });
     for (const PostedLine &l : lines)
         addRow(t, l.id,
-            { l.kindText, l.goods, l.goodsName, l.spec, l.unit, l.quantity, l.price, l.amount,
+            { l.kindText, l.goods, l.goodsName, l.packing, l.unit, l.quantity, l.price, l.amount,
                 l.batch, l.produced, l.expiry, l.warehouseName });
     return t;
 }

@@ -32,7 +32,7 @@ TEST_F(AcceptanceRecord, ListsCheckedReceiptLinesWithTheConstantConclusions)
     EXPECT_EQ(row.number, number);
     EXPECT_EQ(row.goods, QStringLiteral("200001"));
     EXPECT_EQ(row.goodsName, QStringLiteral("阿莫西林胶囊"));
-    EXPECT_EQ(row.spec, QStringLiteral("0.25g*24粒"));
+    EXPECT_EQ(row.packing, QStringLiteral("0.25g*24粒"));
     EXPECT_EQ(row.approval, QStringLiteral("国药准字H13023964"));
     EXPECT_EQ(row.dosage, QStringLiteral("胶囊"));
     EXPECT_DOUBLE_EQ(row.quantity, 30);

@@ -145,7 +145,7 @@ void BatchPicker::refreshPicks()
     m_picked->setRowCount(int(m_lines.size()));
     for (int row = 0; row < m_lines.size(); ++row) {
         const gsp::PickedLine &l = m_lines[row];
-        const QStringList fixed { l.goods, l.goodsName, l.spec, l.unit, l.batch, l.expiry };
+        const QStringList fixed { l.goods, l.goodsName, l.packing, l.unit, l.batch, l.expiry };
         for (int column = 0; column < fixed.size(); ++column)
             m_picked->setItem(row, column, fixedItem(fixed[column]));
         m_picked->setItem(row, quantityColumn, new QTableWidgetItem(core::plainNumber(l.quantity)));
