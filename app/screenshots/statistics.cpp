@@ -168,9 +168,9 @@ void shootStatistics(const std::function<void(QWidget *, const QString &)> &shoo
     const QDate today = workspace.session.clock().today();
     // A clerk's laptop: every report must read well at 1366x768.
     window.resize(1366, 768);
-    const char *names[] = { "60-inward", "61-purchases", "62-buyers", "63-outward", "64-sales",
-        "65-salesmen", "66-movements", "67-stock-cost", "68-business", "69-ranking", "70-documents",
-        "71-batches", "72-jxc" };
+    const char *names[] = { "81-inward", "82-purchases", "83-buyers", "84-outward", "85-sales",
+        "86-salesmen", "87-movements", "88-stock-cost", "89-business", "90-ranking", "91-documents",
+        "92-batches", "93-jxc" };
     for (int position = 1; position <= 13; ++position) {
         window.openOperation(QStringLiteral("tjgl"), position);
         ui::stats::ReportScreen *screen = reportIn(window.tabs()->currentWidget());
@@ -184,14 +184,14 @@ void shootStatistics(const std::function<void(QWidget *, const QString &)> &shoo
             auto *tabs = qobject_cast<QTabWidget *>(window.tabs()->currentWidget());
             tabs->setCurrentIndex(1);
             runOverTheMonths(reportIn(tabs), today);
-            shoot(&window, QStringLiteral("67-stock-value"));
+            shoot(&window, QStringLiteral("88-stock-value"));
         }
         if (position == 11) {
             screen->grid()->selectRow(0);
             ui::stats::DocumentDialog *document = ui::stats::DocumentDialog::open(
                 workspace, screen->model()->table().keys.value(0), &window);
             if (document) {
-                shoot(document, QStringLiteral("70-document"));
+                shoot(document, QStringLiteral("91-document"));
                 document->close();
             }
         }
@@ -200,6 +200,6 @@ void shootStatistics(const std::function<void(QWidget *, const QString &)> &shoo
     jxc->grid()->selectRow(0);
     ui::stats::MovementDialog *movements = jxc->openMovements();
     waitFor(movements->screen());
-    shoot(movements, QStringLiteral("73-jxc-movements"));
+    shoot(movements, QStringLiteral("94-jxc-movements"));
     movements->close();
 }

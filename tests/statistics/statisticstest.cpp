@@ -156,7 +156,7 @@ QString StatisticsTest::transfer(const QString &date, const QList<Line> &lines, 
 
 QStringList StatisticsTest::rows(const QString &sql, const QVariantList &params)
 {
-    return selectTexts(db(), sql, params);
+    return queryRows(db(), sql, params);
 }
 
 void StatisticsTest::januaryBooks()
