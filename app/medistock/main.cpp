@@ -11,6 +11,7 @@
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -44,6 +45,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
 }

@@ -20,6 +20,7 @@
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -253,6 +254,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::MainWindow window(workspace, registry);

@@ -1,0 +1,256 @@
+// The sale keyed as a clerk keys it (customer, goods by mnemonic and barcode, a batch picked
+// over the one proposed), and what the database holds afterwards compared with the same sale
+// saved and checked on the command line; the rights that shape the sale screen.
+#include "masterdata/kinds.h"
+#include "masterdata/masterrows.h"
+#include "purchasing/entry.h"
+#include "purchasing/receipt.h"
+#include "tests/support/businessrows.h"
+#include "tests/support/cli.h"
+#include "tests/support/documentrows.h"
+#include "tests/ui/keyboard.h"
+#include "tests/ui/uitest.h"
+#include "ui/common/codenamefield.h"
+#include "ui/common/picker.h"
+#include "ui/documents/documentscreen.h"
+#include "ui/documents/linegrid.h"
+#include "ui/sales/salekinds.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+
+using namespace medistock;
+using medistock::test::Keyboard;
+
+class SaleScreenTest : public test::UiTest
+{
+protected:
+    void SetUp() override
+    {
+        UiTest::SetUp();
+        if (HasFatalFailure())
+            return;
+        // 10000001 阿莫西林胶囊 (AMXLJN), 10000002 板蓝根颗粒 and 10000003 感冒灵颗粒 with
+        // barcodes; level 1 prices below the standard ones. 华康药店 (HKYD, 100002) buys at
+        // level 1.
+        test::addBoxedGoods(session(),
+            { QStringLiteral("阿莫西林胶囊"), QStringLiteral("板蓝根颗粒"),
+                QStringLiteral("感冒灵颗粒") });
+        const std::tuple<const char *, double, double, const char *> prices[]
+            = { { "10000001", 12, 11.5, "" }, { "10000002", 8, 7.6, "6901234500021" },
+                  { "10000003", 15, 14, "6901234500038" } };
+        for (const auto &[goods, standard, level1, barcode] : prices)
+            db().exec(QStringLiteral("update jxc_goods set g_sj=?,g_sj1=?,g_sptm=? where g_sn=?"),
+                { standard, level1, QString::fromLatin1(barcode), QString::fromLatin1(goods) });
+        masterdata::addMasterRow(session(), *masterdata::findMasterKind(QStringLiteral("customer")),
+            { { QStringLiteral("kh_name"), QStringLiteral("华康药店") } });
+        db().exec(QStringLiteral("update jxc_khxx set kt_sn='1001' where kh_name=?"),
+            { QStringLiteral("华康药店") });
+        setParameter(QStringLiteral("cs_cs013"), 1);
+        receiveStock();
+        ui.clear();
+    }
+
+    // Bought in at 5: 阿莫西林胶囊 in A1 (expiring first) and A2, the others in one batch each.
+    void receiveStock()
+    {
+        masterdata::addMasterRow(session(), *masterdata::findMasterKind(QStringLiteral("supplier")),
+            { { QStringLiteral("ghs_name"), QStringLiteral("华东医药") } });
+        purchasing::PurchaseDraft draft;
+        draft.entry.date = QStringLiteral("2025-03-01");
+        draft.entry.party = QStringLiteral("100002");
+        draft.entry.warehouse = QStringLiteral("100001");
+        for (const auto &[goods, batch, expiry] :
+            { std::tuple { "10000001", "A1", "2025-10-31" }, { "10000001", "A2", "2026-12-31" },
+                { "10000002", "B1", "2026-06-30" }, { "10000003", "G1", "2026-03-31" } }) {
+            documents::LineDraft line;
+            line.goods = QString::fromLatin1(goods);
+            line.quantity = QStringLiteral("20");
+            line.price = QStringLiteral("5");
+            line.batch = QString::fromLatin1(batch);
+            line.expiry = QString::fromLatin1(expiry);
+            draft.entry.lines.append(line);
+        }
+        const QString receipt = purchasing::savePurchaseReceipt(session(), draft).value();
+        ASSERT_TRUE(purchasing::checkPurchaseReceipt(session(), receipt).ok());
+    }
+
+    std::unique_ptr<ui::DocumentScreen> openSale()
+    {
+        auto screen = std::make_unique<ui::DocumentScreen>(
+            workspace(), std::make_unique<ui::SaleScreenKind>(workspace().session));
+        screen->resize(1366, 700);
+        screen->show();
+        screen->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(screen.get()));
+        screen->setFocus();
+        Keyboard::settle();
+        return screen;
+    }
+
+    // A line by its goods text, the batch proposed kept, the quantity typed, the price kept.
+    void keyLine(const QString &goods, const QString &quantity)
+    {
+        keys.type(goods);
+        keys.press(Qt::Key_Return);
+        keys.press(Qt::Key_Return);
+        keys.type(quantity);
+        keys.press(Qt::Key_Return);
+        keys.press(Qt::Key_Return);
+    }
+
+    QString cell(const ui::DocumentScreen &screen, int row, ui::LineField field)
+    {
+        return screen.lines()->index(row, screen.lines()->columnOf(field)).data().toString();
+    }
+
+    double batchStock(const QString &goods, const QString &batch)
+    {
+        return db()
+            .firstValue(
+                QStringLiteral("select t_sl from jxc_tkc where g_sn=? and t_ph=? and ck_sn=?"),
+                { goods, batch, QStringLiteral("100001") })
+            .toDouble();
+    }
+
+    Keyboard keys;
+};
+
+// The clerk keys a three-line sale to a level-1 customer: a mnemonic whose line shows the
+// level-1 price and the batch expiring first, overridden from the batch picker (F4), then two
+// barcodes. F3 asks the prepayment question (nothing was paid, nothing is prepaid) and the save
+// text, F5 the prepayment question again. The file then holds exactly what the command line
+// writes for the same sale typed without prices.
+TEST_F(SaleScreenTest, AKeyedSaleWritesWhatTheCommandLineWrites)
+{
+    const QString cliFolder = QDir(folder()).filePath(QStringLiteral("cli"));
+    ASSERT_TRUE(QDir().mkpath(cliFolder));
+    db().execDirect(
+        QStringLiteral("vacuum into '%1'").arg(QDir(cliFolder).filePath(QStringLiteral("jxc.db"))));
+
+    auto screen = openSale();
+    keys.setWindow(screen.get());
+    EXPECT_EQ(QApplication::focusWidget(), screen->partyField());
+    keys.type(QStringLiteral("hkyd"));
+    keys.press(Qt::Key_Return);
+    EXPECT_EQ(screen->partyCode(), QStringLiteral("100002"));
+
+    keys.type(QStringLiteral("amx"));
+    keys.press(Qt::Key_Return);
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Price), QStringLiteral("11.50"));
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Batch), QStringLiteral("A1"));
+    keys.onDialog<ui::PickerDialog>([this](ui::PickerDialog &picker) {
+        EXPECT_EQ(picker.rowCount(), 2);
+        EXPECT_EQ(picker.grid()->currentRow(), 0);
+        keys.press(Qt::Key_Down);
+        keys.press(Qt::Key_Return);
+    });
+    keys.press(Qt::Key_F4);
+    EXPECT_FALSE(keys.waiting());
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Batch), QStringLiteral("A2"));
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Expiry), QStringLiteral("2026-12-31"));
+    keys.type(QStringLiteral("10"));
+    keys.press(Qt::Key_Return);
+    keys.press(Qt::Key_Return);
+    keyLine(QStringLiteral("6901234500021"), QStringLiteral("5"));
+    keyLine(QStringLiteral("6901234500038"), QStringLiteral("2"));
+    ASSERT_EQ(screen->lines()->rowCount(), 4);
+    EXPECT_EQ(cell(*screen, 1, ui::LineField::Price), QStringLiteral("7.60"));
+    EXPECT_EQ(cell(*screen, 1, ui::LineField::Batch), QStringLiteral("B1"));
+    EXPECT_EQ(cell(*screen, 2, ui::LineField::Amount), QStringLiteral("28.00"));
+    // 115 + 38 + 28
+    EXPECT_EQ(screen->capitalsLabel()->text(), QStringLiteral("大写：壹佰捌拾壹元整"));
+
+    ui.setDefaultAnswer(true);
+    keys.press(Qt::Key_F3);
+    const QString number = screen->number();
+    EXPECT_EQ(number, QStringLiteral("XS25031410001"));
+    const QString prepayment = QStringLiteral(
+        "该客户当前的预付款余额为：0，\r\n\r\n不足以支付本单的金额。\r\n\r\n继续保存吗？");
+    EXPECT_EQ(ui.asked,
+        (QStringList { prepayment,
+            QStringLiteral("单据保存后处于“未审核”状态，是否确认保存？\r\n\r\n处于“未审核”状态的"
+                           "销售单，可以在“待审核销\r\n\r\n售单”面板中，进行修改及审核操作！") }));
+    ui.clear();
+    keys.press(Qt::Key_F5);
+    EXPECT_EQ(ui.asked, QStringList { prepayment });
+    // 5 for the customer; 4 for the mnemonic, F4, Down and Enter in the batch picker, 4 for the
+    // quantity and the price kept; 18 for each barcode line (13 digits and Enter, Enter keeping
+    // the batch, a digit and Enter, Enter keeping the price); F3 and F5.
+    EXPECT_EQ(keys.count(), 54);
+    EXPECT_TRUE(ui.informed.isEmpty()) << ui.informed.join(QLatin1Char('|')).toStdString();
+    EXPECT_TRUE(screen->isChecked());
+    EXPECT_EQ(screen->statusLabel()->text(),
+        QStringLiteral("状态：已审核　审核人：admin　审核日期：2025-03-14"));
+    EXPECT_EQ(batchStock(QStringLiteral("10000001"), QStringLiteral("A1")), 20);
+    EXPECT_EQ(batchStock(QStringLiteral("10000001"), QStringLiteral("A2")), 10);
+
+    QFile json(QDir(folder()).filePath(QStringLiteral("sale.json")));
+    ASSERT_TRUE(json.open(QIODevice::WriteOnly));
+    json.write(R"({"kind":"XS","ls_xsrq":"2025-03-14","kh_sn":"100002","ck_sn":"100001","lines":[
+        {"g_sn":"10000001","ls_sl":10,"t_ph":"A2","t_yxq":"2026-12-31"},
+        {"g_sn":"10000002","ls_sl":5,"t_ph":"B1","t_yxq":"2026-06-30"},
+        {"g_sn":"10000003","ls_sl":2,"t_ph":"G1","t_yxq":"2026-03-31"}]})");
+    json.close();
+    const QStringList global { QStringLiteral("--data"), cliFolder, QStringLiteral("--today"),
+        QStringLiteral("2025-03-14"), QStringLiteral("--yes") };
+    const test::CliRun saved
+        = test::runCli(global + QStringList { QStringLiteral("save"), json.fileName() });
+    ASSERT_EQ(saved.status, 0) << saved.err.toStdString();
+    EXPECT_EQ(saved.out.trimmed(), number);
+    const test::CliRun checked
+        = test::runCli(global + QStringList { QStringLiteral("check"), number });
+    ASSERT_EQ(checked.status, 0) << checked.err.toStdString();
+
+    auto cli = core::Connection::openSqlite(QDir(cliFolder).filePath(QStringLiteral("jxc.db")));
+    EXPECT_EQ(
+        test::rowDifferences(test::businessRows(*cli), test::businessRows(db())), QStringList());
+    EXPECT_EQ(db().firstText(
+                  QStringLiteral("select count(*) from jxc_goodslist where gl_djh=?"), { number }),
+        QStringLiteral("3"));
+}
+
+// Without "显示商品销售价" the price, amount and total columns are not there at all; without
+// "商品销售审核", "商品销售取消审核" and "允许删除商品销售待审核单据" their buttons are disabled
+// with the reason, and the check key does nothing.
+TEST_F(SaleScreenTest, RightsShapeTheSaleScreen)
+{
+    addOperatorWithRights(QStringLiteral("小李"),
+        { { QStringLiteral("xsgl"), QStringLiteral("100000") },
+            { QStringLiteral("qtcz"), QStringLiteral("11111111") } });
+    switchOperator(QStringLiteral("小李"));
+    auto screen = openSale();
+    keys.setWindow(screen.get());
+    for (ui::LineField hidden :
+        { ui::LineField::Price, ui::LineField::Amount, ui::LineField::Total })
+        EXPECT_EQ(screen->lines()->columnOf(hidden), -1);
+    EXPECT_GE(screen->lines()->columnOf(ui::LineField::Quantity), 0);
+    EXPECT_FALSE(screen->checkButton()->isEnabled());
+    EXPECT_EQ(screen->checkButton()->toolTip(), QStringLiteral("您没有“商品销售审核”的权限！"));
+
+    keys.type(QStringLiteral("hkyd"));
+    keys.press(Qt::Key_Return);
+    keyLine(QStringLiteral("6901234500021"), QStringLiteral("5"));
+    ui.setDefaultAnswer(true);
+    keys.press(Qt::Key_F3);
+    ASSERT_EQ(screen->number(), QStringLiteral("XS25031410001"));
+    // The price the screen could not show was still proposed and saved.
+    EXPECT_EQ(db().firstText(QStringLiteral("select ls_dj from jxc_lsxssp where gl_djh=?"),
+                  { screen->number() }),
+        QStringLiteral("7.6"));
+    EXPECT_FALSE(screen->deleteButton()->isEnabled());
+    EXPECT_EQ(screen->deleteButton()->toolTip(),
+        QStringLiteral("您没有“允许删除商品销售待审核单据”的权限！"));
+    ui.clear();
+    keys.press(Qt::Key_F5);
+    EXPECT_TRUE(ui.asked.isEmpty());
+    EXPECT_FALSE(screen->isChecked());
+    EXPECT_EQ(db().firstText(QStringLiteral("select ls_status from jxc_lsxsd where gl_djh=?"),
+                  { screen->number() }),
+        QStringLiteral("0"));
+}

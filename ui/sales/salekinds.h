@@ -1,0 +1,73 @@
+#pragma once
+
+#include "sales/entry.h"
+#include "ui/documents/screenkind.h"
+
+class QComboBox;
+class QLineEdit;
+
+namespace medistock::ui {
+
+// What the sale and the customer return add to the shared document screen: the settlement mode,
+// account and amount received (refunded) in the header, since a sale is usually paid at the
+// counter as it is keyed; the customer's price proposed for every goods picked; their
+// operations. The questions (negative stock, expired batches, prepayment, the save texts) are
+// the operations' own. A change of a stored document keeps what its header holds besides the
+// fields shown.
+class SalesScreenKind : public DocumentScreenKind
+{
+public:
+    SalesScreenKind(const shell::Session &session, const documents::DocumentKind &kind);
+
+    const documents::DocumentKind &entry() const override { return m_entry; }
+    // Price and amount columns are there only with "显示商品销售价".
+    QList<LineField> lineFields() const override;
+    QList<std::pair<QString, QWidget *>> createHeaderFields(QWidget *parent) override;
+    void loadHeader(const QSqlRecord &header) override;
+    void clearHeader() override;
+    void setHeaderReadOnly(bool readOnly) override;
+    double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
+        const QString &unit, const QString &party) const override;
+
+    QComboBox *modeBox() const { return m_mode; }
+    QComboBox *accountBox() const { return m_account; }
+    QLineEdit *paidField() const { return m_paid; }
+
+protected:
+    // The header from the fields; refused (and told) when an amount is no number.
+    Result<sales::SaleHeader> header(const shell::Session &session) const;
+    // A return has no freight, packing or freight terms, and stores its amounts negated.
+    bool isReturn() const;
+
+    const shell::Session &m_session;
+    const documents::DocumentKind &m_entry;
+    sales::SaleHeader m_saved;
+    QComboBox *m_mode = nullptr;
+    QComboBox *m_account = nullptr;
+    QLineEdit *m_paid = nullptr;
+    QLineEdit *m_invoiceNumber = nullptr;
+    QLineEdit *m_invoiceAmount = nullptr;
+    QLineEdit *m_freight = nullptr;
+    QLineEdit *m_packing = nullptr;
+    QComboBox *m_freightTerms = nullptr;
+};
+
+// "商品销售": lines leave from the batches proposed first-expiry-first or picked (F4); "xsgl" 1
+// save, 7 check, 11 uncheck, 18 goods added to a saved unchecked sale, 19 delete.
+class SaleScreenKind : public SalesScreenKind
+{
+public:
+    explicit SaleScreenKind(const shell::Session &session);
+    int checkRight() const override;
+    int uncheckRight() const override;
+    int addToSavedRight() const override { return 18; }
+    bool outgoing() const override { return true; }
+    QString dueLabel() const override;
+    QString printKey() const override { return QStringLiteral("spxs"); }
+    Result<QString> save(shell::Session &session, const documents::DocumentDraft &draft) override;
+    Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
+    Outcome uncheck(shell::Session &session, const QString &number) override;
+    Outcome remove(shell::Session &session, const QString &number) override;
+};
+
+} // namespace medistock::ui
