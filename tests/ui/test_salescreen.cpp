@@ -5,6 +5,8 @@
 #include "masterdata/masterrows.h"
 #include "purchasing/entry.h"
 #include "purchasing/receipt.h"
+#include "sales/entry.h"
+#include "sales/salecheck.h"
 #include "tests/support/businessrows.h"
 #include "tests/support/cli.h"
 #include "tests/support/documentrows.h"
@@ -14,6 +16,7 @@
 #include "ui/common/picker.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
+#include "ui/documents/sourcelinesdialog.h"
 #include "ui/sales/salekinds.h"
 
 #include <QDir>
@@ -102,6 +105,44 @@ protected:
         keys.type(quantity);
         keys.press(Qt::Key_Return);
         keys.press(Qt::Key_Return);
+    }
+
+    std::unique_ptr<ui::DocumentScreen> openReturn()
+    {
+        auto screen = std::make_unique<ui::DocumentScreen>(
+            workspace(), std::make_unique<ui::SalesReturnScreenKind>(workspace().session));
+        screen->resize(1366, 700);
+        screen->show();
+        screen->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(screen.get()));
+        screen->setFocus();
+        Keyboard::settle();
+        return screen;
+    }
+
+    // A checked sale to 华康药店 of 10 阿莫西林胶囊 from A2 and 5 板蓝根颗粒, paid in full.
+    QString checkedSale()
+    {
+        sales::SaleDraft draft;
+        draft.entry.date = QStringLiteral("2025-03-14");
+        draft.entry.party = QStringLiteral("100002");
+        draft.entry.warehouse = QStringLiteral("100001");
+        for (const auto &[goods, quantity, batch, expiry] :
+            { std::tuple { "10000001", "10", "A2", "2026-12-31" },
+                { "10000002", "5", "B1", "2026-06-30" } }) {
+            documents::LineDraft line;
+            line.goods = QString::fromLatin1(goods);
+            line.quantity = QString::fromLatin1(quantity);
+            line.batch = QString::fromLatin1(batch);
+            line.expiry = QString::fromLatin1(expiry);
+            draft.entry.lines.append(line);
+        }
+        draft.header.paid = 153;
+        ui.setDefaultAnswer(true);
+        const QString number = sales::saveSale(session(), draft).value();
+        EXPECT_TRUE(sales::checkSale(session(), number).ok());
+        ui.clear();
+        return number;
     }
 
     QString cell(const ui::DocumentScreen &screen, int row, ui::LineField field)
@@ -253,4 +294,70 @@ TEST_F(SaleScreenTest, RightsShapeTheSaleScreen)
     EXPECT_EQ(db().firstText(QStringLiteral("select ls_status from jxc_lsxsd where gl_djh=?"),
                   { screen->number() }),
         QStringLiteral("0"));
+}
+
+// A return taken from the checked sale's lines (F10, Enter, Space, Enter) is limited to what was
+// sold: 11 of the 10 sold is refused with the limit and the grid keeps the 11; 4 goes through,
+// comes back into the batch sold, and leaves 6 to return on the next return taken from the sale.
+TEST_F(SaleScreenTest, AReturnFromASaleIsLimitedToWhatWasSold)
+{
+    const QString sale = checkedSale();
+    ASSERT_EQ(batchStock(QStringLiteral("10000001"), QStringLiteral("A2")), 10);
+    auto back = openReturn();
+    keys.setWindow(back.get());
+    keys.type(QStringLiteral("hkyd"));
+    keys.press(Qt::Key_Return);
+    const auto takeFirstLine = [this, sale](const QString &left) {
+        keys.onDialog<ui::SourceLinesDialog>([this, sale, left](ui::SourceLinesDialog &dialog) {
+            EXPECT_EQ(dialog.sourceGrid()->item(0, 0)->text(), sale);
+            keys.press(Qt::Key_Return);
+            EXPECT_EQ(dialog.lineGrid()->item(0, 9)->text(), left);
+            keys.press(Qt::Key_Space);
+            keys.press(Qt::Key_Return);
+        });
+        keys.press(Qt::Key_F10);
+        EXPECT_FALSE(keys.waiting());
+    };
+    takeFirstLine(QStringLiteral("10"));
+    ASSERT_EQ(back->lines()->rowCount(), 2);
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Quantity), QStringLiteral("10"));
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Batch), QStringLiteral("A2"));
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Price), QStringLiteral("11.50"));
+
+    back->grid()->editCell(0, ui::LineField::Quantity);
+    keys.type(QStringLiteral("11"));
+    keys.press(Qt::Key_Return);
+    ui.setDefaultAnswer(true);
+    keys.press(Qt::Key_F3);
+    EXPECT_EQ(ui.informed,
+        QStringList { QStringLiteral("第1行：退货数量超过销售单“%1”的可退数量 10！").arg(sale) });
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Quantity), QStringLiteral("11"));
+    EXPECT_EQ(back->number(), QString());
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_xsthd")), 0);
+
+    ui.clear();
+    back->grid()->editCell(0, ui::LineField::Quantity);
+    keys.type(QStringLiteral("4"));
+    keys.press(Qt::Key_Return);
+    keys.press(Qt::Key_F3);
+    EXPECT_EQ(back->number(), QStringLiteral("XT25031410001"));
+    EXPECT_EQ(ui.asked,
+        QStringList {
+            QStringLiteral("单据保存后处于“未审核”状态，是否确认保存？\r\n\r\n处于“未审核”"
+                           "状态的退货单，可以在“待审核\r\n\r\n退货单”面板中，进行修改及"
+                           "审核操作！") });
+    keys.press(Qt::Key_F5);
+    EXPECT_TRUE(back->isChecked());
+    EXPECT_TRUE(ui.informed.isEmpty()) << ui.informed.join(QLatin1Char('|')).toStdString();
+    EXPECT_EQ(batchStock(QStringLiteral("10000001"), QStringLiteral("A2")), 14);
+    // 4 at 11.50, stored negated.
+    EXPECT_EQ(db().firstText(QStringLiteral("select th_yfje from jxc_xsthd where gl_djh=?"),
+                  { back->number() }),
+        QStringLiteral("-46"));
+
+    keys.press(Qt::Key_F2);
+    keys.type(QStringLiteral("hkyd"));
+    keys.press(Qt::Key_Return);
+    takeFirstLine(QStringLiteral("6"));
+    EXPECT_EQ(cell(*back, 0, ui::LineField::Quantity), QStringLiteral("6"));
 }

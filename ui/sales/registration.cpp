@@ -14,6 +14,10 @@ void registerSalesScreens(ScreenRegistry &registry)
     registry.addTab(area, sltexts::sale, [](Workspace &workspace) {
         return new DocumentScreen(workspace, std::make_unique<SaleScreenKind>(workspace.session));
     });
+    registry.addTab(area, sltexts::salesReturn, [](Workspace &workspace) {
+        return new DocumentScreen(
+            workspace, std::make_unique<SalesReturnScreenKind>(workspace.session));
+    });
 }
 
 } // namespace medistock::ui

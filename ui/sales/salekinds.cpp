@@ -10,13 +10,17 @@
 #include "sales/kinds.h"
 #include "sales/prices.h"
 #include "sales/salecheck.h"
+#include "sales/salesreturn.h"
 #include "shell/rights.h"
 #include "shell/session.h"
 #include "ui/common/reading.h"
+#include "ui/documents/documentscreen.h"
+#include "ui/documents/sourcelinesdialog.h"
 #include "ui/sales/texts.h"
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSqlRecord>
 
 namespace medistock::ui {
@@ -218,6 +222,72 @@ Outcome SaleScreenKind::uncheck(shell::Session &session, const QString &number)
 Outcome SaleScreenKind::remove(shell::Session &session, const QString &number)
 {
     return sales::deleteSale(session, number);
+}
+
+SalesReturnScreenKind::SalesReturnScreenKind(const shell::Session &session)
+    : SalesScreenKind(session, sales::salesReturnKind())
+{ }
+
+int SalesReturnScreenKind::checkRight() const
+{
+    return sales::rights::checkReturn;
+}
+
+int SalesReturnScreenKind::uncheckRight() const
+{
+    return sales::rights::uncheckReturn;
+}
+
+QString SalesReturnScreenKind::dueLabel() const
+{
+    return sltexts::refundDue;
+}
+
+void SalesReturnScreenKind::loadLine(
+    const documents::DocumentLineRow &stored, LineEntry &line) const
+{
+    loadSourceLink(stored, line);
+}
+
+Result<QString> SalesReturnScreenKind::save(
+    shell::Session &session, const documents::DocumentDraft &draft)
+{
+    const Result<sales::SaleHeader> h = header(session);
+    if (!h)
+        return h.outcome();
+    return sales::saveSalesReturn(session, { draft, h.value() });
+}
+
+Outcome SalesReturnScreenKind::check(shell::Session &session, const QString &number, QWidget *)
+{
+    return sales::checkSalesReturn(session, number);
+}
+
+Outcome SalesReturnScreenKind::uncheck(shell::Session &session, const QString &number)
+{
+    return sales::uncheckSalesReturn(session, number);
+}
+
+Outcome SalesReturnScreenKind::remove(shell::Session &session, const QString &number)
+{
+    return sales::deleteSalesReturn(session, number);
+}
+
+ReturnSource saleSource()
+{
+    return { &sales::saleKind(), &sales::returnableSaleLines, sltexts::saleLinesTitle,
+        sltexts::sales, sltexts::sold };
+}
+
+void SalesReturnScreenKind::addActions(DocumentScreen &screen)
+{
+    auto *button = new QPushButton(sltexts::fromSale, &screen);
+    QObject::connect(button, &QPushButton::clicked, &screen, [&screen] {
+        SourceLinesDialog dialog(screen, saleSource());
+        if (dialog.exec() == QDialog::Accepted)
+            dialog.takeInto(screen);
+    });
+    screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
 }
 
 } // namespace medistock::ui

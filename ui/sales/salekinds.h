@@ -8,6 +8,8 @@ class QLineEdit;
 
 namespace medistock::ui {
 
+struct ReturnSource;
+
 // What the sale and the customer return add to the shared document screen: the settlement mode,
 // account and amount received (refunded) in the header, since a sale is usually paid at the
 // counter as it is keyed; the customer's price proposed for every goods picked; their
@@ -69,5 +71,29 @@ public:
     Outcome uncheck(shell::Session &session, const QString &number) override;
     Outcome remove(shell::Session &session, const QString &number) override;
 };
+
+// "顾客退货": goods come back into the warehouse, typed freely or taken from a checked sale's
+// lines (F10), which limits them to what the sales line still holds; "xsgl" 2 save and delete,
+// 8 check, 12 uncheck.
+class SalesReturnScreenKind : public SalesScreenKind
+{
+public:
+    explicit SalesReturnScreenKind(const shell::Session &session);
+    int checkRight() const override;
+    int uncheckRight() const override;
+    // Goods come in: a free line types its batch; a line taken from a sale brings the sold one.
+    bool outgoing() const override { return false; }
+    QString dueLabel() const override;
+    QString printKey() const override { return QStringLiteral("xsth"); }
+    void loadLine(const documents::DocumentLineRow &stored, LineEntry &line) const override;
+    Result<QString> save(shell::Session &session, const documents::DocumentDraft &draft) override;
+    Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
+    Outcome uncheck(shell::Session &session, const QString &number) override;
+    Outcome remove(shell::Session &session, const QString &number) override;
+    void addActions(DocumentScreen &screen) override;
+};
+
+// A customer return's lines taken from a checked sale.
+ReturnSource saleSource();
 
 } // namespace medistock::ui

@@ -20,6 +20,12 @@ inline const QString freightTerms = QStringLiteral("付费方式");
 inline const QString receivable = QStringLiteral("应收金额");
 inline const QString refundDue = QStringLiteral("应退金额");
 
+// A return taken from a sale's lines
+inline const QString fromSale = QStringLiteral("从销售单退货(F10)");
+inline const QString saleLinesTitle = QStringLiteral("选择销售单及退货商品");
+inline const QString sales = QStringLiteral("已审核的销售单");
+inline const QString sold = QStringLiteral("销售数量");
+
 // The menu entries
 inline const QString sale = QStringLiteral("商品销售");
 inline const QString salesReturn = QStringLiteral("顾客退货");
