@@ -6,6 +6,7 @@
 #include "purchasing/entry.h"
 #include "purchasing/receipt.h"
 #include "sales/entry.h"
+#include "sales/orders.h"
 #include "sales/salecheck.h"
 #include "tests/support/businessrows.h"
 #include "tests/support/cli.h"
@@ -17,6 +18,7 @@
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/documents/sourcelinesdialog.h"
+#include "ui/sales/orderlinesdialog.h"
 #include "ui/sales/salekinds.h"
 
 #include <QDir>
@@ -360,4 +362,64 @@ TEST_F(SaleScreenTest, AReturnFromASaleIsLimitedToWhatWasSold)
     keys.press(Qt::Key_Return);
     takeFirstLine(QStringLiteral("6"));
     EXPECT_EQ(cell(*back, 0, ui::LineField::Quantity), QStringLiteral("6"));
+}
+
+// An order of 10 of which a checked sale delivered 4 is offered on "导入销售订单" (F10) with 6;
+// taken over, the sale gets 6 at the order's price with the customer of the order, and its check
+// delivers the rest of the order line.
+TEST_F(SaleScreenTest, AnOrderPartlyDeliveredOffersWhatIsLeft)
+{
+    ui.setDefaultAnswer(true);
+    sales::SaleDraft order;
+    order.entry.date = QStringLiteral("2025-03-10");
+    order.entry.party = QStringLiteral("100002");
+    order.entry.warehouse = QStringLiteral("100001");
+    documents::LineDraft line;
+    line.goods = QStringLiteral("10000001");
+    line.quantity = QStringLiteral("10");
+    line.price = QStringLiteral("11");
+    order.entry.lines = { line };
+    const QString number = sales::saveSalesOrder(session(), order).value();
+    ASSERT_TRUE(sales::checkSalesOrder(session(), number).ok());
+    sales::SaleDraft first;
+    first.entry.date = QStringLiteral("2025-03-14");
+    ASSERT_TRUE(sales::takeOverOrder(session(), number, first).ok());
+    first.entry.lines[0].quantity = QStringLiteral("4");
+    first.entry.lines[0].batch = QStringLiteral("A1");
+    first.entry.lines[0].expiry = QStringLiteral("2025-10-31");
+    const QString sale = sales::saveSale(session(), first).value();
+    ASSERT_TRUE(sales::checkSale(session(), sale).ok());
+    const auto delivered = [&] {
+        return db().firstText(
+            QStringLiteral("select ls_cksl from jxc_xssp where gl_djh=?"), { number });
+    };
+    ASSERT_EQ(delivered(), QStringLiteral("4"));
+    ui.clear();
+
+    auto screen = openSale();
+    keys.setWindow(screen.get());
+    keys.onDialog<ui::OrderLinesDialog>([this, number](ui::OrderLinesDialog &dialog) {
+        ASSERT_EQ(dialog.lineGrid()->rowCount(), 1);
+        EXPECT_EQ(dialog.lineGrid()->item(0, 1)->text(), number);
+        EXPECT_EQ(dialog.lineGrid()->item(0, 9)->text(), QStringLiteral("6"));
+        keys.press(Qt::Key_Space);
+        keys.press(Qt::Key_Return);
+    });
+    keys.press(Qt::Key_F10);
+    EXPECT_FALSE(keys.waiting());
+    EXPECT_EQ(screen->partyCode(), QStringLiteral("100002"));
+    ASSERT_EQ(screen->lines()->rowCount(), 2);
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Quantity), QStringLiteral("6"));
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Price), QStringLiteral("11"));
+    EXPECT_EQ(cell(*screen, 0, ui::LineField::Batch), QStringLiteral("A1"));
+    keys.press(Qt::Key_F3);
+    keys.press(Qt::Key_F5);
+    EXPECT_TRUE(screen->isChecked());
+    EXPECT_EQ(delivered(), QStringLiteral("10"));
+    EXPECT_EQ(db().firstText(QStringLiteral("select ls_zsl||'|'||id3||'|'||gl_djh2 from jxc_lsxssp "
+                                            "where gl_djh=?"),
+                  { screen->number() }),
+        QStringLiteral("6|%1|%2").arg(
+            db().firstText(QStringLiteral("select id2 from jxc_xssp where gl_djh=?"), { number }),
+            number));
 }

@@ -103,6 +103,8 @@ public:
     virtual QString listCaption() const;
     // A kind that is posted as it is saved has no check, uncheck or delete buttons.
     virtual bool hasCheck() const { return true; }
+    // A kind whose checked documents cannot be unchecked has no uncheck button.
+    virtual bool hasUncheck() const { return hasCheck(); }
     // After a save: by default the screen shows the document as stored.
     virtual void afterSave(DocumentScreen &screen, const QString &number);
     // F9: by default the kind's unchecked documents (UncheckedDialog).

@@ -18,6 +18,10 @@ void registerSalesScreens(ScreenRegistry &registry)
         return new DocumentScreen(
             workspace, std::make_unique<SalesReturnScreenKind>(workspace.session));
     });
+    registry.addTab(area, sltexts::salesOrder, [](Workspace &workspace) {
+        return new DocumentScreen(
+            workspace, std::make_unique<SalesOrderScreenKind>(workspace.session));
+    });
 }
 
 } // namespace medistock::ui

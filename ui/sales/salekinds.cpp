@@ -8,6 +8,7 @@
 #include "masterdata/texts.h"
 #include "sales/entry.h"
 #include "sales/kinds.h"
+#include "sales/orders.h"
 #include "sales/prices.h"
 #include "sales/salecheck.h"
 #include "sales/salesreturn.h"
@@ -16,6 +17,7 @@
 #include "ui/common/reading.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/sourcelinesdialog.h"
+#include "ui/sales/orderlinesdialog.h"
 #include "ui/sales/texts.h"
 
 #include <QComboBox>
@@ -58,6 +60,11 @@ bool SalesScreenKind::isReturn() const
     return &m_entry == &sales::salesReturnKind();
 }
 
+bool SalesScreenKind::isOrder() const
+{
+    return &m_entry == &sales::salesOrderKind();
+}
+
 QList<LineField> SalesScreenKind::lineFields() const
 {
     QList<LineField> fields = DocumentScreenKind::lineFields();
@@ -78,12 +85,15 @@ QList<std::pair<QString, QWidget *>> SalesScreenKind::createHeaderFields(QWidget
             m_account->addItem(account.name);
     });
     m_paid = amountField(parent);
-    m_invoiceNumber = new QLineEdit(parent);
-    m_invoiceAmount = amountField(parent);
     QList<std::pair<QString, QWidget *>> fields { { sltexts::mode, m_mode },
         { sltexts::account, m_account },
-        { isReturn() ? sltexts::refunded : sltexts::received, m_paid },
-        { sltexts::invoiceNumber, m_invoiceNumber }, { sltexts::invoiceAmount, m_invoiceAmount } };
+        { isReturn() ? sltexts::refunded : sltexts::received, m_paid } };
+    if (isOrder())
+        return fields;
+    m_invoiceNumber = new QLineEdit(parent);
+    m_invoiceAmount = amountField(parent);
+    fields.append({ sltexts::invoiceNumber, m_invoiceNumber });
+    fields.append({ sltexts::invoiceAmount, m_invoiceAmount });
     if (!isReturn()) {
         m_freight = amountField(parent);
         m_packing = amountField(parent);
@@ -118,8 +128,10 @@ void SalesScreenKind::loadHeader(const QSqlRecord &header)
     choose(m_mode, m_saved.settlementMode, true);
     choose(m_account, m_saved.account, false);
     m_paid->setText(amountText(m_saved.paid));
-    m_invoiceNumber->setText(m_saved.invoiceNumber);
-    m_invoiceAmount->setText(amountText(m_saved.invoiceAmount));
+    if (m_invoiceNumber) {
+        m_invoiceNumber->setText(m_saved.invoiceNumber);
+        m_invoiceAmount->setText(amountText(m_saved.invoiceAmount));
+    }
     if (m_freight) {
         m_freight->setText(amountText(m_saved.freight));
         m_packing->setText(amountText(m_saved.packing));
@@ -149,12 +161,21 @@ void SalesScreenKind::setHeaderReadOnly(bool readOnly)
             box->setEnabled(!readOnly);
 }
 
+void SalesScreenKind::takeHeader(const sales::SaleHeader &header)
+{
+    if (!header.settlementMode.isEmpty())
+        choose(m_mode, header.settlementMode, true);
+    if (!header.account.isEmpty())
+        choose(m_account, header.account, false);
+}
+
 Result<sales::SaleHeader> SalesScreenKind::header(const shell::Session &session) const
 {
     sales::SaleHeader h = m_saved;
     h.settlementMode = m_mode->currentData().toString();
     h.account = m_account->currentText();
-    h.invoiceNumber = m_invoiceNumber->text();
+    if (m_invoiceNumber)
+        h.invoiceNumber = m_invoiceNumber->text();
     h.freightTerms = m_freightTerms ? m_freightTerms->currentText() : QString();
     const std::tuple<QLineEdit *, double *, QString> amounts[]
         = { { m_paid, &h.paid, isReturn() ? sltexts::refunded : sltexts::received },
@@ -224,6 +245,17 @@ Outcome SaleScreenKind::remove(shell::Session &session, const QString &number)
     return sales::deleteSale(session, number);
 }
 
+void SaleScreenKind::addActions(DocumentScreen &screen)
+{
+    auto *button = new QPushButton(sltexts::importButton, &screen);
+    QObject::connect(button, &QPushButton::clicked, &screen, [&screen] {
+        OrderLinesDialog dialog(screen);
+        if (dialog.exec() == QDialog::Accepted)
+            dialog.takeInto(screen);
+    });
+    screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
+}
+
 SalesReturnScreenKind::SalesReturnScreenKind(const shell::Session &session)
     : SalesScreenKind(session, sales::salesReturnKind())
 { }
@@ -288,6 +320,49 @@ void SalesReturnScreenKind::addActions(DocumentScreen &screen)
             dialog.takeInto(screen);
     });
     screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
+}
+
+SalesOrderScreenKind::SalesOrderScreenKind(const shell::Session &session)
+    : SalesScreenKind(session, sales::salesOrderKind())
+{ }
+
+int SalesOrderScreenKind::checkRight() const
+{
+    return sales::rights::checkOrder;
+}
+
+QList<LineField> SalesOrderScreenKind::enterFields() const
+{
+    return { LineField::Code, LineField::Quantity, LineField::Price };
+}
+
+QString SalesOrderScreenKind::dueLabel() const
+{
+    return sltexts::receivable;
+}
+
+Result<QString> SalesOrderScreenKind::save(
+    shell::Session &session, const documents::DocumentDraft &draft)
+{
+    const Result<sales::SaleHeader> h = header(session);
+    if (!h)
+        return h.outcome();
+    return sales::saveSalesOrder(session, { draft, h.value() });
+}
+
+Outcome SalesOrderScreenKind::check(shell::Session &session, const QString &number, QWidget *)
+{
+    return sales::checkSalesOrder(session, number);
+}
+
+Outcome SalesOrderScreenKind::uncheck(shell::Session &, const QString &)
+{
+    return Outcome::refused(QString());
+}
+
+Outcome SalesOrderScreenKind::remove(shell::Session &session, const QString &number)
+{
+    return sales::deleteSalesOrder(session, number);
 }
 
 } // namespace medistock::ui

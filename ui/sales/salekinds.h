@@ -31,6 +31,9 @@ public:
     double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
         const QString &unit, const QString &party) const override;
 
+    // The settlement mode and account a taken-over order hands on.
+    void takeHeader(const sales::SaleHeader &header);
+
     QComboBox *modeBox() const { return m_mode; }
     QComboBox *accountBox() const { return m_account; }
     QLineEdit *paidField() const { return m_paid; }
@@ -40,6 +43,8 @@ protected:
     Result<sales::SaleHeader> header(const shell::Session &session) const;
     // A return has no freight, packing or freight terms, and stores its amounts negated.
     bool isReturn() const;
+    // An order keeps only the settlement mode, account and amount received.
+    bool isOrder() const;
 
     const shell::Session &m_session;
     const documents::DocumentKind &m_entry;
@@ -70,6 +75,8 @@ public:
     Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
     Outcome uncheck(shell::Session &session, const QString &number) override;
     Outcome remove(shell::Session &session, const QString &number) override;
+    // "导入销售订单(F10)".
+    void addActions(DocumentScreen &screen) override;
 };
 
 // "顾客退货": goods come back into the warehouse, typed freely or taken from a checked sale's
@@ -91,6 +98,27 @@ public:
     Outcome uncheck(shell::Session &session, const QString &number) override;
     Outcome remove(shell::Session &session, const QString &number) override;
     void addActions(DocumentScreen &screen) override;
+};
+
+// "销售订单": what a customer ordered, to be taken over by sales ("导入销售订单"); it posts
+// nothing, so its lines name no batch unless one is typed. "xsgl" 15 save and delete, 16 check.
+// An order once checked is not unchecked: it has no uncheck button.
+class SalesOrderScreenKind : public SalesScreenKind
+{
+public:
+    explicit SalesOrderScreenKind(const shell::Session &session);
+    int checkRight() const override;
+    int uncheckRight() const override { return 0; }
+    bool hasUncheck() const override { return false; }
+    bool outgoing() const override { return false; }
+    QList<LineField> enterFields() const override;
+    QString dueLabel() const override;
+    QString printKey() const override { return QStringLiteral("xsd"); }
+    Result<QString> save(shell::Session &session, const documents::DocumentDraft &draft) override;
+    Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
+    // Never called: the screen offers no uncheck.
+    Outcome uncheck(shell::Session &session, const QString &number) override;
+    Outcome remove(shell::Session &session, const QString &number) override;
 };
 
 // A customer return's lines taken from a checked sale.
