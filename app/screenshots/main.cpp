@@ -5,6 +5,7 @@
 #include "app/screenshots/documents.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/sales.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -281,11 +282,11 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
     shootMasterData(shoot, window, workspace, scratch);
     shootMembers(shoot, window, workspace, scratch);
-    shootDocuments({ shoot,
-                       [&](QWidget *over, QWidget *dialog, const QString &name) {
+    const Shots shots { shoot, [&](QWidget *over, QWidget *dialog, const QString &name) {
                            shooter.shootOver(over, dialog, name);
-                       } },
-        window, workspace);
+                       } };
+    shootDocuments(shots, window, workspace);
+    shootSales(shots, window, workspace);
 }
 
 } // namespace
