@@ -14,11 +14,15 @@
 #include "tests/ui/keyboard.h"
 #include "tests/ui/uitest.h"
 #include "ui/common/codenamefield.h"
+#include "ui/common/datefield.h"
 #include "ui/common/picker.h"
+#include "ui/common/screenregistry.h"
+#include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/documents/sourcelinesdialog.h"
 #include "ui/sales/orderlinesdialog.h"
+#include "ui/sales/registration.h"
 #include "ui/sales/salekinds.h"
 
 #include <QDir>
@@ -422,4 +426,69 @@ TEST_F(SaleScreenTest, AnOrderPartlyDeliveredOffersWhatIsLeft)
         QStringLiteral("6|%1|%2").arg(
             db().firstText(QStringLiteral("select id2 from jxc_xssp where gl_djh=?"), { number }),
             number));
+}
+
+// An order keyed on its screen takes no batch and posts nothing: F3 saves it, F5 checks it, and
+// a checked order offers no uncheck. The query of sales and returns then lists the sale and the
+// return of the sale made from it, the return's amount negative.
+TEST_F(SaleScreenTest, AnOrderIsKeyedAndTheQueryListsSalesWithReturns)
+{
+    ui::ScreenRegistry registry;
+    ui::registerSalesScreens(registry);
+    std::unique_ptr<QWidget> tab(registry.find(QStringLiteral("xsgl"), 15)->tab(workspace()));
+    auto *order = qobject_cast<ui::DocumentScreen *>(tab.get());
+    ASSERT_NE(order, nullptr);
+    order->resize(1366, 700);
+    order->show();
+    order->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(order));
+    order->setFocus();
+    Keyboard::settle();
+    keys.setWindow(order);
+    keys.type(QStringLiteral("hkyd"));
+    keys.press(Qt::Key_Return);
+    keys.type(QStringLiteral("amx"));
+    keys.press(Qt::Key_Return);
+    keys.type(QStringLiteral("30"));
+    keys.press(Qt::Key_Return);
+    keys.press(Qt::Key_Return);
+    EXPECT_EQ(cell(*order, 0, ui::LineField::Batch), QString());
+    ui.setDefaultAnswer(true);
+    keys.press(Qt::Key_F3);
+    ASSERT_EQ(order->number(), QStringLiteral("XD25031410001"));
+    keys.press(Qt::Key_F5);
+    EXPECT_TRUE(order->isChecked());
+    EXPECT_FALSE(order->uncheckButton()->isVisible());
+    EXPECT_EQ(db().firstText(QStringLiteral("select ls_sl||'|'||ls_dj||'|'||ls_cksl from jxc_xssp "
+                                            "where gl_djh=?"),
+                  { order->number() }),
+        QStringLiteral("30|11.5|0"));
+    EXPECT_EQ(batchStock(QStringLiteral("10000001"), QStringLiteral("A1")), 20);
+
+    sales::SaleDraft sale;
+    sale.entry.date = QStringLiteral("2025-03-14");
+    ASSERT_TRUE(sales::takeOverOrder(session(), order->number(), sale).ok());
+    const QString sold = sales::saveSale(session(), sale).value();
+    ASSERT_TRUE(sales::checkSale(session(), sold).ok());
+    sales::SaleDraft back;
+    back.entry.date = QStringLiteral("2025-03-14");
+    back.entry.party = QStringLiteral("100002");
+    back.entry.warehouse = QStringLiteral("100001");
+    documents::LineDraft line;
+    line.goods = QStringLiteral("10000001");
+    line.quantity = QStringLiteral("2");
+    back.entry.lines = { line };
+    ASSERT_TRUE(sales::saveSalesReturn(session(), back).ok());
+
+    std::unique_ptr<QWidget> queryTab(registry.find(QStringLiteral("xsgl"), 4)->tab(workspace()));
+    auto *query = qobject_cast<ui::DocumentListScreen *>(queryTab.get());
+    ASSERT_NE(query, nullptr);
+    query->fromField()->setText(QStringLiteral("2025-03-01"));
+    query->run();
+    EXPECT_EQ(test::gridColumn(*query, 1).mid(0, 2),
+        (QStringList { sold, QStringLiteral("XT25031410001") }));
+    // 30 at 11.5 sold, 2 at 11.5 back.
+    EXPECT_EQ(test::gridColumn(*query, 8),
+        (QStringList {
+            QStringLiteral("345.00"), QStringLiteral("-23.00"), QStringLiteral("322.00") }));
 }

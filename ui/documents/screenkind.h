@@ -66,6 +66,8 @@ public:
     virtual QList<LineField> enterFields() const;
     // The label of the amount due under the lines ("应付金额").
     virtual QString dueLabel() const = 0;
+    // Whether the document stores its amount due negated (a customer return).
+    virtual bool dueStoredNegated() const { return false; }
     // The key of the document's report template.
     virtual QString printKey() const = 0;
 

@@ -92,6 +92,7 @@ public:
     bool outgoing() const override { return false; }
     QString dueLabel() const override;
     QString printKey() const override { return QStringLiteral("xsth"); }
+    bool dueStoredNegated() const override { return true; }
     void loadLine(const documents::DocumentLineRow &stored, LineEntry &line) const override;
     Result<QString> save(shell::Session &session, const documents::DocumentDraft &draft) override;
     Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;

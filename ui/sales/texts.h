@@ -43,5 +43,6 @@ inline const QString open = QStringLiteral("未出库数量");
 inline const QString sale = QStringLiteral("商品销售");
 inline const QString salesReturn = QStringLiteral("顾客退货");
 inline const QString salesOrder = QStringLiteral("销售订单");
+inline const QString queryTitle = QStringLiteral("销售退货查询");
 
 } // namespace medistock::ui::sltexts
