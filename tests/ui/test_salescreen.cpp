@@ -89,10 +89,9 @@ protected:
         ASSERT_TRUE(purchasing::checkPurchaseReceipt(session(), receipt).ok());
     }
 
-    std::unique_ptr<ui::DocumentScreen> openSale()
+    std::unique_ptr<ui::DocumentScreen> open(std::unique_ptr<ui::DocumentScreenKind> kind)
     {
-        auto screen = std::make_unique<ui::DocumentScreen>(
-            workspace(), std::make_unique<ui::SaleScreenKind>(workspace().session));
+        auto screen = std::make_unique<ui::DocumentScreen>(workspace(), std::move(kind));
         screen->resize(1366, 700);
         screen->show();
         screen->activateWindow();
@@ -100,6 +99,11 @@ protected:
         screen->setFocus();
         Keyboard::settle();
         return screen;
+    }
+
+    std::unique_ptr<ui::DocumentScreen> openSale()
+    {
+        return open(std::make_unique<ui::SaleScreenKind>(workspace().session));
     }
 
     // A line by its goods text, the batch proposed kept, the quantity typed, the price kept.
@@ -115,15 +119,7 @@ protected:
 
     std::unique_ptr<ui::DocumentScreen> openReturn()
     {
-        auto screen = std::make_unique<ui::DocumentScreen>(
-            workspace(), std::make_unique<ui::SalesReturnScreenKind>(workspace().session));
-        screen->resize(1366, 700);
-        screen->show();
-        screen->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(screen.get()));
-        screen->setFocus();
-        Keyboard::settle();
-        return screen;
+        return open(std::make_unique<ui::SalesReturnScreenKind>(workspace().session));
     }
 
     // A checked sale to 华康药店 of 10 阿莫西林胶囊 from A2 and 5 板蓝根颗粒, paid in full.

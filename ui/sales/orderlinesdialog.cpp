@@ -28,16 +28,6 @@ namespace medistock::ui {
 
 namespace {
 
-QString plain(double value)
-{
-    return core::plainNumber(value);
-}
-
-QString caption(LineField field)
-{
-    return doctexts::lineCaption(int(field));
-}
-
 // A line taken from an order as the screen shows it: what the order says, and for a line
 // without batch the one the screen proposes.
 LineEntry entryOf(const DocumentScreen &screen, const documents::LineDraft &taken)
@@ -72,11 +62,12 @@ OrderLinesDialog::OrderLinesDialog(DocumentScreen &screen)
     : QDialog(&screen)
     , m_screen(screen)
     , m_filter(new QLineEdit(this))
-    , m_lines(
-          makeGrid({ sltexts::take, sltexts::order, sltexts::orderDate, sltexts::customer,
-                       caption(LineField::Code), caption(LineField::Name), caption(LineField::Unit),
-                       sltexts::ordered, sltexts::delivered, sltexts::open },
-              this))
+    , m_lines(makeGrid({ sltexts::take, sltexts::order, sltexts::orderDate, sltexts::customer,
+                           doctexts::lineCaption(int(LineField::Code)),
+                           doctexts::lineCaption(int(LineField::Name)),
+                           doctexts::lineCaption(int(LineField::Unit)), sltexts::ordered,
+                           sltexts::delivered, sltexts::open },
+          this))
 {
     setWindowTitle(sltexts::importOrders);
     const int widths[] = { 44, 120, 90, 150, 90, 180, 50, 76, 76, 76 };
@@ -120,7 +111,8 @@ void OrderLinesDialog::refresh()
     QList<QStringList> rows;
     for (const sales::OpenOrderLine &l : std::as_const(m_open))
         rows.append({ QString(), l.order, l.date, l.customerName, l.goods, l.goodsName, l.unit,
-            plain(l.ordered), plain(l.delivered), plain(l.open) });
+            core::plainNumber(l.ordered), core::plainNumber(l.delivered),
+            core::plainNumber(l.open) });
     fillGrid(m_lines, rows);
     for (int i = 0; i < m_lines->rowCount(); ++i) {
         QTableWidgetItem *box = m_lines->item(i, 0);
