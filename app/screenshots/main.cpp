@@ -30,6 +30,7 @@
 #include "ui/shell/registration.h"
 #include "ui/shell/roleeditor.h"
 #include "ui/shell/settingsscreen.h"
+#include "ui/pos/registration.h"
 #include "ui/stock/registration.h"
 
 #include <QApplication>
@@ -255,6 +256,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();

@@ -1,0 +1,118 @@
+#include "ui/pos/reportscreen.h"
+
+#include "members/levels.h"
+#include "shell/session.h"
+#include "ui/common/datefield.h"
+#include "ui/common/reading.h"
+#include "ui/common/workspace.h"
+#include "ui/documents/pickers.h"
+
+#include <QComboBox>
+#include <QDate>
+#include <QLineEdit>
+
+namespace medistock::ui {
+
+namespace {
+
+QueryColumn queryColumn(const pos::ReportColumn &column, const shell::Parameters &params)
+{
+    using Kind = pos::ReportColumn::Kind;
+    if (column.kind == Kind::Text)
+        return { column.caption };
+    int places = 0;
+    switch (column.kind) {
+    case Kind::Amount:
+        places = params.amountDecimals();
+        break;
+    case Kind::Quantity:
+        places = params.quantityDecimals();
+        break;
+    case Kind::Price:
+        places = params.priceDecimals();
+        break;
+    case Kind::Rate:
+        places = 2;
+        break;
+    default:
+        places = 0;
+    }
+    return { column.caption, QueryColumn::Kind::Number, places, column.summed };
+}
+
+QComboBox *choiceBox(const QStringList &choices, QWidget *parent)
+{
+    auto *box = new QComboBox(parent);
+    box->addItems(choices);
+    return box;
+}
+
+} // namespace
+
+PosReportScreen::PosReportScreen(Workspace &workspace, PosReportKind kind, QWidget *parent)
+    : QueryScreen(workspace, kind.title, parent)
+    , m_kind(std::move(kind))
+    , m_from(new DateField(this))
+    , m_to(new DateField(this))
+{
+    const QDate today = workspace.session.clock().today();
+    m_from->setText(QDate(today.year(), today.month(), 1).toString(Qt::ISODate));
+    m_to->setText(today.toString(Qt::ISODate));
+    addFilter(QStringLiteral("从"), m_from);
+    addFilter(QStringLiteral("到"), m_to);
+    if (m_kind.warehouse) {
+        m_warehouse = new QComboBox(this);
+        fillMasterBox(m_warehouse, workspace.session, "warehouse", true);
+        addFilter(QStringLiteral("仓库"), m_warehouse);
+    }
+    if (!m_kind.views.isEmpty()) {
+        m_view = choiceBox(m_kind.views, this);
+        addFilter(QStringLiteral("统计方式"), m_view);
+        connect(m_view, &QComboBox::currentIndexChanged, this, &QueryScreen::run);
+    }
+    if (!m_kind.orders.isEmpty()) {
+        m_order = choiceBox(m_kind.orders, this);
+        addFilter(QStringLiteral("排序"), m_order);
+        connect(m_order, &QComboBox::currentIndexChanged, this, &QueryScreen::run);
+    }
+    if (m_kind.levels) {
+        m_level = new QComboBox(this);
+        m_level->addItem(QStringLiteral("所有级别"), QString());
+        readSafely(workspace.session.ui(), [&] {
+            for (const members::Level &level : members::listLevels(workspace.session.db()))
+                m_level->addItem(level.name, level.code);
+        });
+        addFilter(QStringLiteral("会员级别"), m_level);
+    }
+    if (!m_kind.textLabel.isEmpty()) {
+        m_text = new QLineEdit(this);
+        m_text->setClearButtonEnabled(true);
+        addFilter(m_kind.textLabel, m_text);
+    }
+    run();
+}
+
+void PosReportScreen::fetch()
+{
+    PosReportInputs inputs { { m_from->text(), m_to->text() },
+        m_warehouse ? m_warehouse->currentData().toString() : QString(),
+        m_text ? m_text->text().trimmed() : QString(),
+        m_level ? m_level->currentData().toString() : QString(),
+        m_view ? m_view->currentIndex() : 0, m_order ? m_order->currentIndex() : 0 };
+    shell::Session &session = m_workspace.session;
+    const Result<pos::ReportTable> table = m_kind.run(session, inputs);
+    if (!table)
+        return;
+    // The columns change with the view (goods, class, cashier; the statistics or its lines).
+    const QString layout = m_kind.layoutKey + QLatin1Char('/') + QString::number(inputs.view);
+    if (layout != m_shownLayout) {
+        QList<QueryColumn> columns;
+        for (const pos::ReportColumn &column : table->columns)
+            columns.append(queryColumn(column, session.params()));
+        setColumns(columns, layout);
+        m_shownLayout = layout;
+    }
+    setRows(table->rows);
+}
+
+} // namespace medistock::ui
