@@ -5,6 +5,7 @@
 #include "app/screenshots/documents.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/pos.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -285,6 +286,11 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
                        [&](QWidget *over, QWidget *dialog, const QString &name) {
                            shooter.shootOver(over, dialog, name);
                        } },
+        window, workspace);
+    shootPos({ shoot,
+                 [&](QWidget *over, QWidget *dialog, const QString &name) {
+                     shooter.shootOver(over, dialog, name);
+                 } },
         window, workspace);
 }
 

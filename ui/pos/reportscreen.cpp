@@ -18,8 +18,15 @@ namespace {
 QueryColumn queryColumn(const pos::ReportColumn &column, const shell::Parameters &params)
 {
     using Kind = pos::ReportColumn::Kind;
-    if (column.kind == Kind::Text)
-        return { column.caption };
+    if (column.kind == Kind::Text) {
+        // Numbers and times in full; names wide enough for a drug's name.
+        const QString &f = column.field;
+        const int width = f == QLatin1String("gl_djh")                             ? 130
+            : f.endsWith(QLatin1String("rq")) || f.endsWith(QLatin1String("time")) ? 150
+            : f.contains(QLatin1String("name")) && f.startsWith(QLatin1Char('g'))  ? 170
+                                                                                   : 0;
+        return { column.caption, QueryColumn::Kind::Text, 0, false, width };
+    }
     int places = 0;
     switch (column.kind) {
     case Kind::Amount:

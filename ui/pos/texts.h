@@ -14,12 +14,11 @@ inline const QString warehouse = QStringLiteral("仓库");
 inline const QString employee = QStringLiteral("经办人");
 inline const QString totals = QStringLiteral("共 %1 行  数量 %2  应收金额 %3");
 inline const QString giftMarker = QStringLiteral("(赠品)");
-inline const QString setGift = QStringLiteral("设为赠品");
 inline const QString returnReceipt = QStringLiteral("退货");
 inline const QString handover = QStringLiteral("交班");
 inline const QString print = QStringLiteral("打印小票");
 inline const QString printDisabled = QStringLiteral("小票打印尚未提供");
-inline const QString lockDisabled = QStringLiteral("锁定屏幕尚未提供");
+inline const QString notYet = QStringLiteral("%1尚未提供");
 inline const QString drawerDisabled = QStringLiteral("本机未连接钱箱");
 inline const QStringList lineCaptions { QStringLiteral("商品编号"), QStringLiteral("商品名称"),
     QStringLiteral("规格"), QStringLiteral("单位"), QStringLiteral("数量"), QStringLiteral("单价"),
@@ -31,7 +30,6 @@ inline const QString noGoods = QStringLiteral("没有找到商品：%1");
 inline const QString noLine = QStringLiteral("请先选中一行商品");
 inline const QString noLines = QStringLiteral("还没有录入商品");
 inline const QString noMember = QStringLiteral("没有找到会员：%1");
-inline const QString memberInactive = QStringLiteral("会员卡 %1 已停用");
 inline const QString notPositive = QStringLiteral("%1应大于0");
 inline const QString badRate = QStringLiteral("折扣应在 0 到 1 之间");
 inline const QString clearAll = QStringLiteral("确认删除全部商品吗？");

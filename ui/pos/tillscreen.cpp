@@ -118,7 +118,8 @@ TillScreen::TillScreen(Workspace &workspace, QWidget *parent)
         { QStringLiteral("删除全部"), &TillScreen::deleteAll },
         { QStringLiteral("选择会员"), &TillScreen::chooseMember },
         { QStringLiteral("挂单"), &TillScreen::hold },
-        { QStringLiteral("解挂"), &TillScreen::recall } };
+        { QStringLiteral("解挂"), &TillScreen::recall },
+        { QStringLiteral("设为赠品"), &TillScreen::toggleGift } };
     QList<QPushButton *> buttons;
     QList<pos::TillKey> table;
     readSafely(workspace.session.ui(), [&] { table = pos::tillKeys(workspace.session.db()); });
@@ -128,12 +129,11 @@ TillScreen::TillScreen(Workspace &workspace, QWidget *parent)
         if (key.function == QStringLiteral("打开钱箱"))
             button->setToolTip(postexts::drawerDisabled);
         else if (!actions.contains(key.function))
-            button->setToolTip(postexts::lockDisabled);
+            button->setToolTip(postexts::notYet.arg(key.function));
         buttons.append(button);
     }
-    buttons.append(addKey(postexts::setGift, Qt::Key_F3, &TillScreen::toggleGift));
-    buttons.append(addKey(postexts::returnReceipt, Qt::Key_F11, &TillScreen::returnReceipt));
-    buttons.append(addKey(postexts::handover, Qt::Key_F12, &TillScreen::handOver));
+    buttons.append(addKey(postexts::returnReceipt, Qt::Key_F5, &TillScreen::returnReceipt));
+    buttons.append(addKey(postexts::handover, Qt::Key_F3, &TillScreen::handOver));
     auto *print = new QPushButton(postexts::print, this);
     print->setEnabled(false);
     print->setToolTip(postexts::printDisabled);
@@ -328,21 +328,29 @@ void TillScreen::deleteAll()
 
 void TillScreen::chooseMember()
 {
-    shell::Session &session = m_workspace.session;
     bool ok = false;
     const QString text = QInputDialog::getText(this, postexts::tillTitle, postexts::memberPrompt,
-        QLineEdit::Normal, m_member ? m_member->card : QString(), &ok)
-                             .trimmed();
-    if (!ok)
-        return;
-    if (text.isEmpty())
-        return setMember(std::nullopt);
+        QLineEdit::Normal, m_member ? m_member->card : QString(), &ok);
+    if (ok)
+        readCard(text.trimmed());
+}
+
+bool TillScreen::readCard(const QString &text)
+{
+    shell::Session &session = m_workspace.session;
+    if (text.isEmpty()) {
+        setMember(std::nullopt);
+        return true;
+    }
     std::optional<members::Member> found;
     if (!readSafely(session.ui(), [&] { found = members::findMemberByCard(session.db(), text); }))
-        return;
-    if (!found)
-        return session.ui().inform(postexts::noMember.arg(text));
+        return false;
+    if (!found) {
+        session.ui().inform(postexts::noMember.arg(text));
+        return false;
+    }
     setMember(found);
+    return true;
 }
 
 void TillScreen::setMember(const std::optional<members::Member> &member)

@@ -21,10 +21,10 @@ struct Workspace;
 
 // The till ("POS销售"): the cashier scans or types goods into one field that keeps the focus, and
 // works the sale with the function keys the account set keeps for the till (付款结账, 修改数量,
-// 修改折扣, 删除当前, 删除全部, 选择会员, 挂单, 解挂), plus F3 "设为赠品", F11 退货 and F12 交班.
+// 修改折扣, 删除当前, 删除全部, 选择会员, 挂单, 解挂, 设为赠品), plus F5 退货 and F3 交班.
 // Everything is posted by the pos operations; a refusal is shown as they word it and the sale
-// on the screen stays as it was typed. The cash drawer, the screen lock and the receipt print
-// need hardware or printing the program does not have yet: their buttons are disabled.
+// on the screen stays as it was typed. The cash drawer, the screen lock, the herbal doses and the
+// receipt print are not built yet: their buttons are disabled with a tooltip.
 class TillScreen : public QWidget
 {
     Q_OBJECT
@@ -50,6 +50,9 @@ public slots:
     void deleteCurrent();
     void deleteAll();
     void chooseMember();
+    // Reads the member's card (card number, mobile or telephone); an empty text drops the member.
+    // False, and the member kept, when no usable card is found.
+    bool readCard(const QString &text);
     void pay();
     void hold();
     void recall();
