@@ -105,15 +105,17 @@ void readBackOffice(const shell::Session &session, const DateRange &range, Figur
                 q.value(0).toString(), { q.value(1).toDouble(), q.value(2).toDouble() });
         });
     db.forEach(
-        QStringLiteral("select y.u_sn,sum(x.gl_sl),sum(x.gl_zje),sum(x.gl_lr),%1 from "
-                       "jxc_goodslist x left join jxc_lsxsd s on s.gl_djh=x.gl_djh and "
-                       "x.gl_flag=? left join jxc_xsthd t on t.gl_djh=x.gl_djh and x.gl_flag=? "
-                       "join jxc_user y on y.u_sn=coalesce(s.u_sn,t.u_sn) where (x.gl_flag=? or "
-                       "x.gl_flag=?) and coalesce(x.gl_fdmc,'')<>? and x.gl_kdrq>=? and "
-                       "x.gl_kdrq<=? and y.u_tcfs=? and y.u_tc>? group by y.u_sn")
+        // From the employees' documents to their ledger rows, so that the ledger is read by
+        // document number and never scanned.
+        QStringLiteral("select y.u_sn,sum(x.gl_sl),sum(x.gl_zje),sum(x.gl_lr),%1 from jxc_user y "
+                       "join (select gl_djh,u_sn,? as kind from jxc_lsxsd union all select "
+                       "gl_djh,u_sn,? from jxc_xsthd) d on d.u_sn=y.u_sn join jxc_goodslist x on "
+                       "x.gl_djh=d.gl_djh and x.gl_flag=d.kind where coalesce(x.gl_fdmc,'')<>? "
+                       "and x.gl_kdrq>=? and x.gl_kdrq<=? and y.u_tcfs=? and y.u_tc>? group by "
+                       "y.u_sn")
             .arg(profitAbove),
-        { QStringLiteral("xs"), QStringLiteral("xt"), QStringLiteral("xs"), QStringLiteral("xt"),
-            members::texts::retailBranchMark(), range.from, range.end(), 1, 0 },
+        { QStringLiteral("xs"), QStringLiteral("xt"), members::texts::retailBranchMark(),
+            range.from, range.end(), 1, 0 },
         [&](const QSqlQuery &q) { f.backOffice.insert(q.value(0).toString(), sumsOf(q, 1)); });
 }
 
