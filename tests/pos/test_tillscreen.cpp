@@ -266,3 +266,32 @@ TEST_F(TillScreenTest, TheRankingByCashierShowsTheSaleWithItsProfitRate)
     // Cost 3 x 5 + 2 x 2 + 1 x 3 (the gift counts) = 22 against 52: 30 profit, 57.69 %.
     EXPECT_EQ(shown, (QStringList { "1|admin|6.00|52.00|30.00|57.69", "合计||6.00|52.00|30.00|" }));
 }
+
+// The shift of the sale above: 52 taken, 22 of it in cash; the cashier hands 20 up and leaves 2.
+TEST_F(TillScreenTest, TheHandoverWritesTheShiftsTakingsAndTheCountedSplit)
+{
+    ringUpThreeLines();
+    onDialog([](QWidget *w) {
+        auto *pay = qobject_cast<ui::PaymentDialog *>(w);
+        ASSERT_NE(pay, nullptr);
+        pay->field(1)->setValue(20);
+        pay->field(4)->setValue(10);
+        pay->field(0)->setValue(30);
+        pay->accept();
+    });
+    key(Qt::Key_Equal);
+    ASSERT_EQ(till->lastNumber(), "XS25031410001");
+    onDialog([](QWidget *w) {
+        auto *handover = qobject_cast<ui::HandoverDialog *>(w);
+        ASSERT_NE(handover, nullptr);
+        EXPECT_EQ(handover->handedUpField()->value(), 22);
+        handover->handedUpField()->setValue(20);
+        handover->leftField()->setValue(2);
+        handover->accept();
+    });
+    key(Qt::Key_F3);
+    EXPECT_EQ(till->statusLabel()->text(), QStringLiteral("交班完成，交接金额 22.00"));
+    EXPECT_EQ(rows(QStringLiteral("jxc_jbgl"),
+                  QStringLiteral("jb_curruser,jb_nextuser,jb_bbskzje,jb_sjyyk,jb_xfyyk,jb_jjzje")),
+        QStringList { "admin|admin|52|20|2|22" });
+}
