@@ -12,6 +12,10 @@
 #include "ui/pos/tillscreen.h"
 
 #include <QApplication>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
 #include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>

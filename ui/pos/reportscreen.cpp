@@ -7,9 +7,15 @@
 #include "ui/common/workspace.h"
 #include "ui/documents/pickers.h"
 
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
 #include <QComboBox>
 #include <QDate>
 #include <QLineEdit>
+#include <QValueAxis>
 
 namespace medistock::ui {
 
@@ -91,6 +97,12 @@ PosReportScreen::PosReportScreen(Workspace &workspace, PosReportKind kind, QWidg
         });
         addFilter(QStringLiteral("会员级别"), m_level);
     }
+    if (!m_kind.chartValue.isEmpty()) {
+        m_chart = new QChartView(this);
+        m_chart->setRenderHint(QPainter::Antialiasing);
+        m_chart->setMinimumHeight(220);
+        setDetail(m_chart);
+    }
     if (!m_kind.textLabel.isEmpty()) {
         m_text = new QLineEdit(this);
         m_text->setClearButtonEnabled(true);
@@ -120,6 +132,47 @@ void PosReportScreen::fetch()
         m_shownLayout = layout;
     }
     setRows(table->rows);
+    if (m_chart)
+        drawChart(table.value());
+}
+
+// The first twelve rows as bars, in the table's order.
+void PosReportScreen::drawChart(const pos::ReportTable &table)
+{
+    int label = -1;
+    int value = -1;
+    for (int c = 0; c < table.columns.size(); ++c) {
+        const QString &field = table.columns[c].field;
+        if (label < 0 && m_kind.chartLabels.contains(field))
+            label = c;
+        if (field == m_kind.chartValue)
+            value = c;
+    }
+    auto *chart = new QChart;
+    chart->legend()->hide();
+    if (label >= 0 && value >= 0) {
+        auto *bars = new QBarSet(table.columns[value].caption);
+        QStringList names;
+        for (const QVariantList &row : table.rows.mid(0, 12)) {
+            names.append(row[label].toString());
+            *bars << row[value].toDouble();
+        }
+        auto *series = new QBarSeries;
+        series->append(bars);
+        chart->addSeries(series);
+        auto *axisX = new QBarCategoryAxis;
+        axisX->append(names);
+        chart->addAxis(axisX, Qt::AlignBottom);
+        series->attachAxis(axisX);
+        auto *axisY = new QValueAxis;
+        axisY->setLabelFormat(QStringLiteral("%.0f"));
+        chart->addAxis(axisY, Qt::AlignLeft);
+        series->attachAxis(axisY);
+        chart->setTitle(table.columns[value].caption);
+    }
+    QChart *old = m_chart->chart();
+    m_chart->setChart(chart);
+    delete old;
 }
 
 } // namespace medistock::ui

@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QChartView;
 class QComboBox;
 class QLineEdit;
 
@@ -35,10 +36,15 @@ struct PosReportKind
     QStringList views; // several ways of grouping (the ranking), or views of the report
     QStringList orders;
     std::function<Result<pos::ReportTable>(shell::Session &, const PosReportInputs &)> run;
+    // A bar chart under the grid: the figure of column `chartValue` per row named by the first
+    // of `chartLabels` the table has (fields as the tables name them); none when empty.
+    QStringList chartLabels;
+    QString chartValue;
 };
 
 // A POS report under "统计报表": from/to dates (the month so far by default), the warehouse and
-// the report's own filters on top, its table below with the totals row and xlsx export.
+// the report's own filters on top, its table below with the totals row and xlsx export, and for
+// the ranking and the takings a bar chart of the first rows under the table.
 // Printing through the report templates is not offered until printing is there.
 class PosReportScreen : public QueryScreen
 {
@@ -51,6 +57,7 @@ public:
     QComboBox *viewBox() const { return m_view; }
     QComboBox *orderBox() const { return m_order; }
     QLineEdit *textField() const { return m_text; }
+    QChartView *chart() const { return m_chart; }
 
 protected:
     void fetch() override;
@@ -64,7 +71,10 @@ private:
     QComboBox *m_order = nullptr;
     QComboBox *m_level = nullptr;
     QLineEdit *m_text = nullptr;
+    QChartView *m_chart = nullptr;
     QString m_shownLayout;
+
+    void drawChart(const pos::ReportTable &table);
 };
 
 // The report kinds of the screens, in the order of the menu: journal, goods, ranking, members,
