@@ -5,6 +5,7 @@
 #include "core/rounding.h"
 #include "pos/handover.h"
 #include "pos/reporttables.h"
+#include "pos/reprint.h"
 #include "shell/session.h"
 
 #include <functional>
@@ -222,6 +223,26 @@ int runHandover(Context &context, Args &args)
     return ExitDone;
 }
 
+// The reprint's variables as name and value, then its lines under their captions.
+int runReprint(Context &context, Args &args)
+{
+    const QString number = takePositional(context, args, 1, 1).first();
+    const pos::Reprint reprint = valueOf(pos::posReprint(context.session(), number));
+    const QVariantMap variables = reprint.variables();
+    for (const char *name : { "sTitle", "yf", "sf", "hybh", "hyname", "hyye", "hyjf", "hymobile" })
+        context.out() << name << '\t' << cell(variables.value(QString::fromLatin1(name)))
+                      << Qt::endl;
+    pos::ReportTable table;
+    for (const char *caption :
+        { "商品编号", "商品名称", "单位", "单价", "打折率", "数量", "总金额", "折后单价" })
+        table.columns.append({ QString::fromUtf8(caption), {}, {}, false });
+    for (const pos::ReprintLine &l : reprint.lines)
+        table.rows.append({ l.goods, l.name, l.unit, l.price, l.discountRate, l.quantity, l.amount,
+            l.discounted });
+    printTable(context, table);
+    return ExitDone;
+}
+
 } // namespace
 
 void addPosCommands(Registry &registry)
@@ -246,6 +267,8 @@ void addPosCommands(Registry &registry)
     registry.add({ QStringLiteral("pos-handover"),
         QStringLiteral("NEXT [--up 上交营业款] [--down 下放营业款] [--note 备注]"),
         QStringLiteral("交班给接班操作员，输出本班的收款和交接金额"), runHandover });
+    registry.add({ QStringLiteral("pos-reprint"), QStringLiteral("NUMBER"),
+        QStringLiteral("重打POS单据：输出标题、应收实收、会员变量和商品行"), runReprint });
 }
 
 } // namespace medistock::cli

@@ -69,3 +69,15 @@ TEST_F(PosCommands, CashInAndOutAreAskedForAndListed)
     EXPECT_EQ(lines[1].section(QLatin1Char('\t'), 2), "0\t30\tPOS 出款\t\tadmin");
     EXPECT_EQ(lines[2].section(QLatin1Char('\t'), 2), "100\t0\tPOS 入款\t备用金\tadmin");
 }
+
+TEST_F(PosCommands, AReturnIsReprintedUnderItsTitleWithItsLines)
+{
+    post(sale({ line(QStringLiteral("200001"), 3, 12) }));
+    post(retail({}, { line(QStringLiteral("200001"), -1, 12) }, members::RetailKind::Return));
+    const test::CliRun reprint = run({ QStringLiteral("pos-reprint"), "XT25031410001" });
+    ASSERT_EQ(reprint.status, 0) << reprint.err.toStdString();
+    EXPECT_EQ(reprint.out,
+        "sTitle\tPOS退货单\nyf\t-12\nsf\t-12\nhybh\t\nhyname\t\nhyye\t0\nhyjf\t0\nhymobile\t\n"
+        "商品编号\t商品名称\t单位\t单价\t打折率\t数量\t总金额\t折后单价\n"
+        "200001\t阿莫西林胶囊\t盒\t12\t1\t-1\t-12\t12\n");
+}

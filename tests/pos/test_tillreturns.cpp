@@ -2,6 +2,7 @@
 // proportion, and the money and points going back.
 #include "documents/texts.h"
 #include "members/member.h"
+#include "pos/reprint.h"
 #include "pos/returns.h"
 #include "tests/pos/postest.h"
 #include "tests/support/documentrows.h"
@@ -148,4 +149,48 @@ TEST_F(TillReturns, OnlyAPostedSaleCanBeGivenBack)
     ui.clear();
     EXPECT_FALSE(members::postRetailDocument(session(), stray));
     EXPECT_EQ(ui.informed, QStringList { documents::texts::documentMissing(stray.original) });
+}
+
+// The reprint of the sale and of its return: the return's title, its negative figures, the
+// member as he stands after it, and each line's price after discount.
+TEST_F(TillReturns, AReturnReprintsAsAPosReturnWithTheMembersFigures)
+{
+    const QString member = addMember(
+        QStringLiteral("张敏"), { { QStringLiteral("hy_mobile"), QStringLiteral("13900001111") } });
+    const QString number = soldReceipt(member);
+    const Result<QString> back = giveBack(number, { 1, 0, 0 });
+    ASSERT_TRUE(back) << back.message().toStdString();
+    const auto shown = [](const pos::Reprint &r) {
+        QStringList lines;
+        for (const pos::ReprintLine &l : r.lines)
+            lines.append(QStringList { l.goods, l.name, core::plainNumber(l.price),
+                core::plainNumber(l.discountRate), core::plainNumber(l.quantity),
+                core::plainNumber(l.amount), core::plainNumber(l.discounted) }
+                             .join(QLatin1Char('|')));
+        return lines;
+    };
+    const Result<pos::Reprint> sale = pos::posReprint(session(), number);
+    ASSERT_TRUE(sale);
+    EXPECT_EQ(sale->title, "POS销售单");
+    EXPECT_EQ(shown(sale.value()),
+        (QStringList { "200001|阿莫西林胶囊|12|0.9|3|32.4|10.8", "200002|维生素C片|10|1|2|20|10",
+            "200001|阿莫西林胶囊(赠品)|12|1|1|0|12" }));
+    // 10.80 back less its share of the discount (0.41) and of the rounding off (0.08).
+    const Result<pos::Reprint> refund = pos::posReprint(session(), back.value());
+    ASSERT_TRUE(refund);
+    const QVariantMap v = refund->variables();
+    EXPECT_EQ(v.value("sTitle").toString(), "POS退货单");
+    EXPECT_EQ(v.value("yf").toDouble(), -10.31);
+    EXPECT_EQ(v.value("sf").toDouble(), -10.31);
+    EXPECT_EQ(v.value("hybh").toString(), text(member, QStringLiteral("hy_bh")));
+    EXPECT_EQ(v.value("hyname").toString(), "张敏");
+    EXPECT_EQ(v.value("hymobile").toString(), "13900001111");
+    EXPECT_EQ(v.value("hyye").toDouble(), 0);
+    // 13 points for the sale, one taken back with the 10.31 yuan.
+    EXPECT_EQ(v.value("hyjf").toDouble(), 12);
+    EXPECT_EQ(shown(refund.value()), QStringList { "200001|阿莫西林胶囊|12|0.9|-1|-10.8|10.8" });
+
+    ui.clear();
+    EXPECT_FALSE(pos::posReprint(session(), QStringLiteral("XT25031499999")));
+    EXPECT_EQ(ui.informed, QStringList { "POS销售单“XT25031499999”不存在！" });
 }
