@@ -132,6 +132,8 @@ void PosReportScreen::fetch()
         m_shownLayout = layout;
     }
     setRows(table->rows);
+    if (!m_kind.printKeys.isEmpty())
+        setPrintKey(m_kind.printKeys.value(inputs.view, m_kind.printKeys.first()));
     if (m_chart)
         drawChart(table.value());
 }

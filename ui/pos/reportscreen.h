@@ -40,12 +40,14 @@ struct PosReportKind
     // of `chartLabels` the table has (fields as the tables name them); none when empty.
     QStringList chartLabels;
     QString chartValue;
+    // The report template of each view (one for all views); none: the report is not printed.
+    QStringList printKeys;
 };
 
 // A POS report under "统计报表": from/to dates (the month so far by default), the warehouse and
 // the report's own filters on top, its table below with the totals row and xlsx export, and for
 // the ranking and the takings a bar chart of the first rows under the table.
-// Printing through the report templates is not offered until printing is there.
+// The print button prints through the view's template once printing is there (disabled till then).
 class PosReportScreen : public QueryScreen
 {
     Q_OBJECT
