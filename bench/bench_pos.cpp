@@ -3,6 +3,7 @@
 // 100,000 POS lines (33,334 documents of 3 lines, one in twenty a return, with members, employees
 // on commission and five cashiers), written straight into a copy of the same account set:
 //   ./build/bench/bench_pos
+#include "bench/keep.h"
 #include "bench/stockledger.h"
 #include "core/dberror.h"
 #include "core/transaction.h"
@@ -128,9 +129,9 @@ void addDocuments(core::Connection &db)
 
 PosSet &reportSet()
 {
-    static std::unique_ptr<PosSet> set;
+    static PosSet *set = nullptr;
     if (!set) {
-        set = std::make_unique<PosSet>();
+        set = &bench::keepForRun(std::make_unique<PosSet>());
         core::Connection &db = set->set.db();
         core::Transaction transaction(db);
         addPeople(db);
@@ -158,7 +159,7 @@ members::RetailDocument threeLines(int index)
 void sellThreeLineSale(benchmark::State &state)
 {
     try {
-        static PosSet s;
+        static PosSet &s = bench::keepForRun(std::make_unique<PosSet>());
         static int index = 0;
         for (auto _ : state) {
             const Result<QString> sold = pos::sellAtTill(*s.session, threeLines(index++));

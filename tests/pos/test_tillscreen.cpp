@@ -231,7 +231,12 @@ TEST_F(TillScreenTest, RefusalsAreToldAndLoseNothingTyped)
 TEST_F(TillScreenTest, AHeldSaleComesBackWithItsMemberAndIsSoldUnderItsNumber)
 {
     ringUpThreeLines();
+    // Up to the first line and 10% off it.
+    key(Qt::Key_Up);
+    key(Qt::Key_Up);
+    answer(Qt::Key_F7, QStringLiteral("0.9"));
     const QStringList rungUp = shownLines();
+    EXPECT_EQ(rungUp.first(), "200001|盒|3.00|12.00|0.90|32.40|");
     key(Qt::Key_F8);
     const QString held = till->lastNumber();
     EXPECT_EQ(held, "XS25031410001");
@@ -298,4 +303,27 @@ TEST_F(TillScreenTest, TheHandoverWritesTheShiftsTakingsAndTheCountedSplit)
     EXPECT_EQ(rows(QStringLiteral("jxc_jbgl"),
                   QStringLiteral("jb_curruser,jb_nextuser,jb_bbskzje,jb_sjyyk,jb_xfyyk,jb_jjzje")),
         QStringList { "admin|admin|52|20|2|22" });
+}
+
+// With negative stock forbidden a shortage refuses the payment, and the sale waits on the screen
+// to be corrected; the quantity put right, it sells.
+TEST_F(TillScreenTest, AShortageRefusesThePaymentAndKeepsTheSale)
+{
+    setParameter(QStringLiteral("cs_kc"), 0);
+    scan(QStringLiteral("200002"));
+    answer(Qt::Key_F4, QStringLiteral("51"));
+    const QString before = snapshot();
+    onDialog([](QWidget *w) { qobject_cast<QDialog *>(w)->accept(); });
+    key(Qt::Key_Equal);
+    EXPECT_EQ(
+        ui.informed, QStringList { "商品“维生素C片”库存不足：库存50瓶，本次销售51瓶，不能销售！" });
+    EXPECT_EQ(snapshot(), before);
+    EXPECT_EQ(shownLines(), QStringList { "200002|瓶|51.00|8.00|1.00|408.00|" });
+    answer(Qt::Key_F4, QStringLiteral("50"));
+    onDialog([](QWidget *w) { qobject_cast<QDialog *>(w)->accept(); });
+    key(Qt::Key_Equal);
+    EXPECT_EQ(till->lastNumber(), "XS25031410001");
+    EXPECT_EQ(rows(QStringLiteral("jxc_kcsp"), QStringLiteral("kc_sl"),
+                  QStringLiteral("g_sn='200002' and ck_sn='100001'")),
+        QStringList { "0" });
 }
