@@ -56,7 +56,7 @@ ReportTable linesTable(const QList<JournalLine> &rows)
                         text("批号", "t_ph"), text("有效期至", "t_yxq"), text("收银员", "a_name") },
         {} };
     for (const JournalLine &l : rows)
-        t.rows.append({ l.number, l.time, l.goods, l.name, l.spec, l.unit, l.price, l.discountRate,
+        t.rows.append({ l.number, l.time, l.goods, l.name, l.packing, l.unit, l.price, l.discountRate,
             l.quantity, l.amount, l.cost, l.profit, l.giftMarker, l.batch, l.expiry, l.cashier });
     return t;
 }
@@ -68,7 +68,7 @@ ReportTable goodsSalesTable(const QList<GoodsSalesRow> &rows)
                         amount("总金额", "zje"), amount("总成本", "cb"), amount("利润", "lr") },
         {} };
     for (const GoodsSalesRow &r : rows)
-        t.rows.append({ r.goods, r.name, r.spec, r.unit, r.quantity, r.amount, r.cost, r.profit });
+        t.rows.append({ r.goods, r.name, r.packing, r.unit, r.quantity, r.amount, r.cost, r.profit });
     return t;
 }
 

@@ -75,7 +75,7 @@ JournalLine journalLineOf(const QSqlQuery &q)
     l.time = q.value(1).toString();
     l.goods = q.value(2).toString();
     l.name = q.value(3).toString();
-    l.spec = q.value(4).toString();
+    l.packing = q.value(4).toString();
     l.unit = q.value(5).toString();
     l.price = n(6);
     l.discountRate = n(7);

@@ -60,7 +60,7 @@ struct JournalLine
     QString time; // pos_xsrq of the header
     QString goods;
     QString name;
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString unit; // dw_name
     double price = 0; // pos_dj
     double discountRate = 1; // pos_dzl
@@ -83,7 +83,7 @@ struct GoodsSalesRow
 {
     QString goods; // g_sn
     QString name; // gname
-    QString spec;
+    QString packing; // gg_name
     QString unit; // dw_name of the goods
     double quantity = 0; // sl: sum of pos_sl, in the lines' units
     double amount = 0; // zje
