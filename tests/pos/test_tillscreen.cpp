@@ -205,6 +205,10 @@ TEST_F(TillScreenTest, RefusalsAreToldAndLoseNothingTyped)
     scan(QStringLiteral("zzz"));
     EXPECT_EQ(ui.informed, QStringList { "没有找到商品：zzz" });
     EXPECT_EQ(till->goodsField()->text(), "zzz");
+    // The function keys work from the warehouse box too.
+    onDialog([](QWidget *w) { qobject_cast<QDialog *>(w)->reject(); });
+    QTest::keyClick(till->warehouseBox(), Qt::Key_F2);
+    EXPECT_TRUE(till->memberLabel()->text().startsWith(QStringLiteral("会员：张敏")));
     answer(Qt::Key_F2, QStringLiteral("999999"));
     EXPECT_EQ(ui.informed.last(), "没有找到会员：999999");
     EXPECT_TRUE(till->memberLabel()->text().startsWith(QStringLiteral("会员：张敏")));

@@ -86,6 +86,8 @@ TillScreen::TillScreen(Workspace &workspace, QWidget *parent)
     fillMasterBox(m_employee, workspace.session, "employee", true);
     m_goods->setPlaceholderText(postexts::goodsHint);
     m_goods->installEventFilter(this);
+    m_warehouse->installEventFilter(this);
+    m_employee->installEventFilter(this);
     QFont big = m_goods->font();
     big.setPointSize(big.pointSize() * 3 / 2);
     m_goods->setFont(big);
@@ -170,10 +172,17 @@ QPushButton *TillScreen::addKey(const QString &function, int key, void (TillScre
 
 bool TillScreen::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_goods || event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
-    const auto *press = static_cast<QKeyEvent *>(event);
-    const int key = press->key();
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    // In the warehouse and employee boxes only the function keys are the till's.
+    if (watched != m_goods) {
+        const auto action = m_keys.find(key);
+        if (key < Qt::Key_F1 || key > Qt::Key_F35 || action == m_keys.end())
+            return QWidget::eventFilter(watched, event);
+        action.value()();
+        return true;
+    }
     if (key == Qt::Key_Up || key == Qt::Key_Down) {
         const int row = currentLine() + (key == Qt::Key_Up ? -1 : 1);
         if (row >= 0 && row < m_grid->rowCount())
