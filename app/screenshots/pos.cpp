@@ -81,7 +81,7 @@ void shootTill(
     till->toggleGift();
     till->readCard(QStringLiteral("13900001111"));
     till->goodsField()->setText(QStringLiteral("bl"));
-    shots.shoot(&window, QStringLiteral("90-till-sale"));
+    shots.shoot(&window, QStringLiteral("81-till-sale"));
     const members::RetailDocument sale = till->document();
     std::optional<members::Member> member
         = members::findMemberByCard(workspace.session.db(), QStringLiteral("13900001111"));
@@ -89,20 +89,20 @@ void shootTill(
         member ? member->balance : -1, &window);
     pay.field(4)->setValue(10);
     pay.field(0)->setValue(50);
-    shots.shootOver(&window, &pay, QStringLiteral("91-till-payment"));
+    shots.shootOver(&window, &pay, QStringLiteral("82-till-payment"));
     pay.hide();
     const Result<pos::SoldReceipt> receipt = pos::readSoldReceipt(workspace.session, sold);
     if (receipt) {
         ui::ReturnDialog back(receipt.value(), 2, &window);
         back.grid()->item(0, 6)->setText(QStringLiteral("1.00"));
-        shots.shootOver(&window, &back, QStringLiteral("92-till-return"));
+        shots.shootOver(&window, &back, QStringLiteral("83-till-return"));
         back.hide();
     }
     ui::HandoverDialog handover(workspace.session,
         pos::shiftFigures(
             workspace.session, workspace.session.user().name, workspace.session.clock().nowText()),
         &window);
-    shots.shootOver(&window, &handover, QStringLiteral("93-till-handover"));
+    shots.shootOver(&window, &handover, QStringLiteral("84-till-handover"));
     handover.hide();
 }
 
@@ -112,8 +112,8 @@ void shootPos(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspa
 {
     const QString sold = seedTill(workspace.session);
     shootTill(shots, window, workspace, sold);
-    const char *names[] = { "94-pos-journal", "95-pos-goods", "97-pos-ranking", "99-pos-members",
-        "100-pos-cashiers", "101-pos-cash", "102-pos-commission" };
+    const char *names[] = { "85-pos-journal", "86-pos-goods", "88-pos-ranking", "90-pos-members",
+        "91-pos-cashiers", "92-pos-cash", "93-pos-commission" };
     for (int i = 0; i < 7; ++i) {
         window.openOperation(QStringLiteral("tjgl"), 14 + i);
         auto *report = qobject_cast<ui::PosReportScreen *>(window.tabs()->currentWidget());
@@ -122,7 +122,7 @@ void shootPos(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspa
             report->viewBox()->setCurrentIndex(i == 1 ? 1 : 2);
             shots.shoot(&window,
                 QStringLiteral("%1-pos-%2")
-                    .arg(i == 1 ? 96 : 98)
+                    .arg(i == 1 ? 87 : 89)
                     .arg(i == 1 ? QStringLiteral("details") : QStringLiteral("ranking-cashiers")));
         }
     }
