@@ -16,6 +16,7 @@
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/shell/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/stock/registration.h"
 
 #include <QApplication>
@@ -48,6 +49,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerPosScreens(registry);
 }
 
 } // namespace

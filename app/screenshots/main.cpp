@@ -6,6 +6,7 @@
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/pos.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -32,6 +33,7 @@
 #include "ui/shell/registration.h"
 #include "ui/shell/roleeditor.h"
 #include "ui/shell/settingsscreen.h"
+#include "ui/pos/registration.h"
 #include "ui/stock/registration.h"
 
 #include <QApplication>
@@ -258,6 +260,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -288,6 +291,11 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
                        } },
         window, workspace);
     shootGsp(shoot, window, workspace);
+    shootPos({ shoot,
+                 [&](QWidget *over, QWidget *dialog, const QString &name) {
+                     shooter.shootOver(over, dialog, name);
+                 } },
+        window, workspace);
 }
 
 } // namespace
