@@ -24,6 +24,7 @@ int main(int argc, char *argv[])
     medistock::cli::addSalesCommands(registry);
     medistock::cli::addGspCommands(registry);
     medistock::cli::addMembersCommands(registry);
+    medistock::cli::addPosCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();

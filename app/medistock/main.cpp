@@ -17,6 +17,7 @@
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/shell/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/stock/registration.h"
 
 #include <QApplication>
@@ -50,6 +51,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerPosScreens(registry);
 }
 
 } // namespace

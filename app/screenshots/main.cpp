@@ -6,6 +6,7 @@
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/pos.h"
 #include "app/screenshots/sales.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
@@ -22,6 +23,7 @@
 #include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
 #include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
@@ -261,6 +263,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -290,6 +293,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
                        } };
     shootDocuments(shots, window, workspace);
     shootGsp(shoot, window, workspace);
+    shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
 }
 

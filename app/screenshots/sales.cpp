@@ -90,20 +90,20 @@ void shootSale(const Shots &shots, ui::MainWindow &window, ui::Workspace &worksp
     fillLines(
         *screen, workspace, { { "10020001", "10" }, { "10010001", "6" }, { "1001010001", "5" } });
     screen->partyField()->setFocus();
-    shots.shoot(&window, QStringLiteral("90-sale"));
+    shots.shoot(&window, QStringLiteral("52-sale"));
     ui::GoodsPickerDialog picker(workspace, QStringLiteral("颗粒"), screen->warehouseCode(),
         QStringLiteral("xsgl"), 0, &window);
-    shots.shootOver(&window, &picker, QStringLiteral("91-sale-goods-picker"));
+    shots.shootOver(&window, &picker, QStringLiteral("53-sale-goods-picker"));
     picker.hide();
     const auto batches = ui::makeBatchPicker(
         screen->kind().batchChoices(
             workspace.session, QStringLiteral("10020001"), screen->warehouseCode(), screen->date()),
         &window);
-    shots.shootOver(&window, batches.get(), QStringLiteral("92-sale-batch-picker"));
+    shots.shootOver(&window, batches.get(), QStringLiteral("54-sale-batch-picker"));
     batches->hide();
     screen->save();
     ui::UncheckedDialog unchecked(*screen);
-    shots.shootOver(&window, &unchecked, QStringLiteral("93-unchecked-sales"));
+    shots.shootOver(&window, &unchecked, QStringLiteral("55-unchecked-sales"));
     unchecked.hide();
 }
 
@@ -114,11 +114,11 @@ void shootReturn(const Shots &shots, ui::MainWindow &window)
     ui::SourceLinesDialog lines(*screen, ui::saleSource());
     lines.showLines();
     lines.tick(0, true);
-    shots.shootOver(&window, &lines, QStringLiteral("94-sales-return-sale-lines"));
+    shots.shootOver(&window, &lines, QStringLiteral("56-sales-return-sale-lines"));
     lines.hide();
     lines.takeInto(*screen);
     screen->noteField()->setText(QStringLiteral("顾客买多退回"));
-    shots.shoot(&window, QStringLiteral("95-sales-return"));
+    shots.shoot(&window, QStringLiteral("57-sales-return"));
 }
 
 void shootOrders(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
@@ -126,13 +126,13 @@ void shootOrders(const Shots &shots, ui::MainWindow &window, ui::Workspace &work
     ui::DocumentScreen *order = openSalesScreen(window, 15);
     order->partyField()->setChoice(QStringLiteral("100003"), QStringLiteral("康乐社区卫生服务站"));
     fillLines(*order, workspace, { { "10030001", "40" }, { "10010001", "12" } });
-    shots.shoot(&window, QStringLiteral("96-sales-order"));
+    shots.shoot(&window, QStringLiteral("58-sales-order"));
 
     ui::DocumentScreen *sale = openSalesScreen(window, 1);
     sale->newDocument();
     ui::OrderLinesDialog import(*sale);
     import.tick(0, true);
-    shots.shootOver(&window, &import, QStringLiteral("97-import-orders"));
+    shots.shootOver(&window, &import, QStringLiteral("59-import-orders"));
     import.hide();
 }
 
