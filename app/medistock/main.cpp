@@ -12,6 +12,7 @@
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -47,6 +48,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerPosScreens(registry);

@@ -7,6 +7,7 @@
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "app/screenshots/pos.h"
+#include "app/screenshots/sales.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -22,7 +23,9 @@
 #include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -33,7 +36,6 @@
 #include "ui/shell/registration.h"
 #include "ui/shell/roleeditor.h"
 #include "ui/shell/settingsscreen.h"
-#include "ui/pos/registration.h"
 #include "ui/stock/registration.h"
 
 #include <QApplication>
@@ -258,6 +260,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerPosScreens(registry);
@@ -285,17 +288,13 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
     shootMasterData(shoot, window, workspace, scratch);
     shootMembers(shoot, window, workspace, scratch);
-    shootDocuments({ shoot,
-                       [&](QWidget *over, QWidget *dialog, const QString &name) {
+    const Shots shots { shoot, [&](QWidget *over, QWidget *dialog, const QString &name) {
                            shooter.shootOver(over, dialog, name);
-                       } },
-        window, workspace);
+                       } };
+    shootDocuments(shots, window, workspace);
     shootGsp(shoot, window, workspace);
-    shootPos({ shoot,
-                 [&](QWidget *over, QWidget *dialog, const QString &name) {
-                     shooter.shootOver(over, dialog, name);
-                 } },
-        window, workspace);
+    shootPos(shots, window, workspace);
+    shootSales(shots, window, workspace);
 }
 
 } // namespace
