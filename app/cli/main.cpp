@@ -25,6 +25,7 @@ int main(int argc, char *argv[])
     medistock::cli::addGspCommands(registry);
     medistock::cli::addMembersCommands(registry);
     medistock::cli::addStatisticsCommands(registry);
+    medistock::cli::addPosCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();

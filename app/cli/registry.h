@@ -51,6 +51,8 @@ void addGspEntryCommands(Registry &registry);
 void addMembersCommands(Registry &registry);
 // "stats": the statistics reports, the summary's difference check and the cost resync.
 void addStatisticsCommands(Registry &registry);
+// The till's reports, cash in and out and the shift handover.
+void addPosCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

@@ -11,7 +11,9 @@
 #include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -47,9 +49,11 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerStatisticsScreens(registry);
+    ui::registerPosScreens(registry);
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/pos.h"
+#include "app/screenshots/sales.h"
 #include "app/screenshots/statistics.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
@@ -22,7 +24,9 @@
 #include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -258,9 +262,11 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerStatisticsScreens(registry);
+    ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -285,13 +291,14 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
     shootMasterData(shoot, window, workspace, scratch);
     shootMembers(shoot, window, workspace, scratch);
-    shootDocuments({ shoot,
-                       [&](QWidget *over, QWidget *dialog, const QString &name) {
+    const Shots shots { shoot, [&](QWidget *over, QWidget *dialog, const QString &name) {
                            shooter.shootOver(over, dialog, name);
-                       } },
-        window, workspace);
+                       } };
+    shootDocuments(shots, window, workspace);
     shootGsp(shoot, window, workspace);
     shootStatistics(shoot, window, workspace);
+    shootPos(shots, window, workspace);
+    shootSales(shots, window, workspace);
 }
 
 } // namespace
