@@ -168,9 +168,9 @@ void shootStatistics(const std::function<void(QWidget *, const QString &)> &shoo
     const QDate today = workspace.session.clock().today();
     // A clerk's laptop: every report must read well at 1366x768.
     window.resize(1366, 768);
-    const char *names[] = { "95-inward", "96-purchases", "97-buyers", "98-outward", "99-sales",
-        "100-salesmen", "101-movements", "102-stock-cost", "103-business", "104-ranking", "105-documents",
-        "106-batches", "107-jxc" };
+    const char *names[] = { "121-inward", "122-purchases", "123-buyers", "124-outward", "125-sales",
+        "126-salesmen", "127-movements", "128-stock-cost", "129-business", "130-ranking", "131-documents",
+        "132-batches", "133-jxc" };
     for (int position = 1; position <= 13; ++position) {
         window.openOperation(QStringLiteral("tjgl"), position);
         ui::stats::ReportScreen *screen = reportIn(window.tabs()->currentWidget());
@@ -184,14 +184,14 @@ void shootStatistics(const std::function<void(QWidget *, const QString &)> &shoo
             auto *tabs = qobject_cast<QTabWidget *>(window.tabs()->currentWidget());
             tabs->setCurrentIndex(1);
             runOverTheMonths(reportIn(tabs), today);
-            shoot(&window, QStringLiteral("102-stock-value"));
+            shoot(&window, QStringLiteral("128-stock-value"));
         }
         if (position == 11) {
             screen->grid()->selectRow(0);
             ui::stats::DocumentDialog *document = ui::stats::DocumentDialog::open(
                 workspace, screen->model()->table().keys.value(0), &window);
             if (document) {
-                shoot(document, QStringLiteral("105-document"));
+                shoot(document, QStringLiteral("131-document"));
                 document->close();
             }
         }
@@ -200,6 +200,6 @@ void shootStatistics(const std::function<void(QWidget *, const QString &)> &shoo
     jxc->grid()->selectRow(0);
     ui::stats::MovementDialog *movements = jxc->openMovements();
     waitFor(movements->screen());
-    shoot(movements, QStringLiteral("108-jxc-movements"));
+    shoot(movements, QStringLiteral("134-jxc-movements"));
     movements->close();
 }
