@@ -17,10 +17,10 @@ namespace medistock::accounts {
 // The filters every tab shares.
 struct StatementFilter
 {
-    QString from; // "yyyy-MM-dd"
-    QString to; // "yyyy-MM-dd": the whole day counts (compared with " 23:59:59" appended)
-    QString party; // one customer or supplier; empty for all of them
-    QString text; // the tab's search text; empty for no search
+    QString from {}; // "yyyy-MM-dd"
+    QString to {}; // "yyyy-MM-dd": the whole day counts (compared with " 23:59:59" appended)
+    QString party {}; // one customer or supplier; empty for all of them
+    QString text {}; // the tab's search text; empty for no search
     bool descending = false; // the date order of the document lists and journal rows
 };
 
