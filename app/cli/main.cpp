@@ -23,6 +23,8 @@ int main(int argc, char *argv[])
     medistock::cli::addPurchasingCommands(registry);
     medistock::cli::addSalesCommands(registry);
     medistock::cli::addMembersCommands(registry);
+    medistock::cli::addLoansCommands(registry);
+    medistock::cli::addStatementCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();
