@@ -14,6 +14,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QCoreApplication>
+
 #include <memory>
 
 using namespace medistock;
@@ -104,12 +106,17 @@ struct StatementSet
     }
 };
 
+std::unique_ptr<StatementSet> theSet;
+
+// The copy is closed while the application still stands: closed later, from the static
+// destructors, its database driver is already gone.
 StatementSet &statementSet()
 {
-    static std::unique_ptr<StatementSet> set;
-    if (!set)
-        set = std::make_unique<StatementSet>();
-    return *set;
+    if (!theSet) {
+        theSet = std::make_unique<StatementSet>();
+        qAddPostRoutine([] { theSet.reset(); });
+    }
+    return *theSet;
 }
 
 accounts::StatementFilter lastYear()
