@@ -3,11 +3,13 @@
 #include "core/connection.h"
 #include "core/datafolder.h"
 #include "core/dberror.h"
+#include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/messagebox.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
@@ -46,6 +48,8 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerLoanScreens(registry);
+    ui::registerStatementScreens(registry);
 }
 
 } // namespace
