@@ -3,6 +3,7 @@
 // program can be seen without a display. Runs on the offscreen platform unless another one is
 // chosen.
 #include "app/screenshots/documents.h"
+#include "app/screenshots/loans.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "core/accountsets.h"
@@ -13,10 +14,12 @@
 #include "shell/accountsets.h"
 #include "shell/operators.h"
 #include "shell/rights.h"
+#include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
@@ -255,6 +258,8 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerLoanScreens(registry);
+    ui::registerStatementScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -279,11 +284,11 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
     shootMasterData(shoot, window, workspace, scratch);
     shootMembers(shoot, window, workspace, scratch);
-    shootDocuments({ shoot,
-                       [&](QWidget *over, QWidget *dialog, const QString &name) {
+    const Shots shots { shoot, [&](QWidget *over, QWidget *dialog, const QString &name) {
                            shooter.shootOver(over, dialog, name);
-                       } },
-        window, workspace);
+                       } };
+    shootDocuments(shots, window, workspace);
+    shootLoans(shots, window, workspace);
 }
 
 } // namespace

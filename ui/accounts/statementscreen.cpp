@@ -89,6 +89,7 @@ StatementScreen::StatementScreen(Workspace &workspace, const QString &title,
         layout->addWidget(m_linesCaption);
         layout->addWidget(view);
         setDetail(detail);
+        m_linesPanel = detail;
         connect(this, &QueryScreen::currentRowChanged, this, &StatementScreen::showLines);
     }
     showView(0);
@@ -133,6 +134,7 @@ void StatementScreen::showView(int index)
     if (m_linesModel) {
         m_linesModel->setRows({}, {});
         m_linesCaption->clear();
+        m_linesPanel->setVisible(view.documentLines);
     }
 }
 

@@ -76,6 +76,7 @@ private:
     QSpinBox *m_days = nullptr;
     QueryModel *m_linesModel = nullptr;
     class QLabel *m_linesCaption = nullptr;
+    QWidget *m_linesPanel = nullptr;
 };
 
 // The windows: their tabs, each a StatementScreen.

@@ -79,6 +79,13 @@ int LoanScreenKind::uncheckRight() const
     return loans::loanRight;
 }
 
+QList<LineField> LoanScreenKind::lineFields() const
+{
+    return { LineField::Row, LineField::Code, LineField::Name, LineField::Packing, LineField::Unit,
+        LineField::Batch, LineField::Produced, LineField::Expiry, LineField::Quantity,
+        LineField::Price, LineField::Amount, LineField::Stock };
+}
+
 QString LoanScreenKind::dueLabel() const
 {
     return lntexts::due;

@@ -18,6 +18,8 @@ public:
     int checkRight() const override;
     int uncheckRight() const override;
     bool outgoing() const override { return true; }
+    // A loan line keeps no discount, tax or remark.
+    QList<LineField> lineFields() const override;
     QString dueLabel() const override;
     QString printKey() const override { return QStringLiteral("khjh"); }
     QList<std::pair<QString, QWidget *>> createHeaderFields(QWidget *parent) override;
