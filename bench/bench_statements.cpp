@@ -5,6 +5,7 @@
 // customer), and every 40th sale returned in part the next day (header in jxc_xsthd, "xt" rows).
 //   ./build/bench/bench_statements
 #include "accounts/statements.h"
+#include "bench/keep.h"
 #include "bench/stockledger.h"
 #include "core/connection.h"
 #include "core/dberror.h"
@@ -13,8 +14,6 @@
 #include "shell/session.h"
 
 #include <benchmark/benchmark.h>
-
-#include <QCoreApplication>
 
 #include <memory>
 
@@ -106,17 +105,12 @@ struct StatementSet
     }
 };
 
-std::unique_ptr<StatementSet> theSet;
-
-// The copy is closed while the application still stands: closed later, from the static
-// destructors, its database driver is already gone.
 StatementSet &statementSet()
 {
-    if (!theSet) {
-        theSet = std::make_unique<StatementSet>();
-        qAddPostRoutine([] { theSet.reset(); });
-    }
-    return *theSet;
+    static StatementSet *set = nullptr;
+    if (!set)
+        set = &bench::keepForRun(std::make_unique<StatementSet>());
+    return *set;
 }
 
 accounts::StatementFilter lastYear()
