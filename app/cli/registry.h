@@ -48,6 +48,9 @@ void addSalesCommands(Registry &registry);
 void addLoansCommands(Registry &registry);
 // statement: the customer and supplier statements as tab-separated rows.
 void addStatementCommands(Registry &registry);
+// gsp (the GSP records), with gsp-add and gsp-delete.
+void addGspCommands(Registry &registry);
+void addGspEntryCommands(Registry &registry);
 // Members, points, top-ups, gifts and the till's documents.
 void addMembersCommands(Registry &registry);
 

@@ -3,6 +3,7 @@
 // program can be seen without a display. Runs on the offscreen platform unless another one is
 // chosen.
 #include "app/screenshots/documents.h"
+#include "app/screenshots/gsp.h"
 #include "app/screenshots/loans.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
@@ -19,6 +20,7 @@
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/gsp/registration.h"
 #include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
@@ -255,6 +257,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::ScreenRegistry registry;
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
@@ -289,6 +292,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
                        } };
     shootDocuments(shots, window, workspace);
     shootLoans(shots, window, workspace);
+    shootGsp(shoot, window, workspace);
 }
 
 } // namespace
