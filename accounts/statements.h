@@ -102,7 +102,7 @@ struct JournalLine
     QString goods;
     QString goodsName;
     QString unit;
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString batch;
     QString expiry;
     QString produced;
@@ -135,7 +135,7 @@ struct GoodsTotals
     QString goodsName;
     QString unit;
     double stock = 0; // g_kc
-    QString spec; // gg_name
+    QString packing; // gg_name
     QString approval; // color_name
     QString maker; // g_sccs
     QString remark; // g_bz

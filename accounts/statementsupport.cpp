@@ -98,7 +98,7 @@ JournalLine readJournalLine(const QSqlQuery &q)
     l.goods = text(q, 4);
     l.goodsName = text(q, 5);
     l.unit = text(q, 6);
-    l.spec = text(q, 7);
+    l.packing = text(q, 7);
     l.batch = text(q, 8);
     l.expiry = text(q, 9);
     l.produced = text(q, 10);
@@ -127,7 +127,7 @@ void readGoods(GoodsTotals &row, const QSqlQuery &q)
     row.goodsName = text(q, 1);
     row.unit = text(q, 2);
     row.stock = figure(q, 3);
-    row.spec = text(q, 4);
+    row.packing = text(q, 4);
     row.approval = text(q, 5);
     row.maker = text(q, 6);
     row.remark = text(q, 7);

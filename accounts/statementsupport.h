@@ -37,7 +37,7 @@ QString text(const QSqlQuery &q, int index);
 double profitRate(double profit, double beforeTax);
 
 // The journal columns that readJournalLine reads, from jxc_goodslist joined as `a`: id, date,
-// number, kind, goods, name, unit, spec, batch, expiry, produced, party, party name, warehouse
+// number, kind, goods, name, unit, packing, batch, expiry, produced, party, party name, warehouse
 // name, quantity, price, amount, amount before tax, tax, profit.
 QString journalColumns();
 JournalLine readJournalLine(const QSqlQuery &q);

@@ -115,7 +115,7 @@ QList<LoanLineRow> loanLines(const shell::Session &session, const QString &numbe
             r.goods = q.value(2).toString();
             r.goodsName = q.value(3).toString();
             r.unit = q.value(4).toString();
-            r.spec = q.value(5).toString();
+            r.packing = q.value(5).toString();
             r.batch = q.value(6).toString();
             r.expiry = q.value(7).toString();
             r.produced = q.value(8).toString();

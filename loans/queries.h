@@ -59,7 +59,7 @@ struct LoanLineRow
     QString goods;
     QString goodsName;
     QString unit;
-    QString spec;
+    QString packing;
     QString batch;
     QString expiry;
     QString produced;

@@ -66,7 +66,7 @@ Table journalTable(const QList<accounts::JournalLine> &lines)
         QStringLiteral("金额"), QStringLiteral("税额"), QStringLiteral("毛利"),
         QStringLiteral("毛利率%") } };
     for (const auto &l : lines)
-        t.rows.append({ l.date, l.number, l.kind, l.goods, l.goodsName, l.unit, l.spec, l.batch,
+        t.rows.append({ l.date, l.number, l.kind, l.goods, l.goodsName, l.unit, l.packing, l.batch,
             l.expiry, l.party, l.partyName, l.warehouse, num(l.quantity), num(l.price),
             num(l.amount), num(l.beforeTax), num(l.tax), num(l.profit), num(l.profitRate) });
     return t;
@@ -82,7 +82,7 @@ Table goodsTable(const QList<accounts::GoodsTotals> &rows, const QStringList &ex
                   QStringLiteral("金额"), QStringLiteral("税额") }
         + extra };
     for (const auto &g : rows)
-        t.rows.append(QStringList { g.goods, g.goodsName, g.unit, num(g.stock), g.spec, g.approval,
+        t.rows.append(QStringList { g.goods, g.goodsName, g.unit, num(g.stock), g.packing, g.approval,
                           g.maker, g.remark, g.goodsShort, num(g.quantity), num(g.amount),
                           num(g.beforeTax), num(g.tax) }
             + extraValues(g));

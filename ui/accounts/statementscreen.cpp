@@ -25,7 +25,7 @@ QList<QVariantList> lineRows(const QList<accounts::JournalLine> &lines)
 {
     QList<QVariantList> rows;
     for (const accounts::JournalLine &l : lines)
-        rows.append({ l.goods, l.goodsName, l.spec, l.unit, l.batch, l.expiry, l.quantity, l.price,
+        rows.append({ l.goods, l.goodsName, l.packing, l.unit, l.batch, l.expiry, l.quantity, l.price,
             l.amount, l.profit, l.profitRate });
     return rows;
 }

@@ -109,7 +109,7 @@ StatementView goodsView(const Places &d, GoodsQuery query, bool lastDate)
     return { QStringLiteral("商品汇总"), columns, [query, lastDate](const StatementScreen &s) {
                 QList<QVariantList> rows;
                 for (const accounts::GoodsTotals &r : query(s.session(), s.filter())) {
-                    QVariantList row { r.goods, r.goodsName, r.spec, r.unit, r.maker, r.quantity,
+                    QVariantList row { r.goods, r.goodsName, r.packing, r.unit, r.maker, r.quantity,
                         r.amount, r.beforeTax, r.tax, r.profit, r.profitRate, r.stock };
                     if (lastDate)
                         row.append(r.lastDate);
