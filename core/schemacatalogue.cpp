@@ -123,6 +123,13 @@ constexpr IndexDef indexes[] = {
     { "jxc_cljcsp", "gl_djh" },
     { "jxc_jxqd", "gl_djh" },
     { "jxc_jxqsp", "gl_djh" },
+    // the till and its reports: POS documents by time, the ledger's POS rows by date, a return's
+    // sale, the till's cash and handovers by time
+    { "jxc_posxsd", "pos_xsrq" },
+    { "jxc_goodslist", "gl_fdmc,gl_kdrq" },
+    { "jxc_goodslist", "gl_djh2" },
+    { "jxc_crk", "crk_rq" },
+    { "jxc_jbgl", "jb_time" },
 };
 
 } // namespace

@@ -26,6 +26,7 @@ int main(int argc, char *argv[])
     medistock::cli::addMembersCommands(registry);
     medistock::cli::addLoansCommands(registry);
     medistock::cli::addStatementCommands(registry);
+    medistock::cli::addPosCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);
     out.flush();

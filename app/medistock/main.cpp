@@ -13,7 +13,9 @@
 #include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -48,10 +50,12 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
+    ui::registerPosScreens(registry);
 }
 
 } // namespace

@@ -132,26 +132,26 @@ void shootLoans(const Shots &shots, ui::MainWindow &window, ui::Workspace &works
     window.openOperation(QStringLiteral("rcgl"), 4);
     auto *screen = qobject_cast<ui::DocumentScreen *>(window.tabs()->currentWidget());
     screen->openDocument(loan);
-    shots.shoot(&window, QStringLiteral("81-loan"));
+    shots.shoot(&window, QStringLiteral("101-loan"));
     ui::LoanReturnDialog back(
         workspace, loan, std::nullopt, ui::LoanReturnDialog::Mode::Return, &window);
-    shots.shootOver(&window, &back, QStringLiteral("82-loan-return"));
+    shots.shootOver(&window, &back, QStringLiteral("102-loan-return"));
     back.hide();
     ui::LoanReturnDialog sale(
         workspace, loan, std::nullopt, ui::LoanReturnDialog::Mode::Sale, &window);
-    shots.shootOver(&window, &sale, QStringLiteral("83-loan-to-sale"));
+    shots.shootOver(&window, &sale, QStringLiteral("103-loan-to-sale"));
     sale.hide();
     ui::LoanListDialog list(*screen);
     list.list()->fromField()->setText(day(workspace.session, 30));
     list.list()->run();
-    shots.shootOver(&window, &list, QStringLiteral("84-loan-list"));
+    shots.shootOver(&window, &list, QStringLiteral("104-loan-list"));
     list.list()->listBox()->setCurrentIndex(1);
-    shots.shootOver(&window, &list, QStringLiteral("85-loan-returns-list"));
+    shots.shootOver(&window, &list, QStringLiteral("105-loan-returns-list"));
     list.hide();
     screen->newDocument();
-    shots.shoot(&window, QStringLiteral("86-loan-new"));
+    shots.shoot(&window, QStringLiteral("106-loan-new"));
     shootStatements(
-        shots, window, QStringLiteral("xsgl"), QStringLiteral("customer-statements"), 87);
+        shots, window, QStringLiteral("xsgl"), QStringLiteral("customer-statements"), 107);
     shootStatements(
-        shots, window, QStringLiteral("cggl"), QStringLiteral("supplier-statements"), 95);
+        shots, window, QStringLiteral("cggl"), QStringLiteral("supplier-statements"), 115);
 }

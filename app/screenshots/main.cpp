@@ -7,6 +7,8 @@
 #include "app/screenshots/loans.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/pos.h"
+#include "app/screenshots/sales.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -24,7 +26,9 @@
 #include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -259,10 +263,12 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
+    ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -291,8 +297,10 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
                            shooter.shootOver(over, dialog, name);
                        } };
     shootDocuments(shots, window, workspace);
-    shootLoans(shots, window, workspace);
     shootGsp(shoot, window, workspace);
+    shootPos(shots, window, workspace);
+    shootSales(shots, window, workspace);
+    shootLoans(shots, window, workspace);
 }
 
 } // namespace

@@ -86,8 +86,9 @@ void DocumentScreen::refreshButtons()
     allowIf(m_checkButton, m_kind->checkRight(), !m_checked);
     allowIf(m_uncheckButton, m_kind->uncheckRight(), m_checked);
     allowIf(m_deleteButton, entry.deleteRight, stored && !m_checked);
-    for (QPushButton *button : { m_checkButton, m_uncheckButton, m_deleteButton })
+    for (QPushButton *button : { m_checkButton, m_deleteButton })
         button->setVisible(m_kind->hasCheck());
+    m_uncheckButton->setVisible(m_kind->hasUncheck());
     const bool adding = !m_checked && (!stored || allows(m_kind->addToSavedRight()));
     m_lines->setAddingAllowed(adding);
     allowIf(m_insertButton, stored ? m_kind->addToSavedRight() : 0, adding);
@@ -323,7 +324,7 @@ void DocumentScreen::check()
 
 void DocumentScreen::uncheck()
 {
-    if (!m_checked || !m_uncheckButton->isEnabled())
+    if (!m_checked || !m_kind->hasUncheck() || !m_uncheckButton->isEnabled())
         return;
     if (m_kind->uncheck(m_workspace.session, m_number))
         openDocument(m_number);
