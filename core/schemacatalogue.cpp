@@ -49,15 +49,16 @@ constexpr const char *kept[] = {
     "jxc_xtcs",
 };
 
-// The goods ledger is read per goods and warehouse in date-then-id order by every posting, and by
-// document number on every uncheck; the money ledgers per party or account in date order. The
-// first ledger index also carries the kind and the figures the purchase-sales-stock summary adds
-// up, so that a year's summary reads the index alone; the running columns a rerun rewrites stay
-// out of it.
+// The goods ledger is read per goods and warehouse in date-then-id order by every posting, by
+// document number on every uncheck, and by kind and date range by the statements; the money
+// ledgers per party or account in date order. The first ledger index also carries the kind and
+// the figures the purchase-sales-stock summary adds up, so that a year's summary reads the index
+// alone; the running columns a rerun rewrites stay out of it.
 constexpr IndexDef indexes[] = {
     { "jxc_goodslist", "g_sn,ck_sn,gl_kdrq,id,gl_flag,gl_sl,gl_je,gl_zje,gl_zcb" },
     { "jxc_goodslist", "gl_djh" },
     { "jxc_goodslist", "ck_sn,gl_kdrq" },
+    { "jxc_goodslist", "gl_flag,gl_kdrq" },
     { "jxc_kcsp", "ck_sn,g_sn" },
     { "jxc_kcsp", "g_sn" },
     { "jxc_tkc", "g_sn,ck_sn,t_ph,t_yxq,t_scrq" },

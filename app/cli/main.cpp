@@ -25,6 +25,8 @@ int main(int argc, char *argv[])
     medistock::cli::addGspCommands(registry);
     medistock::cli::addMembersCommands(registry);
     medistock::cli::addStatisticsCommands(registry);
+    medistock::cli::addLoansCommands(registry);
+    medistock::cli::addStatementCommands(registry);
     medistock::cli::addPosCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);

@@ -44,6 +44,10 @@ void addStockCommands(Registry &registry);
 // The purchase receipt "CJ" and return "CT" in the document registry.
 void addPurchasingCommands(Registry &registry);
 void addSalesCommands(Registry &registry);
+// The loan "JH" and the return "HH" in the document registry, loan-open and loan-return.
+void addLoansCommands(Registry &registry);
+// statement: the customer and supplier statements as tab-separated rows.
+void addStatementCommands(Registry &registry);
 // gsp (the GSP records), with gsp-add and gsp-delete.
 void addGspCommands(Registry &registry);
 void addGspEntryCommands(Registry &registry);

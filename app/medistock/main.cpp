@@ -3,12 +3,14 @@
 #include "core/connection.h"
 #include "core/datafolder.h"
 #include "core/dberror.h"
+#include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/messagebox.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
+#include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
@@ -53,6 +55,8 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerStatisticsScreens(registry);
+    ui::registerLoanScreens(registry);
+    ui::registerStatementScreens(registry);
     ui::registerPosScreens(registry);
 }
 

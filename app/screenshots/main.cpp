@@ -4,6 +4,7 @@
 // chosen.
 #include "app/screenshots/documents.h"
 #include "app/screenshots/gsp.h"
+#include "app/screenshots/loans.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "app/screenshots/pos.h"
@@ -17,11 +18,13 @@
 #include "shell/accountsets.h"
 #include "shell/operators.h"
 #include "shell/rights.h"
+#include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
+#include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
@@ -266,6 +269,8 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerStatisticsScreens(registry);
+    ui::registerLoanScreens(registry);
+    ui::registerStatementScreens(registry);
     ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
@@ -299,6 +304,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootStatistics(shoot, window, workspace);
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
+    shootLoans(shots, window, workspace);
 }
 
 } // namespace

@@ -95,6 +95,8 @@ void DocumentScreen::refreshButtons()
     m_deleteLineButton->setEnabled(!m_checked);
     for (QPushButton *action : std::as_const(m_editingActions))
         action->setEnabled(!m_checked);
+    for (QPushButton *action : std::as_const(m_checkedActions))
+        action->setEnabled(m_checked && stored);
 }
 
 void DocumentScreen::markModified()
@@ -347,6 +349,20 @@ void DocumentScreen::showUnchecked()
 
 void DocumentScreen::addEditingAction(QPushButton *button, const QKeySequence &key)
 {
+    addBarAction(button, key);
+    m_editingActions.append(button);
+    button->setEnabled(!m_checked);
+}
+
+void DocumentScreen::addCheckedAction(QPushButton *button, const QKeySequence &key)
+{
+    addBarAction(button, key);
+    m_checkedActions.append(button);
+    button->setEnabled(m_checked && !m_number.isEmpty());
+}
+
+void DocumentScreen::addBarAction(QPushButton *button, const QKeySequence &key)
+{
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
     m_bar->insertWidget(m_bar->count() - 1, button);
@@ -356,8 +372,6 @@ void DocumentScreen::addEditingAction(QPushButton *button, const QKeySequence &k
         if (button->isEnabled())
             button->click();
     });
-    m_editingActions.append(button);
-    button->setEnabled(!m_checked);
 }
 
 void DocumentScreen::closeEvent(QCloseEvent *event)
