@@ -121,7 +121,11 @@ private:
         const int sequence = 10001 + m_documentLines[receipt ? 0 : 1]++ / linesPerDocument;
         const QString number
             = kind.toUpper() + day.toString(QStringLiteral("yyMMdd")) + QString::number(sequence);
-        insertRow(pair, day, kind, number, { quantity, amount, price }, step);
+        // A sale is costed at the average it leaves at, as the sale's entry costs it.
+        const double cost = receipt ? 0 : pair.state.average;
+        insertRow(pair, day, kind, number,
+            { quantity, amount, price, cost, m_session.params().roundAmount(quantity * cost) },
+            step);
         pair.state = step.after;
         pair.batches[year] += receipt ? quantity : -quantity;
         (receipt ? pair.receipts : pair.sales) += 1;
@@ -131,25 +135,29 @@ private:
 
     struct Line
     {
-        double quantity, amount, price;
+        double quantity, amount, price, cost, totalCost;
     };
 
     void insertRow(const Pair &pair, QDate day, const QString &kind, const QString &number,
         Line line, const stock::LedgerStep &step)
     {
         const QString date = day.toString(QStringLiteral("yyyy-MM-dd"));
+        const bool sale = kind == QLatin1String("xs");
         m_session.db().exec(
             QStringLiteral("insert into jxc_goodslist (gl_flag,gl_djh,gl_kdrq,g_sn,g_name,dw_name,"
                            "gl_dj,gl_sl,gl_zje,gl_je,gl_lr,gl_dzl,a_name,ck_sn,ghs_sn,t_ph,t_yxq,"
-                           "t_scrq,gl_checker,gl_chkrq,gl_sqsl,gl_sqje,gl_kc,gl_pjjj,gl_kczje) "
-                           "values (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
+                           "t_scrq,gl_checker,gl_chkrq,gl_sqsl,gl_sqje,gl_kc,gl_pjjj,gl_kczje,"
+                           "gl_cbj,gl_zcb) "
+                           "values (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
             { kind, number, date, benchGoods(pair.goods),
                 QStringLiteral("测试药品") + QString::number(pair.goods), QStringLiteral("盒"),
-                line.price, line.quantity, line.amount, line.amount, 0, 1, QStringLiteral("admin"),
-                warehouses[pair.warehouse], QStringLiteral("100001"),
+                line.price, line.quantity, line.amount, line.amount, line.amount - line.totalCost,
+                1, QStringLiteral("admin"), warehouses[pair.warehouse], QStringLiteral("100001"),
                 QStringLiteral("P") + date.left(4), QStringLiteral("2028-12-31"),
                 QStringLiteral("2022-01-01"), QStringLiteral("admin"), date, step.carriedQuantity,
-                step.carriedAmount, step.after.quantity, step.after.average, step.after.value });
+                step.carriedAmount, step.after.quantity, step.after.average, step.after.value,
+                sale ? QVariant(line.cost) : QVariant(),
+                sale ? QVariant(line.totalCost) : QVariant() });
     }
 
     void writeStores()
@@ -240,7 +248,7 @@ QString cachePath(const LedgerShape &shape)
     QString folder = qEnvironmentVariable("MEDISTOCK_BENCH_CACHE");
     if (folder.isEmpty())
         folder = QDir::tempPath();
-    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v2-%1-%2-%3-%4.db")
+    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v3-%1-%2-%3-%4.db")
                                      .arg(shape.goods)
                                      .arg(shape.rows)
                                      .arg(shape.busyRows)

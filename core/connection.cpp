@@ -71,12 +71,18 @@ private:
     bool m_owned;
 };
 
-Connection::Connection(QSqlDatabase db, Dialect dialect, QString path)
+Connection::Connection(QSqlDatabase db, Dialect dialect, QString path, PostgresOptions postgres)
     : m_db(std::move(db))
     , m_connectionName(m_db.connectionName())
     , m_dialect(dialect)
     , m_path(std::move(path))
+    , m_postgres(std::move(postgres))
 { }
+
+std::unique_ptr<Connection> Connection::openAnother() const
+{
+    return m_dialect == Dialect::Sqlite ? openSqlite(m_path) : openPostgres(m_postgres);
+}
 
 Connection::~Connection()
 {
@@ -103,7 +109,8 @@ std::unique_ptr<Connection> Connection::openSqlite(const QString &path)
         QSqlDatabase::removeDatabase(name);
         throw DbError(text);
     }
-    std::unique_ptr<Connection> connection(new Connection(db, Dialect::Sqlite, path));
+    std::unique_ptr<Connection> connection(
+        new Connection(db, Dialect::Sqlite, path, PostgresOptions()));
     // WAL lets several copies of the program read while one writes; the cache keeps the ledger
     // indexes in memory on large account sets.
     connection->execDirect(QStringLiteral("pragma journal_mode=wal"));
@@ -127,7 +134,7 @@ std::unique_ptr<Connection> Connection::openPostgres(const PostgresOptions &opti
         QSqlDatabase::removeDatabase(name);
         throw DbError(text);
     }
-    return std::unique_ptr<Connection>(new Connection(db, Dialect::Postgres, QString()));
+    return std::unique_ptr<Connection>(new Connection(db, Dialect::Postgres, QString(), options));
 }
 
 void Connection::execDirect(const QString &sql)

@@ -35,6 +35,10 @@ public:
     static std::unique_ptr<Connection> openSqlite(const QString &path);
     static std::unique_ptr<Connection> openPostgres(const PostgresOptions &options);
 
+    // A new connection to the same database, for a worker thread: call it on the thread that
+    // will use the connection (a connection belongs to the thread that opened it).
+    std::unique_ptr<Connection> openAnother() const;
+
     ~Connection();
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
@@ -76,7 +80,7 @@ public:
     QSqlDatabase database() const { return m_db; }
 
 private:
-    Connection(QSqlDatabase db, Dialect dialect, QString path);
+    Connection(QSqlDatabase db, Dialect dialect, QString path, PostgresOptions postgres);
     class Statement;
     // A prepared statement from the cache, or a fresh one when the cached one is in use.
     Statement take(const QString &sql, const QVariantList &params);
@@ -85,6 +89,7 @@ private:
     QString m_connectionName;
     Dialect m_dialect;
     QString m_path;
+    PostgresOptions m_postgres;
     QHash<QString, QSqlQuery *> m_cache;
     QHash<QString, bool> m_busy;
     int m_depth = 0;

@@ -51,9 +51,11 @@ constexpr const char *kept[] = {
 
 // The goods ledger is read per goods and warehouse in date-then-id order by every posting, by
 // document number on every uncheck, and by kind and date range by the statements; the money
-// ledgers per party or account in date order.
+// ledgers per party or account in date order. The first ledger index also carries the kind and
+// the figures the purchase-sales-stock summary adds up, so that a year's summary reads the index
+// alone; the running columns a rerun rewrites stay out of it.
 constexpr IndexDef indexes[] = {
-    { "jxc_goodslist", "g_sn,ck_sn,gl_kdrq,id" },
+    { "jxc_goodslist", "g_sn,ck_sn,gl_kdrq,id,gl_flag,gl_sl,gl_je,gl_zje,gl_zcb" },
     { "jxc_goodslist", "gl_djh" },
     { "jxc_goodslist", "ck_sn,gl_kdrq" },
     { "jxc_goodslist", "gl_flag,gl_kdrq" },
@@ -68,6 +70,7 @@ constexpr IndexDef indexes[] = {
     { "jxc_xjyh", "xj_kmmc,xj_rq,id" },
     { "jxc_xjyh", "gl_djh" },
     { "jxc_log", "log_time" },
+    { "jxc_jxchz", "a_name,g_sn" },
     { "jxc_goods", "g_sn" },
     { "jxc_khxx", "kh_sn" },
     { "jxc_ghsxx", "ghs_sn" },

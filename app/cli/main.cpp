@@ -24,6 +24,7 @@ int main(int argc, char *argv[])
     medistock::cli::addSalesCommands(registry);
     medistock::cli::addGspCommands(registry);
     medistock::cli::addMembersCommands(registry);
+    medistock::cli::addStatisticsCommands(registry);
     medistock::cli::addLoansCommands(registry);
     medistock::cli::addStatementCommands(registry);
     medistock::cli::addPosCommands(registry);

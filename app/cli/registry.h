@@ -53,6 +53,8 @@ void addGspCommands(Registry &registry);
 void addGspEntryCommands(Registry &registry);
 // Members, points, top-ups, gifts and the till's documents.
 void addMembersCommands(Registry &registry);
+// "stats": the statistics reports, the summary's difference check and the cost resync.
+void addStatisticsCommands(Registry &registry);
 // The till's reports, cash in and out and the shift handover.
 void addPosCommands(Registry &registry);
 

@@ -20,6 +20,7 @@
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/shell/registration.h"
+#include "ui/statistics/registration.h"
 #include "ui/stock/registration.h"
 
 #include <QApplication>
@@ -53,6 +54,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerStatisticsScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
     ui::registerPosScreens(registry);

@@ -9,6 +9,7 @@
 #include "app/screenshots/members.h"
 #include "app/screenshots/pos.h"
 #include "app/screenshots/sales.h"
+#include "app/screenshots/statistics.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -39,6 +40,7 @@
 #include "ui/shell/registration.h"
 #include "ui/shell/roleeditor.h"
 #include "ui/shell/settingsscreen.h"
+#include "ui/statistics/registration.h"
 #include "ui/stock/registration.h"
 
 #include <QApplication>
@@ -266,6 +268,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
+    ui::registerStatisticsScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
     ui::registerPosScreens(registry);
@@ -298,6 +301,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
                        } };
     shootDocuments(shots, window, workspace);
     shootGsp(shoot, window, workspace);
+    shootStatistics(shoot, window, workspace);
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
