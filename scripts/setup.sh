@@ -9,6 +9,7 @@ packages=(
     libqt6sql6-sqlite libqt6sql6-psql qt6-svg-dev libqt6svg6 libgl-dev
     libsqlite3-dev libsodium-dev libicu-dev libxlsxwriter-dev libzip-dev
     libgtest-dev libgmock-dev libbenchmark-dev
+    libzint-dev poppler-utils
     fonts-noto-cjk xvfb xauth
 )
 
