@@ -223,6 +223,8 @@ Result<BandDesign> bandDesign(
     band.dataset
         = node.property(QStringLiteral("DataSetName"), node.property(QStringLiteral("DataSet")));
     band.rowCount = int(node.number(QStringLiteral("RowCount"), 1));
+    band.columns = std::max(int(node.number(QStringLiteral("Columns"), 1)), 1);
+    band.columnWidth = node.number(QStringLiteral("ColumnWidth"), band.height);
     readFillRows(node, band);
     if (kind == Kind::GroupHeader) {
         QString condition = node.property(QStringLiteral("Condition"));

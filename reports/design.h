@@ -78,6 +78,8 @@ struct BandDesign
     QString dataset; // empty: RowCount rows without data
     int rowCount = 1;
     int fillRows = 0; // rows per page; the last page is filled with blank rows up to it
+    int columns = 1; // rows placed side by side (labels), each ColumnWidth wide
+    double columnWidth = 0;
     bool fillPage = false; // blank rows until the page is full
     // Group header.
     std::optional<Expression> condition;

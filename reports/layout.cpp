@@ -63,6 +63,7 @@ private:
     void newPage();
     void printBand(const BandDesign &band, const std::function<void()> &placing = {});
     void printChild(const BandDesign &band);
+    void printAcross(const BandDesign &band, int column);
     void runMaster(const MasterDesign &master);
     int rowsOf(const BandDesign &band) const;
     void openGroups(const MasterDesign &master, int from);
@@ -303,6 +304,23 @@ void Engine::printChild(const BandDesign &band)
         printBand(*child);
 }
 
+// Rows side by side (price labels): a new line of them starts at the first column, and moves to
+// a new page when it does not fit.
+void Engine::printAcross(const BandDesign &band, int column)
+{
+    if (column == 0) {
+        if (m_y + band.height > m_limit + 0.01 && m_y > m_contentTop)
+            newPage();
+        m_y += band.height;
+    }
+    accumulate(band);
+    const FilledBand filled = fillBand(band, *this, false);
+    const QPointF origin(
+        m_page->marginsMm.left() * pixelsPerMillimetre + column * band.columnWidth,
+        m_y - band.height);
+    placeBand(band, filled, origin, page());
+}
+
 int Engine::rowsOf(const BandDesign &band) const
 {
     if (band.dataset.isEmpty())
@@ -365,6 +383,10 @@ void Engine::runMaster(const MasterDesign &master)
         if (changed < values.size())
             openGroups(master, changed);
         groupValues = values;
+        if (data.columns > 1) {
+            printAcross(data, row % data.columns);
+            continue;
+        }
         if (data.fillRows > 0 && m_rowsOnPage == data.fillRows)
             newPage();
         printBand(data, [&] {

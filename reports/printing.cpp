@@ -170,7 +170,7 @@ Result<int> printAll(const shell::Session &session, const TemplateFolders &folde
     if (!documentPrint(key))
         return core::refuse(session.ui(), texts::unknownKey(key));
     if (!session.ui().ask(texts::printAllQuestion()))
-        return Outcome::refused(QString());
+        return Outcome::refused(texts::printAllQuestion());
     int handed = 0;
     for (const QString &number : numbers) {
         Result<PrintedDocument> document

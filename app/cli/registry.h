@@ -15,6 +15,7 @@ struct Command
     QString usage; // the arguments, as shown in the help text
     QString summary; // one line
     std::function<int(Context &, Args &)> run;
+    bool paints = false; // lays out text, so the program starts with fonts (a GUI application)
 };
 
 class Registry
@@ -44,7 +45,11 @@ void addStockCommands(Registry &registry);
 // The purchase receipt "CJ" and return "CT" in the document registry.
 void addPurchasingCommands(Registry &registry);
 void addSalesCommands(Registry &registry);
+// print, print-all and print-sample.
+void addReportCommands(Registry &registry);
 
+// The command an argument list runs (global options skipped); empty when there is none.
+QString commandName(const QStringList &arguments);
 // Parses the global options, runs the command and returns the exit status.
 int runCli(
     const Registry &registry, const QStringList &arguments, QTextStream &out, QTextStream &err);
