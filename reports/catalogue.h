@@ -13,7 +13,7 @@ struct TemplateEntry
     QString title;
 };
 
-// The 67 templates offered for design, in the order of their buttons.
+// The 66 templates offered for design, in the order of their buttons.
 QList<TemplateEntry> designableTemplates();
 // The templates report screens print with that are not offered for design and that this
 // version ships (the POS reports, the GSP records, the return print of the drug ledger).

@@ -315,8 +315,7 @@ void Engine::printAcross(const BandDesign &band, int column)
     }
     accumulate(band);
     const FilledBand filled = fillBand(band, *this, false);
-    const QPointF origin(
-        m_page->marginsMm.left() * pixelsPerMillimetre + column * band.columnWidth,
+    const QPointF origin(m_page->marginsMm.left() * pixelsPerMillimetre + column * band.columnWidth,
         m_y - band.height);
     placeBand(band, filled, origin, page());
 }

@@ -23,7 +23,8 @@ void collectFields(const TemplateNode &node, QHash<QString, QStringList> &fields
             continue;
         for (auto it = reference.globalMatch(value); it.hasNext();) {
             const QRegularExpressionMatch match = it.next();
-            const QString field = match.captured(2).isEmpty() ? match.captured(3) : match.captured(2);
+            const QString field
+                = match.captured(2).isEmpty() ? match.captured(3) : match.captured(2);
             QStringList &list = fields[match.captured(1)];
             if (!list.contains(field))
                 list.append(field);
@@ -37,9 +38,9 @@ void collectFields(const TemplateNode &node, QHash<QString, QStringList> &fields
         collectFields(*child, fields);
 }
 
-const char *const goodsNames[] = { "阿莫西林胶囊", "板蓝根颗粒", "复方甘草片", "维生素C片",
-    "感冒灵颗粒", "布洛芬缓释胶囊", "头孢克肟分散片", "藿香正气水", "蒙脱石散", "氯雷他定片",
-    "阿奇霉素片", "六味地黄丸" };
+const char *const goodsNames[]
+    = { "阿莫西林胶囊", "板蓝根颗粒", "复方甘草片", "维生素C片", "感冒灵颗粒", "布洛芬缓释胶囊",
+          "头孢克肟分散片", "藿香正气水", "蒙脱石散", "氯雷他定片", "阿奇霉素片", "六味地黄丸" };
 const char *const specs[] = { "0.25g*24粒", "10g*20袋", "100片", "0.1g*100片", "10g*9袋",
     "0.3g*20粒", "0.1g*6片", "10ml*10支", "3g*10袋", "10mg*6片", "0.25g*6片", "200丸" };
 const char *const makers[] = { "华北制药股份有限公司", "白云山和记黄埔中药有限公司",
@@ -86,10 +87,12 @@ QVariant fieldValue(const QString &field, int row)
     if (endsWithAny(f, { "_sn", "sn" }))
         return QString::number(200001 + row);
     if (f.contains(QLatin1String("yxq")))
-        return QStringLiteral("2026-%1-30").arg(n % 12 + 1 == 2 ? 6 : n % 12 + 1, 2, 10, QLatin1Char('0'));
+        return QStringLiteral("2026-%1-30")
+            .arg(n % 12 + 1 == 2 ? 6 : n % 12 + 1, 2, 10, QLatin1Char('0'));
     if (f.contains(QLatin1String("scrq")))
         return QStringLiteral("2024-%1-01").arg(n % 12 + 1, 2, 10, QLatin1Char('0'));
-    if (f.endsWith(QLatin1String("rq")) || (f.startsWith(QLatin1String("u_")) && f.endsWith(QLatin1String("sj"))))
+    if (f.endsWith(QLatin1String("rq"))
+        || (f.startsWith(QLatin1String("u_")) && f.endsWith(QLatin1String("sj"))))
         return QStringLiteral("2025-03-%1").arg(row % 28 + 1, 2, 10, QLatin1Char('0'));
     if (f.contains(QLatin1String("dzl")))
         return 1.0;

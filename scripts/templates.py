@@ -242,9 +242,9 @@ def fit(columns, width):
 def table_header(page, columns, height, size):
     header = page.band("TfrxHeader", "Header1", height, ReprintOnNewPage=True)
     left = 0.0
-    for c in columns:
+    for i, c in enumerate(columns, 1):
         header.memo(left, 0, c.width, height, c.caption, size=size, bold=True, align="haCenter",
-                    frame=15, fill=GREY)
+                    frame=15, fill=GREY, name=f"Caption{i}")
         left += c.width
     return header
 
@@ -255,9 +255,9 @@ def table_rows(page, columns, height, size, fill_rows=None):
         attrs["FillRows"] = str(fill_rows)
     data = page.band("TfrxMasterData", "MasterData1", height, **attrs)
     left = 0.0
-    for c in columns:
+    for i, c in enumerate(columns, 1):
         data.memo(left, 0, c.width, height, c.text, size=size, align=c.align, frame=15,
-                  fmt=c.fmt, wrap=c.wrap, stretch="smMaxHeight")
+                  fmt=c.fmt, wrap=c.wrap, stretch="smMaxHeight", name=f"Cell{i}")
         left += c.width
     return data
 
@@ -266,11 +266,12 @@ def totals_row(band, top, columns, height, size, caption, scope_total=True):
     """A framed row: the caption over the columns before the first sum, then the sums."""
     first = next((i for i, c in enumerate(columns) if c.total), len(columns))
     left = sum(c.width for c in columns[:first])
-    band.memo(0, top, left, height, caption, size=size, bold=True, align="haCenter", frame=15)
-    for c in columns[first:]:
+    band.memo(0, top, left, height, caption, size=size, bold=True, align="haCenter", frame=15,
+              name="TotalCaption")
+    for i, c in enumerate(columns[first:], first + 1):
         text = f"[SUM({ref(c.total)},MasterData1)]" if c.total else ""
         band.memo(left, top, c.width, height, text, size=size, align=c.align, frame=15,
-                  fmt=c.fmt if c.total else None, bold=scope_total)
+                  fmt=c.fmt if c.total else None, bold=scope_total, name=f"Total{i}")
         left += c.width
 
 
@@ -308,9 +309,11 @@ def document(spec, title_text, party, info, columns, summary, signatures, variab
     info_rows = [party, info]
     header_h = 8 + 8 + 5.5 * len(info_rows) + 1
     header = page.band("TfrxPageHeader", "PageHeader1", header_h)
-    header.memo(0, 0, w, 8, "[comName]", size=19, font=HEI, bold=True, align="haCenter")
-    header.memo(0, 8, w, 8, title_text, size=17, font=HEI, align="haCenter")
-    header.memo(w - 62, 9, 62, 6, "单号：[djh]", size=12, align="haRight")
+    header.memo(0, 0, w, 8, "[comName]", size=19, font=HEI, bold=True, align="haCenter",
+                name="CompanyName")
+    header.memo(0, 8, w, 8, title_text, size=17, font=HEI, align="haCenter",
+                name="DocumentTitle")
+    header.memo(w - 62, 9, 62, 6, "单号：[djh]", size=12, align="haRight", name="DocumentNumber")
     top = 16.5
     for row in info_rows:
         cell = w / len(row)
@@ -331,13 +334,14 @@ def document(spec, title_text, party, info, columns, summary, signatures, variab
     end = page.band("TfrxReportSummary", "ReportSummary1", summary_h)
     totals_row(end, 0, columns, 5.5, size, "合    计")
     top = 5.5
-    for line in summary:
-        if isinstance(line, tuple):
-            cell = w / len(line)
-            for i, text in enumerate(line):
-                end.memo(i * cell, top, cell, 5.5, text, size=size, frame=15)
-        else:
-            end.memo(0, top, w, 5.5, line, size=size, frame=15)
+    for r, line in enumerate(summary, 1):
+        # The amount in capitals takes twice the room of the other cells.
+        weights = [2 if "大写" in text else 1 for text in line]
+        left = 0.0
+        for i, text in enumerate(line, 1):
+            cell = w * weights[i - 1] / sum(weights)
+            end.memo(left, top, cell, 5.5, text, size=size, frame=15, name=f"Summary{r}_{i}")
+            left += cell
         top += 5.5
     cell = w / len(signatures)
     for i, text in enumerate(signatures):
@@ -347,8 +351,9 @@ def document(spec, title_text, party, info, columns, summary, signatures, variab
     subtotal = next((c for c in columns if c.total and c.fmt == MONEY), None)
     if subtotal:
         footer.memo(0, 0.5, w / 2, 5, f"本页小计：[SUM({ref(subtotal.total)},MasterData1)]",
-                    size=11, fmt=MONEY)
-    footer.memo(w / 2, 0.5, w / 2, 5, "第[Page#]页 共[TotalPages#]页", size=11, align="haRight")
+                    size=11, fmt=MONEY, name="PageTotal")
+    footer.memo(w / 2, 0.5, w / 2, 5, "第[Page#]页 共[TotalPages#]页", size=11, align="haRight",
+                name="PageNumber")
     return report
 
 
@@ -506,7 +511,7 @@ def split_bundle(name, title):
     variables = [COMPANY, ("单据", ["djh", "jhDate", "aName", "ckName", "uName", "gName", "gSn",
                                     "dwName", "ggName", "colorName", "tYxq", "tPh", "cfCbj",
                                     "cfSl", "cfZje", "cfNote", "tSccs"])]
-    return document(title, title, party, info, columns, [(f"备注：[cfNote]",)], signatures,
+    return document(title, title, party, info, columns, [("备注：[cfNote]",)], signatures,
                     variables, "A4", fill=False)
 
 
@@ -689,7 +694,8 @@ def price_labels(title):
     data.memo(2, 18.5, 30, 5, "单位：" + field("dw_name"), size=11)
     data.memo(2, 24, 30, 10, f"￥[FormatFloat('0.00',{ref('g_lsj')})]", size=22, font=HEI,
               bold=True)
-    data.barcode(33, 23, 28, 12, ref("g_sptm"), "bcCodeEAN13")
+    data.barcode(33, 22, 28, 11, ref("g_sptm"), "bcCodeEAN13")
+    data.memo(2, 33.5, label_w - 6, 3.5, "[comName]", size=9, align="haRight")
     return report
 
 

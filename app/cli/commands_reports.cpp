@@ -68,8 +68,8 @@ int runPrintAll(Context &context, Args &args)
     shell::Session &session = context.session();
     const QStringList numbers = reports::documentNumbersBetween(session, key, first, last);
     reports::PreparedReport all;
-    const Result<int> printed = reports::printAll(session, folders(context), key, numbers,
-        [&](const reports::PrintedDocument &document) {
+    const Result<int> printed = reports::printAll(
+        session, folders(context), key, numbers, [&](const reports::PrintedDocument &document) {
             all.pages += document.report.pages;
             return true;
         });
@@ -90,9 +90,9 @@ int runPrintSample(Context &context, Args &args)
         context.interaction().inform(report.message());
         return ExitRefused;
     }
-    const Result<reports::PreparedReport> prepared = reports::prepareReport(report.value(),
-        reports::sampleData(report.value()), { QDateTime::currentDateTime() },
-        QFileInfo(where.pathOf(name)).absolutePath());
+    const Result<reports::PreparedReport> prepared
+        = reports::prepareReport(report.value(), reports::sampleData(report.value()),
+            { QDateTime::currentDateTime() }, QFileInfo(where.pathOf(name)).absolutePath());
     if (!prepared) {
         context.interaction().inform(prepared.message());
         return ExitRefused;

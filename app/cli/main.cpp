@@ -7,8 +7,8 @@
 #include <QTextStream>
 
 #include <cstdio>
-#include <unistd.h>
 #include <memory>
+#include <unistd.h>
 
 namespace {
 
