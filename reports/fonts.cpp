@@ -75,6 +75,9 @@ QFont printFont(const QString &templateName, int pixelSize, bool bold, bool ital
     font.setStrikeOut(strikeOut);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setKerning(false);
+    // Shaped Latin runs of the Chinese faces take figures that have no character of their own,
+    // so a PDF would lose the digits of "XS25031410001" to a reader or a search.
+    font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
 

@@ -13,7 +13,8 @@ namespace medistock::reports {
 QString printFamily(const QString &templateName);
 
 // A font of the family at a size in pixels of 96 dpi, with hinting off so that a text measures
-// the same on the screen, in the preview and in a PDF.
+// the same on the screen, in the preview and in a PDF, and without shaping of Latin runs, so that
+// every figure in a PDF reads back as the character it is.
 QFont printFont(const QString &templateName, int pixelSize, bool bold = false, bool italic = false,
     bool underline = false, bool strikeOut = false);
 

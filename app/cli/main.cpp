@@ -38,8 +38,10 @@ int main(int argc, char *argv[])
 
     // Commands that lay out text need fonts, which only a GUI application has; they run on the
     // offscreen platform unless another is chosen, so no display is needed.
-    const medistock::cli::Command *command
-        = registry.find(medistock::cli::commandName(argumentsOf(argc, argv)));
+    // Taken before the application object exists: a GUI application takes options of its own
+    // ("--style") out of the list.
+    const QStringList arguments = argumentsOf(argc, argv);
+    const medistock::cli::Command *command = registry.find(medistock::cli::commandName(arguments));
     std::unique_ptr<QCoreApplication> app;
     if (command && command->paints) {
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -60,8 +62,7 @@ int main(int argc, char *argv[])
     QTextStream out(stdout);
     QTextStream err(stderr);
 
-    const int status
-        = medistock::cli::runCli(registry, QCoreApplication::arguments().mid(1), out, err);
+    const int status = medistock::cli::runCli(registry, arguments, out, err);
     out.flush();
     err.flush();
     return status;

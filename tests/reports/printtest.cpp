@@ -87,12 +87,18 @@ QString pdfText(const QString &path)
     QString text = QString::fromUtf8(process.readAllStandardOutput())
                        .normalized(QString::NormalizationForm_KC);
     // Glyphs Noto shares between a character and its radical come back as the radical.
-    static const std::pair<const char *, const char *> folds[] = { { "⾦", "金" }, { "⻚", "页" },
-        { "⻓", "长" }, { "⻄", "西" }, { "㬵", "胶" }, { "⻅", "见" }, { "⻋", "车" },
-        { "⻔", "门" }, { "⻢", "马" }, { "⻜", "飞" }, { "⻛", "风" }, { "⻝", "食" } };
+    static const std::pair<const char *, const char *> folds[]
+        = { { "⾦", "金" }, { "⻚", "页" }, { "⻓", "长" }, { "⻄", "西" }, { "㬵", "胶" },
+              { "⻅", "见" }, { "⻋", "车" }, { "⻔", "门" }, { "⻢", "马" }, { "⻜", "飞" },
+              { "⻛", "风" }, { "⻝", "食" }, { "戶", "户" } };
     for (const auto &[from, to] : folds)
         text.replace(QString::fromUtf8(from), QString::fromUtf8(to));
     return text;
+}
+
+bool pdfHas(const QString &text, const char *expected)
+{
+    return text.contains(QString::fromUtf8(expected).normalized(QString::NormalizationForm_KC));
 }
 
 QString pdfInfo(const QString &path, const QString &field)

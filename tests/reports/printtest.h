@@ -33,6 +33,8 @@ protected:
 // The text pdftotext reads from a PDF, with the radicals it gives for some shared Chinese glyphs
 // folded back to the characters printed.
 QString pdfText(const QString &path);
+// Whether the folded PDF text holds what is expected, its full-width punctuation folded the same.
+bool pdfHas(const QString &text, const char *expected);
 // A line of `pdfinfo` ("Pages", "Page size", "Title").
 QString pdfInfo(const QString &path, const QString &field);
 
