@@ -111,12 +111,16 @@ QImage pictureOf(const TemplateNode &node, const QString &folder)
     return QImage(QDir::isAbsolutePath(link) ? link : QDir(folder).filePath(link));
 }
 
-Result<ObjectDesign> memoDesign(const TemplateNode &node, const QFont &bandFont)
+// The designer shows texts as written; printing compiles them.
+enum class TextMode { Compiled, AsWritten };
+
+Result<ObjectDesign> memoDesign(const TemplateNode &node, const QFont &bandFont, TextMode mode)
 {
     ObjectDesign object;
     object.kind = ObjectDesign::Kind::Memo;
     // AllowExpressions="False" prints the text as it stands, brackets included.
-    Result<TemplateText> text = node.flag(QStringLiteral("AllowExpressions"), true)
+    Result<TemplateText> text
+        = node.flag(QStringLiteral("AllowExpressions"), true) && mode == TextMode::Compiled
         ? TemplateText::compile(sourceText(node))
         : Result<TemplateText>(TemplateText::literal(sourceText(node)));
     if (!text)
@@ -139,7 +143,7 @@ Result<ObjectDesign> memoDesign(const TemplateNode &node, const QFont &bandFont)
     return object;
 }
 
-Result<ObjectDesign> barcodeDesign(const TemplateNode &node)
+Result<ObjectDesign> barcodeDesign(const TemplateNode &node, TextMode mode)
 {
     ObjectDesign object;
     object.kind = ObjectDesign::Kind::Barcode;
@@ -150,7 +154,9 @@ Result<ObjectDesign> barcodeDesign(const TemplateNode &node)
     const QString expression = node.property(QStringLiteral("Expression"));
     const QString source = expression.isEmpty() ? sourceText(node)
                                                 : QLatin1Char('[') + expression + QLatin1Char(']');
-    Result<TemplateText> text = TemplateText::compile(source);
+    Result<TemplateText> text = mode == TextMode::Compiled
+        ? TemplateText::compile(source)
+        : Result<TemplateText>(TemplateText::literal(source));
     if (!text)
         return Outcome::refused(texts::objectFault(node.name(), text.message()));
     object.text = text.value();
@@ -160,16 +166,16 @@ Result<ObjectDesign> barcodeDesign(const TemplateNode &node)
 
 // An object of a band; nullopt for elements that are not drawn (unknown kinds are kept in the
 // file and skipped here).
-Result<std::optional<ObjectDesign>> objectDesign(
-    const TemplateNode &node, const QFont &bandFont, const QString &folder)
+Result<std::optional<ObjectDesign>> objectDesign(const TemplateNode &node, const QFont &bandFont,
+    const QString &folder, TextMode mode = TextMode::Compiled)
 {
     Result<ObjectDesign> object = Outcome::done();
     const QString &tag = node.tag();
     if (tag == QLatin1String("TfrxMemoView") || tag == QLatin1String("TfrxSysMemoView")) {
-        object = memoDesign(node, bandFont);
+        object = memoDesign(node, bandFont, mode);
     } else if (tag == QLatin1String("TfrxBarCodeView")
         || tag == QLatin1String("TfrxBarcode2DView")) {
-        object = barcodeDesign(node);
+        object = barcodeDesign(node, mode);
     } else if (tag == QLatin1String("TfrxLineView")) {
         ObjectDesign line;
         line.kind = ObjectDesign::Kind::Line;
@@ -378,7 +384,7 @@ Result<ReportDesign> compileTemplate(const ReportTemplate &report, const QString
             if (!item->name().startsWith(QLatin1Char(' ')))
                 design.variableDefaults.insert(
                     item->name(), item->property(QStringLiteral("Value")));
-    const QFont reportFont = printFont(QStringLiteral("宋体"), 13);
+    const QFont reportFont = defaultReportFont();
     for (const TemplateNode *node : report.pages()) {
         Result<PageDesign> page = pageDesign(*node, reportFont, folder);
         if (!page)
@@ -393,6 +399,22 @@ Result<ReportDesign> compileTemplate(const ReportTemplate &report, const QString
                     design.usesTotalPages = true;
     }
     return design;
+}
+
+std::optional<ObjectDesign> objectAsWritten(const TemplateNode &node, const QString &folder)
+{
+    const TemplateNode *band = node.parent();
+    const QFont font = band && band->has(QStringLiteral("Font.Name"))
+        ? fontFromProperties(*band, defaultReportFont())
+        : defaultReportFont();
+    Result<std::optional<ObjectDesign>> object
+        = objectDesign(node, font, folder, TextMode::AsWritten);
+    return object ? object.value() : std::nullopt;
+}
+
+QFont defaultReportFont()
+{
+    return printFont(QStringLiteral("宋体"), 13);
 }
 
 QColor colourFromProperty(const QString &value, const QColor &fallback)

@@ -133,6 +133,12 @@ struct ReportDesign
 // `folder` resolves pictures linked by a relative file name.
 Result<ReportDesign> compileTemplate(const ReportTemplate &report, const QString &folder = {});
 
+// An object as the designer draws it: its text as written, expressions not evaluated; nullopt for
+// elements that are not drawn.
+std::optional<ObjectDesign> objectAsWritten(const TemplateNode &node, const QString &folder = {});
+// 13 px 宋体, what a template's objects print with when they name no font.
+QFont defaultReportFont();
+
 // A Delphi colour: a number in BGR order or a name such as clBlack; clNone is invalid (none).
 QColor colourFromProperty(const QString &value, const QColor &fallback);
 // The font a template asks for, on a family that renders Chinese (see fonts.h).

@@ -42,6 +42,14 @@ constexpr PrintRow rows[] = {
     { "posxp58", "jxc_posxsd", "gl_djh", "pos_xsrq", "posxp58", "" },
 };
 
+const PrintRow *documentPrintOfTemplate(const QString &name)
+{
+    for (const PrintRow &row : rows)
+        if (name == QLatin1String(row.templateName))
+            return &row;
+    return nullptr;
+}
+
 } // namespace
 
 QList<DocumentPrint> documentPrints()
@@ -71,6 +79,15 @@ QString keyForNumber(const QString &number)
         if (QString::fromLatin1(row.prefixes).split(QLatin1Char(',')).contains(prefix))
             return QString::fromLatin1(row.key);
     return QString();
+}
+
+QString keyForTemplate(const QString &templateName)
+{
+    QString base = templateName;
+    while (!base.isEmpty() && base.back().isDigit() && !documentPrintOfTemplate(base))
+        base.chop(1);
+    const PrintRow *row = documentPrintOfTemplate(base);
+    return row ? QString::fromLatin1(row->key) : QString();
 }
 
 Result<ReportData> documentData(const shell::Session &session, const QString &key,

@@ -31,6 +31,9 @@ QList<DocumentPrint> documentPrints();
 const DocumentPrint *documentPrint(const QString &key);
 // The key a document number prints with by default, from its prefix; empty for none.
 QString keyForNumber(const QString &number);
+// The document key whose forms a template is: its default template or one of its variants
+// ("spxs4" -> spxs, "xsd2" -> spdd, "bsby" -> spbs); empty for a report's template.
+QString keyForTemplate(const QString &templateName);
 
 // The variables and the line dataset "Lines" a document hands its template.
 //

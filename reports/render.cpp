@@ -59,31 +59,41 @@ void paintBarcode(QPainter &painter, const PreparedItem &item)
         paintText(painter, item.rect, item.text, item.style);
 }
 
+// The page's own size, never taken for a standard paper turned round.
+QPageSize paperOf(const PreparedPage &page)
+{
+    return QPageSize(page.sizeMm, QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+}
+
 } // namespace
 
 void paintPage(QPainter &painter, const PreparedPage &page)
 {
     painter.setRenderHint(QPainter::Antialiasing, false);
-    for (const PreparedItem &item : page.items) {
-        switch (item.kind) {
-        case PreparedItem::Kind::Text:
-            if (item.fill.isValid())
-                painter.fillRect(item.rect, item.fill);
-            paintText(painter, item.rect, item.text, item.style);
-            paintFrame(painter, item.rect, item.frame);
-            break;
-        case PreparedItem::Kind::Line:
-            painter.setPen(penOf(item.frame));
-            painter.drawLine(item.line);
-            break;
-        case PreparedItem::Kind::Picture:
-            paintPicture(painter, item);
-            paintFrame(painter, item.rect, item.frame);
-            break;
-        case PreparedItem::Kind::Barcode:
-            paintBarcode(painter, item);
-            break;
-        }
+    for (const PreparedItem &item : page.items)
+        paintItem(painter, item);
+}
+
+void paintItem(QPainter &painter, const PreparedItem &item)
+{
+    switch (item.kind) {
+    case PreparedItem::Kind::Text:
+        if (item.fill.isValid())
+            painter.fillRect(item.rect, item.fill);
+        paintText(painter, item.rect, item.text, item.style);
+        paintFrame(painter, item.rect, item.frame);
+        break;
+    case PreparedItem::Kind::Line:
+        painter.setPen(penOf(item.frame));
+        painter.drawLine(item.line);
+        break;
+    case PreparedItem::Kind::Picture:
+        paintPicture(painter, item);
+        paintFrame(painter, item.rect, item.frame);
+        break;
+    case PreparedItem::Kind::Barcode:
+        paintBarcode(painter, item);
+        break;
     }
 }
 
@@ -94,13 +104,13 @@ bool paintReport(QPagedPaintDevice &device, const PreparedReport &report, int fr
     to = to < 0 ? int(report.pages.size()) - 1 : std::min(to, int(report.pages.size()) - 1);
     from = std::clamp(from, 0, to);
     device.setPageMargins(QMarginsF(0, 0, 0, 0));
-    device.setPageSize(QPageSize(report.pages.at(from).sizeMm, QPageSize::Millimeter));
+    device.setPageSize(paperOf(report.pages.at(from)));
     QPainter painter;
     if (!painter.begin(&device))
         return false;
     for (int i = from; i <= to; ++i) {
         if (i > from) {
-            device.setPageSize(QPageSize(report.pages.at(i).sizeMm, QPageSize::Millimeter));
+            device.setPageSize(paperOf(report.pages.at(i)));
             device.newPage();
         }
         painter.save();

@@ -13,6 +13,8 @@ namespace medistock::reports {
 // Paints one prepared page. The painter's unit must be a pixel at 96 dpi with the page's top
 // left corner at the origin.
 void paintPage(QPainter &painter, const PreparedPage &page);
+// Paints one item the same way (the designer draws its objects with it).
+void paintItem(QPainter &painter, const PreparedItem &item);
 
 // Paints pages onto a paged device (a PDF writer, or a printer set to full page), each page on
 // paper of its own size (a receipt roll is as long as its content). `from` and `to` count from

@@ -40,6 +40,10 @@ public:
     void setNumber(const QString &property, double value);
     void remove(const QString &property);
     const QList<std::pair<QString, QString>> &properties() const { return m_properties; }
+    void setProperties(QList<std::pair<QString, QString>> properties)
+    {
+        m_properties = std::move(properties);
+    }
 
     // Character data inside the element, trimmed; rarely used by the format, kept all the same.
     const QString &text() const { return m_text; }

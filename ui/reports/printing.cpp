@@ -1,0 +1,101 @@
+#include "ui/reports/printing.h"
+
+#include "core/connection.h"
+#include "core/interaction.h"
+#include "reports/render.h"
+#include "reports/texts.h"
+#include "ui/common/workspace.h"
+#include "ui/reports/previewdialog.h"
+
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+namespace medistock::ui {
+
+reports::TemplateFolders templateFolders(const Workspace &workspace)
+{
+    const QString master = workspace.master.filePath();
+    return reports::programTemplateFolders(
+        master.isEmpty() ? QString() : QFileInfo(master).absolutePath());
+}
+
+int chooseStyle(const QList<reports::PrintStyle> &styles, QWidget *parent)
+{
+    QStringList titles;
+    for (const reports::PrintStyle &style : styles)
+        titles.append(style.title);
+    bool ok = false;
+    const QString chosen = QInputDialog::getItem(
+        parent, reports::texts::styleTitle(), reports::texts::stylePrompt(), titles, 0, false, &ok);
+    return ok ? int(titles.indexOf(chosen)) : -1;
+}
+
+namespace {
+
+PreviewDialog *openPreview(reports::PreparedReport report, const QString &title, QWidget *parent)
+{
+    auto *preview = new PreviewDialog(std::move(report), title, parent);
+    preview->setAttribute(Qt::WA_DeleteOnClose);
+    preview->open();
+    return preview;
+}
+
+} // namespace
+
+PreviewDialog *printWithPreview(
+    Workspace &workspace, const QString &key, const QString &number, QWidget *parent)
+{
+    QString style;
+    const QList<reports::PrintStyle> styles = reports::styleChoices(workspace.session, key);
+    if (!styles.isEmpty()) {
+        const int chosen = chooseStyle(styles, parent);
+        if (chosen < 0)
+            return nullptr;
+        style = styles.at(chosen).templateName;
+    }
+    Result<reports::PrintedDocument> document = reports::prepareDocument(
+        workspace.session, templateFolders(workspace), key, number, style);
+    if (!document)
+        return nullptr;
+    return openPreview(std::move(document->report), document->title, parent);
+}
+
+PreviewDialog *printRowsWithPreview(Workspace &workspace, const QString &templateName,
+    const reports::ReportData &data, QWidget *parent)
+{
+    Result<reports::PreparedReport> report = reports::prepareWithData(
+        workspace.session, templateFolders(workspace), templateName, data);
+    if (!report)
+        return nullptr;
+    return openPreview(std::move(report.value()), reports::templateTitle(templateName), parent);
+}
+
+int printAllDirect(Workspace &workspace, const QString &key, const QStringList &numbers,
+    QWidget *parent, const std::function<bool(const reports::PrintedDocument &)> &paper)
+{
+    Q_UNUSED(parent);
+    std::function<bool(const reports::PrintedDocument &)> print = paper;
+    std::unique_ptr<QPrinter> printer;
+    if (!print) {
+        const QPrinterInfo chosen = QPrinterInfo::defaultPrinter();
+        print = [&](const reports::PrintedDocument &document) {
+            if (!printer) {
+                if (chosen.isNull()) {
+                    workspace.session.ui().inform(reports::texts::noPrinter());
+                    return false;
+                }
+                printer = std::make_unique<QPrinter>(chosen, QPrinter::HighResolution);
+                printer->setFullPage(true);
+            }
+            printer->setDocName(document.title);
+            return reports::paintReport(*printer, document.report);
+        };
+    }
+    const Result<int> printed
+        = reports::printAll(workspace.session, templateFolders(workspace), key, numbers, print);
+    return printed ? printed.value() : 0;
+}
+
+} // namespace medistock::ui
