@@ -35,12 +35,16 @@ const LineSource receiptLines { "jxc_jhsp", "j_sn", "", false };
 const LineSource purchaseReturnLines { "jxc_thsp", "gl_djh", "", false };
 const LineSource purchaseOrderLines { "jxc_cgsp", "gl_djh", "", false };
 const LineSource transferLines { "jxc_dbsp", "gl_djh", "a.db_sl*b.g_sj as sjje", false };
-const LineSource splitLines { "jxc_cfsp", "gl_djh", "", false };
-const LineSource bundleLines { "jxc_kbsp", "gl_djh", "", false };
-const LineSource lossLines { "jxc_bssp", "gl_djh", "", false };
-const LineSource overflowLines { "jxc_bysp", "gl_djh", "", false };
-const LineSource countLines { "jxc_kcpdsp", "gl_djh", "a.pd_sl-a.kc_sl as yksl", false };
-const LineSource loanLines { "jxc_khjhsp", "gl_djh", "", false };
+// Lines without a unit of their own print the goods' base unit; loss and overflow lines share
+// one form and name their figures alike (sl, dj, zje).
+const LineSource splitLines { "jxc_cfsp", "gl_djh", "b.dw_name", false };
+const LineSource bundleLines { "jxc_kbsp", "gl_djh", "b.dw_name", false };
+const LineSource lossLines { "jxc_bssp", "gl_djh",
+    "b.dw_name,a.bs_sl as sl,a.bs_dj as dj,a.bs_zje as zje", false };
+const LineSource overflowLines { "jxc_bysp", "gl_djh",
+    "b.dw_name,a.by_sl as sl,a.by_dj as dj,a.by_zje as zje", false };
+const LineSource countLines { "jxc_kcpdsp", "gl_djh", "b.dw_name,a.pd_sl-a.kc_sl as yksl", false };
+const LineSource loanLines { "jxc_khjhsp", "gl_djh", "b.dw_name", false };
 
 // By the number's prefix for the four documents whose lines the prefix decides, else by key.
 const LineSource *sourceOf(const QString &key, const QString &number)

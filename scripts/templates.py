@@ -316,9 +316,13 @@ def document(spec, title_text, party, info, columns, summary, signatures, variab
     header.memo(w - 62, 9, 62, 6, "单号：[djh]", size=12, align="haRight", name="DocumentNumber")
     top = 16.5
     for row in info_rows:
-        cell = w / len(row)
+        # The party's name and address are the longest: the first cell takes twice the room.
+        weights = [2] + [1] * (len(row) - 1) if len(row) > 3 else [1] * len(row)
+        left = 0.0
         for i, (caption, text) in enumerate(row):
-            header.memo(i * cell, top, cell, 5.5, f"{caption}：{text}", size=size)
+            cell = w * weights[i] / sum(weights)
+            header.memo(left, top, cell, 5.5, f"{caption}：{text}", size=size)
+            left += cell
         top += 5.5
 
     table_header(page, columns, head_h, size)
@@ -945,7 +949,7 @@ def lists():
 def receipts():
     t = {}
     goods_cols = [("商品", f"{field('g_name')}{field('t_zp')}", 0, "haLeft", None),
-                  ("数量", field("pos_sl"), 2, "haLeft", QTY),
+                  ("数量", f"{field('pos_sl')}{field('dw_name')}", 2, "haLeft", None),
                   ("单价", field("zhdj"), 2, "haRight", PRICE),
                   ("金额", field("pos_zje"), 3, "haRight", MONEY)]
     pos_vars = [("单据", ["djh", "sTitle", "jhDate", "aName", "ckName", "Note", "yf", "sf",
@@ -957,7 +961,8 @@ def receipts():
                           goods_cols,
                           ["应收：[FormatFloat('0.00',yf)]  实收：[FormatFloat('0.00',sf)]",
                            "找零：[FormatFloat('0.00',zlje)]  优惠：[FormatFloat('0.00',yhje)]",
-                           "会员：[hybh] [hyname]", "卡内余额：[hyye]  积分：[hyjf]",
+                           "[IIF(hybh<>'','会员：'+hybh+' '+hyname,'非会员')]",
+                           "[IIF(hybh<>'','卡内余额：'+hyye+'  积分：'+hyjf,'')]",
                            "[comAddress]", "电话：[comTele]", "谢谢惠顾，欢迎再次光临！"],
                           pos_vars)
     jb_vars = [("交班", ["jbTime", "jbCurrUser", "jbNextUser", "bbskzje", "sjyyk", "xfyyk",

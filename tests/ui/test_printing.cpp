@@ -208,14 +208,13 @@ TEST_F(PrintingScreens, TheDesignerDragsResizesAddsDeletesAndUndoesEachStep)
     reports::TemplateNode *title = document.model().find(QStringLiteral("DocumentTitle"));
     const QString left = title->property(QStringLiteral("Left"));
 
-    // A drag with the mouse moves the memo by whole template pixels (the view shows 1.25 of them
-    // per screen pixel).
+    // A drag with the mouse moves the memo by whole template pixels.
     QGraphicsView *view = designer->view();
     QGraphicsItem *item = scene->itemNamed(QStringLiteral("DocumentTitle"));
     const QPoint start = view->mapFromScene(item->sceneBoundingRect().center());
     QTest::mousePress(view->viewport(), Qt::LeftButton, {}, start);
-    QTest::mouseMove(view->viewport(), start + QPoint(25, 0));
-    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, start + QPoint(25, 0));
+    QTest::mouseMove(view->viewport(), start + QPoint(20, 0));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, start + QPoint(20, 0));
     EXPECT_DOUBLE_EQ(title->number(QStringLiteral("Left")), left.toDouble() + 20);
     document.undoStack()->undo();
     EXPECT_EQ(title->property(QStringLiteral("Left")), left);

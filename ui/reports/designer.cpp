@@ -124,7 +124,6 @@ void ReportDesigner::buildPages()
         view->setDragMode(QGraphicsView::RubberBandDrag);
         view->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
         view->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-        view->scale(1.25, 1.25);
         m_pages->addTab(view, page->name());
         connect(scene, &QGraphicsScene::selectionChanged, this, &ReportDesigner::selectionChanged);
     }

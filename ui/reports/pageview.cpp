@@ -94,7 +94,10 @@ PageView::PageView(QWidget *parent)
 {
     setWidget(m_desk);
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    setBackgroundRole(QPalette::Dark);
+    QPalette desk = viewport()->palette();
+    desk.setColor(QPalette::Window, QColor(0x80, 0x86, 0x8c));
+    viewport()->setPalette(desk);
+    viewport()->setAutoFillBackground(true);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
         [this] { emit currentPageChanged(currentPage()); });
 }

@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -83,6 +84,9 @@ QWidget *PreviewDialog::buildBar()
     m_zoom->addItem(reporttexts::pageWidth);
     m_zoom->addItem(reporttexts::wholePage);
     m_zoom->setCurrentIndex(2);
+    // A zoom of one's own is typed: "90%".
+    m_zoom->setEditable(true);
+    m_zoom->setInsertPolicy(QComboBox::NoInsert);
     for (QWidget *w :
         std::initializer_list<QWidget *> { first, previous, m_page, m_pages, next, last })
         row->addWidget(w);
@@ -100,6 +104,14 @@ QWidget *PreviewDialog::buildBar()
             showPage(page - 1);
     });
     connect(m_zoom, &QComboBox::activated, this, &PreviewDialog::zoomChosen);
+    connect(m_zoom->lineEdit(), &QLineEdit::editingFinished, this, [this] {
+        QString typed = m_zoom->currentText();
+        typed.remove(QLatin1Char('%'));
+        bool ok = false;
+        const double percent = typed.trimmed().toDouble(&ok);
+        if (ok && percent > 0)
+            setZoom(percent / 100);
+    });
     connect(print, &QPushButton::clicked, this, &PreviewDialog::printPages);
     connect(pdf, &QPushButton::clicked, this, &PreviewDialog::savePdf);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -130,11 +142,11 @@ void PreviewDialog::setZoom(double zoom)
 void PreviewDialog::zoomChosen(int index)
 {
     if (index == pageWidthIndex)
-        m_view->setZoom(m_view->pageWidthZoom());
+        setZoom(m_view->pageWidthZoom());
     else if (index == wholePageIndex)
-        m_view->setZoom(m_view->wholePageZoom());
+        setZoom(m_view->wholePageZoom());
     else if (index >= 0 && index < pageWidthIndex)
-        m_view->setZoom(zoomSteps[index]);
+        setZoom(zoomSteps[index]);
 }
 
 void PreviewDialog::pageShown(int page)
