@@ -81,6 +81,17 @@ QString keyForNumber(const QString &number)
     return QString();
 }
 
+void addCompanyVariables(const shell::Session &session, ReportData &data)
+{
+    const shell::Company &company = session.company();
+    const std::pair<const char *, QString> values[]
+        = { { "comName", company.name }, { "comTele", company.tele }, { "comLxr", company.contact },
+              { "comAddress", company.address } };
+    for (const auto &[name, value] : values)
+        if (!data.variables.contains(QString::fromLatin1(name)))
+            data.setText(QString::fromLatin1(name), value);
+}
+
 QString keyForTemplate(const QString &templateName)
 {
     QString base = templateName;
@@ -99,11 +110,7 @@ Result<ReportData> documentData(const shell::Session &session, const QString &ke
     if (header.row.isEmpty())
         return Outcome::refused(documents::texts::documentMissing(number));
     ReportData data;
-    const shell::Company &company = session.company();
-    data.setText(QStringLiteral("comName"), company.name);
-    data.setText(QStringLiteral("comTele"), company.tele);
-    data.setText(QStringLiteral("comLxr"), company.contact);
-    data.setText(QStringLiteral("comAddress"), company.address);
+    addCompanyVariables(session, data);
     setHeaderVariables(session, key, number, header, data);
     data.datasets.append(documentLines(session, key, number, templateName));
     return data;

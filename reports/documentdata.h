@@ -35,6 +35,10 @@ QString keyForNumber(const QString &number);
 // ("spxs4" -> spxs, "xsd2" -> spdd, "bsby" -> spbs); empty for a report's template.
 QString keyForTemplate(const QString &templateName);
 
+// Sets the company variables comName, comTele, comLxr, comAddress from the company row, where
+// the data does not set them already.
+void addCompanyVariables(const shell::Session &session, ReportData &data);
+
 // The variables and the line dataset "Lines" a document hands its template.
 //
 // Every document sets the company variables comName, comTele, comLxr, comAddress, and besides

@@ -134,8 +134,10 @@ Result<PreparedReport> prepareWithData(const shell::Session &session,
     Result<ReportTemplate> report = loadTemplate(folders, templateName);
     if (!report)
         return core::refuse(session.ui(), report.message());
-    Result<PreparedReport> prepared = prepareReport(
-        report.value(), data, { printed }, QFileInfo(folders.pathOf(templateName)).absolutePath());
+    ReportData filled = data;
+    addCompanyVariables(session, filled);
+    Result<PreparedReport> prepared = prepareReport(report.value(), filled, { printed },
+        QFileInfo(folders.pathOf(templateName)).absolutePath());
     if (!prepared)
         return core::refuse(session.ui(), prepared.message());
     return prepared;

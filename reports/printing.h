@@ -57,7 +57,8 @@ Result<PrintedDocument> prepareDocument(const shell::Session &session,
     const TemplateFolders &folders, const QString &key, const QString &number,
     const QString &style = {}, const QDateTime &printed = QDateTime::currentDateTime());
 
-// Fills any template with data a screen hands over (a report screen's rows and filter texts).
+// Fills any template with data a screen hands over (a report screen's rows and filter texts),
+// the company variables added.
 Result<PreparedReport> prepareWithData(const shell::Session &session,
     const TemplateFolders &folders, const QString &templateName, const ReportData &data,
     const QDateTime &printed = QDateTime::currentDateTime());

@@ -21,6 +21,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QStandardItemModel>
 #include <QTest>
 #include <QTimer>
 
@@ -157,6 +158,34 @@ TEST_F(PrintingScreens, PrintAllAsksAndHandsEachDocumentOverWithoutPreview)
                   [&](const reports::PrintedDocument &) { return true; }),
         0);
     EXPECT_EQ(ui.asked.size(), 1);
+}
+
+TEST_F(PrintingScreens, AReportScreenPrintsTheRowsOfItsGrid)
+{
+    QStandardItemModel grid(2, 4);
+    const QVariant rows[2][4] = { { QStringLiteral("主仓库"), QStringLiteral("200001"),
+                                      QStringLiteral("阿莫西林胶囊"), 150.0 },
+        { QStringLiteral("城西门店"), QStringLiteral("200001"), QStringLiteral("阿莫西林胶囊"),
+            30.0 } };
+    for (int r = 0; r < 2; ++r)
+        for (int c = 0; c < 4; ++c)
+            grid.setData(grid.index(r, c), rows[r][c], Qt::EditRole);
+    const reports::ReportData data = ui::gridData(workspace(), grid,
+        { QStringLiteral("ck_name"), QStringLiteral("g_sn"), QStringLiteral("g_name"),
+            QStringLiteral("kc_sl") },
+        QStringLiteral("仓库：所有仓库"));
+    ui::PreviewDialog *preview
+        = ui::printRowsWithPreview(workspace(), QStringLiteral("kccx"), data, nullptr);
+    ASSERT_NE(preview, nullptr);
+    const reports::PreparedPage &page = preview->report().pages.first();
+    EXPECT_EQ(page.textsOf(QStringLiteral("Cell1")),
+        (QStringList { QStringLiteral("主仓库"), QStringLiteral("城西门店") }));
+    // The stock column adds up; the company and the filter head the page.
+    EXPECT_TRUE(page.textsOf(QStringLiteral("Total9")).contains(QStringLiteral("180")))
+        << page.texts().join(QLatin1Char('|')).toStdString();
+    EXPECT_TRUE(preview->report().allText().contains(QStringLiteral("康宁大药房  库存查询表")))
+        << preview->report().allText().left(80).toStdString();
+    EXPECT_TRUE(preview->report().allText().contains(QStringLiteral("仓库：所有仓库")));
 }
 
 TEST_F(PrintingScreens, TheDesignerMovesAMemoSavesItAndTheNextPrintShowsItMoved)

@@ -7,6 +7,7 @@
 #include "ui/common/workspace.h"
 #include "ui/reports/previewdialog.h"
 
+#include <QAbstractItemModel>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QPrinter>
@@ -19,6 +20,30 @@ reports::TemplateFolders templateFolders(const Workspace &workspace)
     const QString master = workspace.master.filePath();
     return reports::programTemplateFolders(
         master.isEmpty() ? QString() : QFileInfo(master).absolutePath());
+}
+
+reports::ReportData gridData(const Workspace &workspace, const QAbstractItemModel &model,
+    const QStringList &fields, const QString &filter)
+{
+    reports::DataSet set;
+    set.name = QStringLiteral("Lines");
+    QList<int> columns;
+    for (int c = 0; c < std::min(int(fields.size()), model.columnCount()); ++c)
+        if (!fields.at(c).isEmpty()) {
+            columns.append(c);
+            set.fields.append(fields.at(c));
+        }
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QVariantList values;
+        for (int c : columns)
+            values.append(model.data(model.index(row, c), Qt::EditRole));
+        set.rows.append(values);
+    }
+    reports::ReportData data;
+    data.setText(QStringLiteral("filter"), filter);
+    data.setText(QStringLiteral("aName"), workspace.session.user().name);
+    data.datasets.append(set);
+    return data;
 }
 
 int chooseStyle(const QList<reports::PrintStyle> &styles, QWidget *parent)

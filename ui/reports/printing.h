@@ -9,6 +9,7 @@
 
 #include <functional>
 
+class QAbstractItemModel;
 class QWidget;
 
 namespace medistock::ui {
@@ -19,7 +20,8 @@ class PreviewDialog;
 // Printing from the screens, one call each. A document screen's F8:
 //     ui::printWithPreview(workspace, QStringLiteral("spxs"), number, this);
 // a report screen's F8 with the rows it shows:
-//     ui::printRowsWithPreview(workspace, QStringLiteral("kccx"), data, this);
+//     ui::printRowsWithPreview(workspace, QStringLiteral("kccx"),
+//         ui::gridData(workspace, *model, { "ck_name", "g_sn", ... }, filterText), this);
 // a query's "连续打印":
 //     ui::printAllDirect(workspace, QStringLiteral("spxs"), numbers, this);
 
@@ -36,6 +38,12 @@ PreviewDialog *printWithPreview(
 // Opens the preview of a report template filled with a screen's data ("Lines" and variables).
 PreviewDialog *printRowsWithPreview(Workspace &workspace, const QString &templateName,
     const reports::ReportData &data, QWidget *parent);
+
+// A grid's rows as a template's "Lines": column i of the model becomes the field fields[i] (an
+// empty name leaves the column out), each cell its edit value (numbers stay numbers); the filter
+// text goes into the variable "filter" and the operator into "aName".
+reports::ReportData gridData(const Workspace &workspace, const QAbstractItemModel &model,
+    const QStringList &fields, const QString &filter);
 
 // The style dialog: the titles to choose from; the index chosen, or -1 when cancelled.
 int chooseStyle(const QList<reports::PrintStyle> &styles, QWidget *parent);
