@@ -9,6 +9,7 @@
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/masterdata/registration.h"
+#include "ui/members/registration.h"
 #include "ui/reports/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
@@ -41,6 +42,7 @@ void registerScreens(ui::ScreenRegistry &registry)
 {
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerMemberScreens(registry);
     ui::registerReportScreens(registry);
 }
 

@@ -1,6 +1,7 @@
 #include "app/screenshots/reports.h"
 
 #include "core/connection.h"
+#include "members/retail.h"
 #include "purchasing/entry.h"
 #include "purchasing/receipt.h"
 #include "sales/entry.h"
@@ -41,7 +42,7 @@ documents::LineDraft line(const QString &goods, const char *quantity, const char
 }
 
 // A receipt from the supplier and a sale to the clinic, saved and checked through their
-// operations, and a till receipt as the POS front end would have posted it.
+// operations, and a member's till sale posted as the POS front end posts it.
 struct Documents
 {
     QString receipt;
@@ -82,19 +83,16 @@ Documents seedDocuments(shell::Session &admin)
     made.sale = sales::saveSale(admin, sold).value();
     sales::checkSale(admin, made.sale);
 
-    made.till = QStringLiteral("XS") + admin.clock().today().toString(QStringLiteral("yyMMdd"))
-        + QStringLiteral("90001");
-    db.exec(QStringLiteral("insert into jxc_posxsd (gl_djh,pos_xsrq,ck_sn,pos_yfje,pos_sfje,"
-                           "pos_zlje,pos_xj,a_name) values (?,?,'100001',36.5,50,13.5,50,'王芳')"),
-        { made.till, admin.clock().nowText() });
-    const std::pair<QString, const char *> tillLines[]
-        = { { amoxicillin, "2,12,24" }, { vitamin, "1,4.5,4.5" }, { cold, "0.5,16,8" } };
-    for (const auto &[goods, figures] : tillLines) {
-        const QStringList f = QString::fromLatin1(figures).split(QLatin1Char(','));
-        db.exec(QStringLiteral("insert into jxc_posxssp (gl_djh,g_sn,pos_sl,pos_dj,pos_zje,pos_dzl,"
-                               "dw_name) values (?,?,?,?,?,1,'盒')"),
-            { made.till, goods, f.at(0).toDouble(), f.at(1).toDouble(), f.at(2).toDouble() });
-    }
+    members::RetailDocument till;
+    till.member = codeOf(db, "jxc_hyxx", "hy_sn", "hy_name", "张敏");
+    till.warehouse = QStringLiteral("100001");
+    till.lines = { { amoxicillin, 2, 12, 1, {}, 1, {}, QStringLiteral("B24031"),
+                       QStringLiteral("2026-09-30"), {} },
+        { vitamin, 1, 4.5, 1, {}, 1, {}, QStringLiteral("V2311"), QStringLiteral("2025-11-30"), {} },
+        { cold, 0.5, 16, 1, {}, 1, {}, QStringLiteral("K2402"), QStringLiteral("2026-03-31"), {} } };
+    till.payment.counter.cash = 50;
+    till.payment.counter.change = 13.5;
+    made.till = members::postRetailDocument(admin, till).value();
     return made;
 }
 

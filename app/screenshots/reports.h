@@ -13,6 +13,6 @@ struct Workspace;
 
 // Renders printing: the report-design screen, the designer on the sale form, and the previews of
 // a sale, a purchase receipt and a till receipt on 58 mm and 80 mm paper, on documents made
-// through their operations (the till receipt written as the POS front end posts it).
+// through their operations.
 void shootReports(const std::function<void(QWidget *, const QString &)> &shoot,
     medistock::ui::MainWindow &window, medistock::ui::Workspace &workspace);
