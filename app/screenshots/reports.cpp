@@ -88,8 +88,10 @@ Documents seedDocuments(shell::Session &admin)
     till.warehouse = QStringLiteral("100001");
     till.lines = { { amoxicillin, 2, 12, 1, {}, 1, {}, QStringLiteral("B24031"),
                        QStringLiteral("2026-09-30"), {} },
-        { vitamin, 1, 4.5, 1, {}, 1, {}, QStringLiteral("V2311"), QStringLiteral("2025-11-30"), {} },
-        { cold, 0.5, 16, 1, {}, 1, {}, QStringLiteral("K2402"), QStringLiteral("2026-03-31"), {} } };
+        { vitamin, 1, 4.5, 1, {}, 1, {}, QStringLiteral("V2311"), QStringLiteral("2025-11-30"),
+            {} },
+        { cold, 0.5, 16, 1, {}, 1, {}, QStringLiteral("K2402"), QStringLiteral("2026-03-31"),
+            {} } };
     till.payment.counter.cash = 50;
     till.payment.counter.change = 13.5;
     made.till = members::postRetailDocument(admin, till).value();
