@@ -201,8 +201,9 @@ TEST_F(CliSet, NumbersRightsAndParameters)
     CliRun refused = cli({ QStringLiteral("params-restore") });
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.err,
-        QStringLiteral("至少有一种商品没有完成入库，\r\n\r\n单据号：CJ25031410001，商品编号：100001\r\n\r\n"
-                       "不能取消商品入库功能！\n"));
+        QStringLiteral(
+            "至少有一种商品没有完成入库，\r\n\r\n单据号：CJ25031410001，商品编号：100001\r\n\r\n"
+            "不能取消商品入库功能！\n"));
 }
 
 TEST_F(CliSet, TwoProcessesAtTheSameMomentNeverCorruptTheFile)
