@@ -97,6 +97,7 @@ constexpr Entry reportOnly[] = {
     { "ypcljl", "药品拆零记录" },
     { "jxqjcjl", "近效期药品跟踪记录" },
     { "xshh", "顾客退货单" },
+    { "kcbd", "库存变动情况" },
 };
 
 QList<TemplateEntry> entries(const Entry *begin, const Entry *end)

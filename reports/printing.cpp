@@ -171,12 +171,25 @@ Result<int> printAll(const shell::Session &session, const TemplateFolders &folde
 {
     if (!documentPrint(key))
         return core::refuse(session.ui(), texts::unknownKey(key));
+    QList<DocumentToPrint> documents;
+    for (const QString &number : numbers)
+        documents.append({ key, number });
+    return printAll(session, folders, documents, print, printed);
+}
+
+Result<int> printAll(const shell::Session &session, const TemplateFolders &folders,
+    const QList<DocumentToPrint> &documents,
+    const std::function<bool(const PrintedDocument &)> &print, const QDateTime &printed)
+{
+    for (const DocumentToPrint &document : documents)
+        if (!documentPrint(document.key))
+            return core::refuse(session.ui(), texts::unknownKey(document.key));
     if (!session.ui().ask(texts::printAllQuestion()))
         return Outcome::refused(texts::printAllQuestion());
     int handed = 0;
-    for (const QString &number : numbers) {
+    for (const DocumentToPrint &wanted : documents) {
         Result<PrintedDocument> document
-            = prepareDocument(session, folders, key, number, {}, printed);
+            = prepareDocument(session, folders, wanted.key, wanted.number, {}, printed);
         if (!document)
             return document.outcome();
         if (!print(document.value()))

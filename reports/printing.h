@@ -76,4 +76,18 @@ Result<int> printAll(const shell::Session &session, const TemplateFolders &folde
     const std::function<bool(const PrintedDocument &)> &print,
     const QDateTime &printed = QDateTime::currentDateTime());
 
+// A document to print: its key and number.
+struct DocumentToPrint
+{
+    QString key;
+    QString number;
+};
+
+// The same for a query that lists documents of several keys (receipts and returns together):
+// each with its own key's template.
+Result<int> printAll(const shell::Session &session, const TemplateFolders &folders,
+    const QList<DocumentToPrint> &documents,
+    const std::function<bool(const PrintedDocument &)> &print,
+    const QDateTime &printed = QDateTime::currentDateTime());
+
 } // namespace medistock::reports

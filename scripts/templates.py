@@ -794,6 +794,13 @@ def lists():
         C("生产厂商", "g_sccs", 34, "wrap"), C("批号", "t_ph", 18, "center"),
         C("有效期至", "t_yxq", 19, "center"), C("库存数量", "kc_sl", 18, "qty", True),
         C("成本价", "kc_cbj", 17, "price"), C("库存金额", "kc_je", 22, "money", True)])
+    t["kcbd"] = listing("库存变动情况", [
+        C("仓库", "ck_name", 18), C("日期", "rq", 19, "center"), C("单据类型", "djlx", 20),
+        C("单据号", "gl_djh", 28), C("往来单位", "wldw", 34, "wrap"), C("批号", "t_ph", 16),
+        C("有效期至", "t_yxq", 19, "center"), C("入库数量", "rk_sl", 16, "qty", True),
+        C("出库数量", "ck_sl", 16, "qty", True), C("单价", "dj", 15, "price"),
+        C("金额", "je", 18, "money"), C("结存数量", "jc_sl", 16, "qty"),
+        C("结存均价", "jc_dj", 15, "price"), C("结存金额", "jc_je", 20, "money")])
     doc = [C("单据号", "gl_djh", 28), C("日期", "rq", 19, "center")]
     t["xsthmxb"] = listing("销售退货明细表", doc + [C("客户", "kh_name", 30, "wrap")] + goods[1:]
                            + [C("批号", "t_ph", 16), C("数量", "sl", 14, "qty", True),

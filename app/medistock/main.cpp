@@ -11,6 +11,7 @@
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/reports/printing.h"
 #include "ui/reports/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
@@ -80,6 +81,7 @@ int main(int argc, char *argv[])
 
     ui::GridLayouts layouts(ui::GridLayouts::defaultFilePath());
     ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts };
+    ui::installPrinting(workspace);
     ui::ScreenRegistry registry;
     registerScreens(registry);
     ui::MainWindow window(workspace, registry);

@@ -21,6 +21,7 @@
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/reports/printing.h"
 #include "ui/reports/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
@@ -312,6 +313,7 @@ int main(int argc, char *argv[])
 
     ui::GridLayouts layouts(QDir(scratch.path()).filePath(QStringLiteral("layout.ini")));
     ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts };
+    ui::installPrinting(workspace);
     shootWorkspace(shooter, workspace, scratch.path());
     return shooter.failed() ? 1 : 0;
 }

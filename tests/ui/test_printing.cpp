@@ -144,7 +144,7 @@ TEST_F(PrintingScreens, PrintAllAsksAndHandsEachDocumentOverWithoutPreview)
     const QString number = sale(2);
     QStringList printed;
     ui.answerNext(true);
-    EXPECT_EQ(ui::printAllDirect(workspace(), QStringLiteral("spxs"), { number }, nullptr,
+    EXPECT_EQ(ui::printAllDirect(workspace(), { { QStringLiteral("spxs"), number } }, nullptr,
                   [&](const reports::PrintedDocument &document) {
                       printed.append(document.number);
                       return true;
@@ -154,8 +154,8 @@ TEST_F(PrintingScreens, PrintAllAsksAndHandsEachDocumentOverWithoutPreview)
     EXPECT_EQ(ui.asked.size(), 1);
     ui.clear();
     ui.answerNext(true);
-    EXPECT_EQ(ui::printAllDirect(workspace(), QStringLiteral("spxs"), {}, nullptr,
-                  [&](const reports::PrintedDocument &) { return true; }),
+    EXPECT_EQ(ui::printAllDirect(
+                  workspace(), {}, nullptr, [&](const reports::PrintedDocument &) { return true; }),
         0);
     EXPECT_EQ(ui.asked.size(), 1);
 }
@@ -186,6 +186,23 @@ TEST_F(PrintingScreens, AReportScreenPrintsTheRowsOfItsGrid)
     EXPECT_TRUE(preview->report().allText().contains(QStringLiteral("康宁大药房  库存查询表")))
         << preview->report().allText().left(80).toStdString();
     EXPECT_TRUE(preview->report().allText().contains(QStringLiteral("仓库：所有仓库")));
+
+    // Through the screens' handler: the rows before the grid's totals row, columns by field.
+    grid.appendRow({ new QStandardItem(QStringLiteral("合计")), new QStandardItem,
+        new QStandardItem, new QStandardItem(QStringLiteral("180")) });
+    QWidget screen;
+    ui::printRequested(workspace(), &screen,
+        { QStringLiteral("kccx"), {}, &grid,
+            { QStringLiteral("ck_name"), QString(), QStringLiteral("g_name"),
+                QStringLiteral("kc_sl") },
+            1, QStringLiteral("查找：阿莫") });
+    auto *printed = screen.findChild<ui::PreviewDialog *>();
+    ASSERT_NE(printed, nullptr);
+    const reports::PreparedPage &first = printed->report().pages.first();
+    EXPECT_EQ(first.textsOf(QStringLiteral("Cell1")), QStringList { QStringLiteral("主仓库") });
+    EXPECT_TRUE(first.textsOf(QStringLiteral("Total9")).contains(QStringLiteral("150")))
+        << first.texts().join(QLatin1Char('|')).toStdString();
+    EXPECT_TRUE(printed->report().allText().contains(QStringLiteral("查找：阿莫")));
 }
 
 TEST_F(PrintingScreens, TheDesignerMovesAMemoSavesItAndTheNextPrintShowsItMoved)

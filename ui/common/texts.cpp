@@ -47,9 +47,9 @@ QString printButton()
     return QStringLiteral("打印(F8)");
 }
 
-QString printingNotBuilt()
+QString printAllButton()
 {
-    return QStringLiteral("打印功能尚未完成，完成后即可在此打印");
+    return QStringLiteral("连续打印");
 }
 
 QString queryButton()

@@ -23,7 +23,7 @@ reports::TemplateFolders templateFolders(const Workspace &workspace)
 }
 
 reports::ReportData gridData(const Workspace &workspace, const QAbstractItemModel &model,
-    const QStringList &fields, const QString &filter)
+    const QStringList &fields, const QString &filter, int rows)
 {
     reports::DataSet set;
     set.name = QStringLiteral("Lines");
@@ -33,7 +33,8 @@ reports::ReportData gridData(const Workspace &workspace, const QAbstractItemMode
             columns.append(c);
             set.fields.append(fields.at(c));
         }
-    for (int row = 0; row < model.rowCount(); ++row) {
+    const int count = rows < 0 ? model.rowCount() : std::min(rows, model.rowCount());
+    for (int row = 0; row < count; ++row) {
         QVariantList values;
         for (int c : columns)
             values.append(model.data(model.index(row, c), Qt::EditRole));
@@ -97,8 +98,8 @@ PreviewDialog *printRowsWithPreview(Workspace &workspace, const QString &templat
     return openPreview(std::move(report.value()), reports::templateTitle(templateName), parent);
 }
 
-int printAllDirect(Workspace &workspace, const QString &key, const QStringList &numbers,
-    QWidget *parent, const std::function<bool(const reports::PrintedDocument &)> &paper)
+int printAllDirect(Workspace &workspace, const QList<PrintRequest> &documents, QWidget *parent,
+    const std::function<bool(const reports::PrintedDocument &)> &paper)
 {
     Q_UNUSED(parent);
     std::function<bool(const reports::PrintedDocument &)> print = paper;
@@ -118,9 +119,31 @@ int printAllDirect(Workspace &workspace, const QString &key, const QStringList &
             return reports::paintReport(*printer, document.report);
         };
     }
+    QList<reports::DocumentToPrint> wanted;
+    for (const PrintRequest &document : documents)
+        wanted.append({ document.key, document.number });
     const Result<int> printed
-        = reports::printAll(workspace.session, templateFolders(workspace), key, numbers, print);
+        = reports::printAll(workspace.session, templateFolders(workspace), wanted, print);
     return printed ? printed.value() : 0;
+}
+
+void printRequested(Workspace &workspace, QWidget *parent, const PrintRequest &request)
+{
+    if (!request.number.isEmpty())
+        printWithPreview(workspace, request.key, request.number, parent);
+    else if (request.grid)
+        printRowsWithPreview(workspace, request.key,
+            gridData(workspace, *request.grid, request.fields, request.filter, request.gridRows),
+            parent);
+}
+
+void installPrinting(Workspace &workspace)
+{
+    workspace.print = printRequested;
+    workspace.printAll
+        = [](Workspace &where, QWidget *parent, const QList<PrintRequest> &documents) {
+              return printAllDirect(where, documents, parent);
+          };
 }
 
 } // namespace medistock::ui
