@@ -73,10 +73,19 @@ struct PrintSet
     }
 };
 
+// Built once for every run and closed in main(), before the application object goes: the SQL
+// driver is a plugin unloaded with it.
+std::unique_ptr<PrintSet> &keptSet()
+{
+    static std::unique_ptr<PrintSet> set;
+    return set;
+}
+
 PrintSet &printSet()
 {
-    static PrintSet set;
-    return set;
+    if (!keptSet())
+        keptSet() = std::make_unique<PrintSet>();
+    return *keptSet();
 }
 
 reports::PrintedDocument prepared(PrintSet &set)
@@ -130,5 +139,6 @@ int main(int argc, char **argv)
         return 1;
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
+    keptSet().reset();
     return 0;
 }
