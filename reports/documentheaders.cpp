@@ -30,7 +30,7 @@ struct Variable
 // Where a document's total comes from.
 enum class Total { None, Columns, SaleLines, TransferAtSalePrice };
 
-struct HeaderSpec
+struct HeaderSource
 {
     const char *key;
     const char *sql; // one "?" for the number
@@ -130,7 +130,7 @@ const Variable pos[] = { { "jhDate", "pos_xsrq" }, { "aName", "a_name" }, { "ckN
 
 // Each header is read with its warehouse (b), employee (c) and party (d) by left joins, so that
 // a name that is gone leaves its variables empty.
-const HeaderSpec specs[] = {
+const HeaderSource headerSources[] = {
     { "cgjh",
         "select a.*,b.ck_name,c.u_name,d.ghs_name,d.ghs_lxr,d.ghs_tele,d.ghs_address from jxc_jhd "
         "a left join jxc_ckxx b on a.ck_sn=b.ck_sn left join jxc_user c on a.u_sn=c.u_sn left join "
@@ -209,7 +209,7 @@ const HeaderSpec specs[] = {
 };
 
 // xshh prints a customer return, the receipts print a POS document.
-QString specKey(const QString &key)
+QString sourceKey(const QString &key)
 {
     if (key == QLatin1String("xshh"))
         return QStringLiteral("xsth");
@@ -218,12 +218,12 @@ QString specKey(const QString &key)
     return key;
 }
 
-const HeaderSpec *specOf(const QString &key)
+const HeaderSource *sourceOf(const QString &key)
 {
-    const QString wanted = specKey(key);
-    for (const HeaderSpec &spec : specs)
-        if (wanted == QLatin1String(spec.key))
-            return &spec;
+    const QString wanted = sourceKey(key);
+    for (const HeaderSource &source : headerSources)
+        if (wanted == QLatin1String(source.key))
+            return &source;
     return nullptr;
 }
 
@@ -260,10 +260,10 @@ double number(const HeaderRow &header, const char *column)
 
 // The document's total: its due column, the sum of a sale's lines, or a transfer at the
 // goods' preset sale prices.
-double totalOf(const shell::Session &session, const HeaderSpec &spec, const QString &number,
+double totalOf(const shell::Session &session, const HeaderSource &source, const QString &number,
     const HeaderRow &header)
 {
-    switch (spec.total) {
+    switch (source.total) {
     case Total::SaleLines:
         return session.db()
             .firstValue(QStringLiteral("select sum(ls_je) as je from jxc_lsxssp where gl_djh=?"),
@@ -277,19 +277,19 @@ double totalOf(const shell::Session &session, const HeaderSpec &spec, const QStr
                 { number })
             .toDouble();
     case Total::Columns:
-        return reports::number(header, spec.due);
+        return reports::number(header, source.due);
     case Total::None:
         break;
     }
     return 0;
 }
 
-void setBalances(const shell::Session &session, const HeaderSpec &spec, const QString &number,
+void setBalances(const shell::Session &session, const HeaderSource &source, const QString &number,
     const HeaderRow &header, double total, ReportData &data)
 {
     const QString party = header.row.value(QStringLiteral("kh_sn")).toString();
-    const double due = reports::number(header, spec.due);
-    const double paid = reports::number(header, spec.paid);
+    const double due = reports::number(header, source.due);
+    const double paid = reports::number(header, source.paid);
     double before = 0;
     double after = 0;
     const QSqlRecord own = header.status == QLatin1String("1")
@@ -302,7 +302,7 @@ void setBalances(const shell::Session &session, const HeaderSpec &spec, const QS
         before = after - (own.value(1).toDouble() - own.value(2).toDouble());
     } else {
         const QString date
-            = header.row.value(QString::fromLatin1(spec.balanceDate)).toString().left(10);
+            = header.row.value(QString::fromLatin1(source.balanceDate)).toString().left(10);
         before
             = accounts::ledgerBalanceAsOf(session.db(), accounts::PartyKind::Customer, party, date);
         after = before + due - paid;
@@ -318,47 +318,47 @@ void setBalances(const shell::Session &session, const HeaderSpec &spec, const QS
 HeaderRow readHeader(const shell::Session &session, const QString &key, const QString &number)
 {
     HeaderRow header;
-    const HeaderSpec *spec = specOf(key);
-    if (!spec)
+    const HeaderSource *source = sourceOf(key);
+    if (!source)
         return header;
-    header.row = session.db().firstRow(QString::fromUtf8(spec->sql), { number });
-    if (*spec->status && !header.row.isEmpty())
-        header.status = header.row.value(QString::fromLatin1(spec->status)).toString();
+    header.row = session.db().firstRow(QString::fromUtf8(source->sql), { number });
+    if (*source->status && !header.row.isEmpty())
+        header.status = header.row.value(QString::fromLatin1(source->status)).toString();
     return header;
 }
 
 void setHeaderVariables(const shell::Session &session, const QString &key, const QString &number,
     const HeaderRow &header, ReportData &data)
 {
-    const HeaderSpec *spec = specOf(key);
-    if (!spec)
+    const HeaderSource *source = sourceOf(key);
+    if (!source)
         return;
     data.setText(QStringLiteral("djh"), number);
-    for (const Variable &variable : spec->variables)
+    for (const Variable &variable : source->variables)
         data.setText(QString::fromLatin1(variable.name),
             shaped(
                 session, header.row.value(QString::fromLatin1(variable.column)), variable.shape));
     const QString prefix = number.left(2).toUpper();
-    if (QLatin1String(spec->key) == QLatin1String("khjh"))
+    if (QLatin1String(source->key) == QLatin1String("khjh"))
         data.setText(QStringLiteral("djName"),
             prefix == QLatin1String("HH") ? texts::loanReturnTitle() : texts::loanTitle());
-    else if (QLatin1String(spec->key) == QLatin1String("spbs"))
+    else if (QLatin1String(source->key) == QLatin1String("spbs"))
         data.setText(QStringLiteral("title"), texts::lossTitle());
-    else if (QLatin1String(spec->key) == QLatin1String("spby"))
+    else if (QLatin1String(source->key) == QLatin1String("spby"))
         data.setText(QStringLiteral("title"), texts::overflowTitle());
-    else if (QLatin1String(spec->key) == QLatin1String("posxsd"))
+    else if (QLatin1String(source->key) == QLatin1String("posxsd"))
         data.setText(QStringLiteral("sTitle"),
             prefix == QLatin1String("XT") ? texts::posReturnTitle() : texts::posSaleTitle());
-    if (spec->total == Total::None)
+    if (source->total == Total::None)
         return;
-    const double sign = spec->positive ? -1 : 1;
-    const double total = totalOf(session, *spec, number, header);
+    const double sign = source->positive ? -1 : 1;
+    const double total = totalOf(session, *source, number, header);
     data.setText(QStringLiteral("yf"), core::plainNumber(sign * total));
     data.setText(
-        QStringLiteral("sf"), core::plainNumber(sign * reports::number(header, spec->paid)));
+        QStringLiteral("sf"), core::plainNumber(sign * reports::number(header, source->paid)));
     data.setText(QStringLiteral("dxje"), core::amountInCapitals(sign * total));
-    if (*spec->balanceDate)
-        setBalances(session, *spec, number, header, total, data);
+    if (*source->balanceDate)
+        setBalances(session, *source, number, header, total, data);
 }
 
 } // namespace medistock::reports

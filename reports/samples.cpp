@@ -41,7 +41,7 @@ void collectFields(const TemplateNode &node, QHash<QString, QStringList> &fields
 const char *const goodsNames[]
     = { "阿莫西林胶囊", "板蓝根颗粒", "复方甘草片", "维生素C片", "感冒灵颗粒", "布洛芬缓释胶囊",
           "头孢克肟分散片", "藿香正气水", "蒙脱石散", "氯雷他定片", "阿奇霉素片", "六味地黄丸" };
-const char *const specs[] = { "0.25g*24粒", "10g*20袋", "100片", "0.1g*100片", "10g*9袋",
+const char *const packings[] = { "0.25g*24粒", "10g*20袋", "100片", "0.1g*100片", "10g*9袋",
     "0.3g*20粒", "0.1g*6片", "10ml*10支", "3g*10袋", "10mg*6片", "0.25g*6片", "200丸" };
 const char *const makers[] = { "华北制药股份有限公司", "白云山和记黄埔中药有限公司",
     "北京同仁堂股份有限公司", "东北制药集团" };
@@ -71,7 +71,7 @@ QVariant fieldValue(const QString &field, int row)
     if (f == QLatin1String("g_name") || f == QLatin1String("gname"))
         return QString::fromUtf8(goodsNames[n]);
     if (f == QLatin1String("gg_name"))
-        return QString::fromUtf8(specs[n]);
+        return QString::fromUtf8(packings[n]);
     if (f == QLatin1String("g_sccs"))
         return QString::fromUtf8(makers[n % 4]);
     if (f == QLatin1String("dw_name"))

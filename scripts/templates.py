@@ -294,11 +294,11 @@ class Form:
         self.fill = fill
 
 
-def document(spec, title_text, party, info, columns, summary, signatures, variables,
+def document(title, title_text, party, info, columns, summary, signatures, variables,
              paper="A5", fill=True, size=12):
     """party: list of (caption, variable) pairs for the first info row; info: the second row."""
     width, height, margins = Form.PAPERS[paper]
-    report = new_report(spec, variables)
+    report = new_report(title, variables)
     page = Page(report, "Page1", width, height, margins)
     w = page.width
     columns = fit(columns, w)
@@ -369,7 +369,7 @@ def goods_name(width=40):
     return Col("商品名称", field("g_name"), width, wrap=True)
 
 
-def spec_col(width=24):
+def packing_col(width=24):
     return Col("规格", field("gg_name"), width, wrap=True)
 
 
@@ -408,7 +408,7 @@ def sale_like(name, title, kind):
     ret = name.startswith("xsth")
     prefix = "th_" if ret else "ls_"
     with_prices = kind != "4" and name != "xsd2"
-    columns = [no(), goods_name(), spec_col(), unit_col()]
+    columns = [no(), goods_name(), packing_col(), unit_col()]
     if name != "spxs3":
         columns += batch_cols()
     if kind == "2":
@@ -449,7 +449,7 @@ def purchase_like(name, title):
         q, p, a = "cp_sl", field("cp_taxdj"), "cp_zje"
     else:
         q, p, a = "jh_sl", f"[{ref('jh_taxdj')}*{ref('jh_dzl')}]", "jh_zje"
-    columns = [no(), goods_name(), spec_col(), unit_col(), maker_col()]
+    columns = [no(), goods_name(), packing_col(), unit_col(), maker_col()]
     if name not in ("cgd", "cgd2", "cgplan"):
         columns += batch_cols()
     columns.append(qty(q))
@@ -473,7 +473,7 @@ def purchase_like(name, title):
 
 
 def transfer(name, title):
-    columns = [no(), goods_name(), spec_col(), unit_col()] + batch_cols() + [qty("db_sl")]
+    columns = [no(), goods_name(), packing_col(), unit_col()] + batch_cols() + [qty("db_sl")]
     if name == "kcdbd2":
         columns += [price(field("g_sj"), "预设售价"), amount("sjje")]
     else:
@@ -489,7 +489,7 @@ def transfer(name, title):
 
 
 def loss_overflow(name, title):
-    columns = [no(), goods_name(), spec_col(), unit_col()] + batch_cols() + [qty("sl")]
+    columns = [no(), goods_name(), packing_col(), unit_col()] + batch_cols() + [qty("sl")]
     if name == "bsby":
         columns += [price(field("dj"), "成本价"), amount("zje")]
     party = [("仓库", "[ckName]"), ("日期", "[jhDate]"), ("经办人", "[uName]")]
@@ -504,7 +504,7 @@ def loss_overflow(name, title):
 def split_bundle(name, title):
     word = "拆分" if name.startswith("cfd") else "捆绑"
     p = "cf_" if name.startswith("cfd") else "kb_"
-    columns = [no(), goods_name(), spec_col(), unit_col()] + batch_cols() + [qty(p + "sl")]
+    columns = [no(), goods_name(), packing_col(), unit_col()] + batch_cols() + [qty(p + "sl")]
     if not name.endswith("2"):
         columns += [price(field(p + "dj"), "成本价"), amount(p + "zje")]
     party = [("仓库", "[ckName]"), ("日期", "[jhDate]"), ("经办人", "[uName]")]
@@ -520,7 +520,7 @@ def split_bundle(name, title):
 
 
 def stock_taking(title):
-    columns = [no(), goods_name(), spec_col(), unit_col()] + batch_cols() + [
+    columns = [no(), goods_name(), packing_col(), unit_col()] + batch_cols() + [
         qty("kc_sl", "帐面数"), qty("pd_sl", "实盘数"), qty("yksl", "盈亏数"),
         price(field("pd_dj"), "单价"), amount("pd_zje", "盈亏金额")]
     party = [("仓库", "[ckName]"), ("盘点日期", "[jhDate]"), ("经办人", "[uName]")]
@@ -533,7 +533,7 @@ def stock_taking(title):
 
 
 def loan(title):
-    columns = [no(), goods_name(), spec_col(), unit_col()] + batch_cols() + [
+    columns = [no(), goods_name(), packing_col(), unit_col()] + batch_cols() + [
         qty("jh_sl"), price(field("jh_dj")), amount("jh_zje"),
         Col("押金", field("jh_yj"), 16, "haRight", MONEY, total="jh_yj"),
         price(field("jh_zj"), "日租金")]
@@ -553,7 +553,7 @@ def receiving(name, title):
     """cgrk and spck: warehouse notes with quantities only."""
     inward = name == "cgrk"
     q = "rk_sl" if inward else "ck_sl"
-    columns = [no(), goods_name(), spec_col(), unit_col(), maker_col()] + batch_cols() + [
+    columns = [no(), goods_name(), packing_col(), unit_col(), maker_col()] + batch_cols() + [
         qty(q, "入库数量" if inward else "出库数量")]
     who = ("供货商", "[ghsName]") if inward else ("客户", "[khName]")
     party = [who, ("仓库", "[ckName]"), ("日期", "[jhDate]")]
