@@ -34,6 +34,7 @@ int main(int argc, char *argv[])
     medistock::cli::addStockCommands(registry);
     medistock::cli::addPurchasingCommands(registry);
     medistock::cli::addSalesCommands(registry);
+    medistock::cli::addGspCommands(registry);
     medistock::cli::addMembersCommands(registry);
     medistock::cli::addReportCommands(registry);
 

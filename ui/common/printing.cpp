@@ -15,6 +15,7 @@ QPushButton *makePrintButton(
     button->setAutoDefault(false);
     if (!workspace.print) {
         button->setEnabled(false);
+        button->setToolTip(texts::printingNotBuilt());
         return button;
     }
     auto print = [&workspace, screen, request] {

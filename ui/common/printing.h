@@ -37,7 +37,7 @@ using PrintAllHandler
 
 // The "打印(F8)" button of a screen. Pressing it (or F8 anywhere in the screen) prints what
 // `request` returns at that moment (nothing when its key is empty). A workspace without a print
-// handler (a screen test) leaves it disabled.
+// handler (a screen test) leaves it disabled, with the tooltip printingNotBuilt.
 QPushButton *makePrintButton(
     Workspace &workspace, QWidget *screen, std::function<PrintRequest()> request);
 

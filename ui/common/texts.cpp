@@ -47,6 +47,11 @@ QString printButton()
     return QStringLiteral("打印(F8)");
 }
 
+QString printingNotBuilt()
+{
+    return QStringLiteral("打印功能尚未完成，完成后即可在此打印");
+}
+
 QString printAllButton()
 {
     return QStringLiteral("连续打印");
