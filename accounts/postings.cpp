@@ -265,7 +265,9 @@ void appendDocumentExpense(const shell::Session &session, const DocumentExpense 
         QStringLiteral("insert into jxc_yyfy (fy_rq,gl_djh,fy_lx,fy_je,fy_flag,u_sn,de_sn,fy_kmmc,"
                        "fy_chk,fy_note,a_name,fy_sc) values (?,?,?,?,?,?,?,?,'1',?,?,'')"),
         { expense.date, expense.number, expense.type, expense.amount, flag, expense.salesman,
-            texts::defaultDepartment(), cashAccountName(), expense.note, session.user().name });
+            texts::defaultDepartment(),
+            expense.account.isEmpty() ? cashAccountName() : expense.account, expense.note,
+            session.user().name });
 }
 
 void postDocumentMoney(

@@ -103,8 +103,9 @@ bool isFreightTerms(const QString &terms);
 void postFreightAndPacking(
     shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header);
 // An expense or income row that a document's check books in jxc_yyfy by itself, with no cash
-// movement: department "100001", account "现金", checked. fy_flag is "1" for an expense and "2"
-// for income. The note names the document, so that removeExpenseRows takes it away again.
+// movement: department "100001", account "现金" unless another is given, checked. fy_flag is "1"
+// for an expense and "2" for income. The note names the document, so that removeExpenseRows
+// takes it away again.
 struct DocumentExpense
 {
     ExpenseKind kind = ExpenseKind::Expense;
@@ -114,6 +115,7 @@ struct DocumentExpense
     double amount = 0; // fy_je, as the document states it
     QString salesman; // u_sn
     QString note; // fy_note
+    QString account = {}; // fy_kmmc; empty: "现金"
 };
 void appendDocumentExpense(const shell::Session &session, const DocumentExpense &expense);
 

@@ -7,10 +7,12 @@
 #include "core/connection.h"
 #include "core/dberror.h"
 #include "core/schema.h"
+#include "core/schemacatalogue.h"
 #include "core/transaction.h"
 #include "stock/ledger.h"
 #include "stock/stores.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 
@@ -222,15 +224,27 @@ void verify(const shell::Session &session, const QString &goods)
             QStringLiteral("bulk ledger differs from the engine's rerun: ") + goods);
 }
 
+// The indexes are part of what is measured: a catalogue with other indexes gets a file of its own.
+QString indexesKey()
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    for (const core::IndexDef &index : core::schemaIndexes()) {
+        hash.addData(QByteArray(index.table));
+        hash.addData(QByteArray(index.columns));
+    }
+    return QString::fromLatin1(hash.result().toHex().left(8));
+}
+
 QString cachePath(const LedgerShape &shape)
 {
     QString folder = qEnvironmentVariable("MEDISTOCK_BENCH_CACHE");
     if (folder.isEmpty())
         folder = QDir::tempPath();
-    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v2-%1-%2-%3.db")
+    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v2-%1-%2-%3-%4.db")
                                      .arg(shape.goods)
                                      .arg(shape.rows)
-                                     .arg(shape.busyRows));
+                                     .arg(shape.busyRows)
+                                     .arg(indexesKey()));
 }
 
 std::unique_ptr<shell::Session> adminSession(

@@ -49,12 +49,14 @@ constexpr const char *kept[] = {
     "jxc_xtcs",
 };
 
-// The goods ledger is read per goods and warehouse in date-then-id order by every posting, and by
-// document number on every uncheck; the money ledgers per party or account in date order.
+// The goods ledger is read per goods and warehouse in date-then-id order by every posting, by
+// document number on every uncheck, and by kind and date range by the statements; the money
+// ledgers per party or account in date order.
 constexpr IndexDef indexes[] = {
     { "jxc_goodslist", "g_sn,ck_sn,gl_kdrq,id" },
     { "jxc_goodslist", "gl_djh" },
     { "jxc_goodslist", "ck_sn,gl_kdrq" },
+    { "jxc_goodslist", "gl_flag,gl_kdrq" },
     { "jxc_kcsp", "ck_sn,g_sn" },
     { "jxc_kcsp", "g_sn" },
     { "jxc_tkc", "g_sn,ck_sn,t_ph,t_yxq,t_scrq" },
@@ -121,6 +123,13 @@ constexpr IndexDef indexes[] = {
     { "jxc_cljcsp", "gl_djh" },
     { "jxc_jxqd", "gl_djh" },
     { "jxc_jxqsp", "gl_djh" },
+    // the till and its reports: POS documents by time, the ledger's POS rows by date, a return's
+    // sale, the till's cash and handovers by time
+    { "jxc_posxsd", "pos_xsrq" },
+    { "jxc_goodslist", "gl_fdmc,gl_kdrq" },
+    { "jxc_goodslist", "gl_djh2" },
+    { "jxc_crk", "crk_rq" },
+    { "jxc_jbgl", "jb_time" },
 };
 
 } // namespace

@@ -44,20 +44,6 @@ bool numberUsed(core::Connection &db, RetailKind kind, const QString &number)
             { number });
 }
 
-// The larger of the next numbers the till's and the back office's documents would take.
-Result<QString> nextRetailNumber(core::Connection &db, RetailKind kind, QDate date)
-{
-    const Result<QString> retail = core::nextDocumentNumber(
-        db, QStringLiteral("jxc_posxsd"), QStringLiteral("gl_djh"), prefixOf(kind), date);
-    if (!retail)
-        return retail;
-    const Result<QString> office = core::nextDocumentNumber(
-        db, backOfficeTable(kind), QStringLiteral("gl_djh"), prefixOf(kind), date);
-    if (!office)
-        return office;
-    return std::max(retail.value(), office.value());
-}
-
 // A time "yyyy-MM-dd HH:mm:ss"; a bare date takes the time of now.
 std::optional<QString> settledTime(const shell::Session &session, const QString &time)
 {
@@ -88,6 +74,11 @@ Outcome checkHeader(const shell::Session &session, RetailDocument &d)
     if (!d.customer.isEmpty()
         && !db.exists(QStringLiteral("select id from jxc_khxx where kh_sn=?"), { d.customer }))
         return Outcome::refused(documents::texts::partyMissing(false, d.customer));
+    if (!d.original.isEmpty()
+        && (d.kind != RetailKind::Return || !d.original.startsWith(QLatin1String("XS"))
+            || !db.exists(
+                QStringLiteral("select id from jxc_posxsd where gl_djh=?"), { d.original })))
+        return Outcome::refused(documents::texts::documentMissing(d.original));
     if (d.lines.isEmpty())
         return Outcome::refused(documents::texts::noLines());
     return Outcome::done();
@@ -197,6 +188,19 @@ double retailReceivable(const shell::Session &session, const RetailDocument &doc
         if (l.giftMarker.isEmpty())
             total += params.roundAmount(l.price * l.discountRate * l.quantity);
     return params.roundAmount(total - document.payment.discount - document.payment.roundingOff);
+}
+
+Result<QString> nextRetailNumber(core::Connection &db, RetailKind kind, QDate date)
+{
+    const Result<QString> retail = core::nextDocumentNumber(
+        db, QStringLiteral("jxc_posxsd"), QStringLiteral("gl_djh"), prefixOf(kind), date);
+    if (!retail)
+        return retail;
+    const Result<QString> office = core::nextDocumentNumber(
+        db, backOfficeTable(kind), QStringLiteral("gl_djh"), prefixOf(kind), date);
+    if (!office)
+        return office;
+    return std::max(retail.value(), office.value());
 }
 
 Result<QString> postRetailDocument(shell::Session &session, const RetailDocument &document)

@@ -3,9 +3,13 @@
 #include "core/outcome.h"
 #include "members/payments.h"
 
+#include <QDate>
 #include <QList>
 #include <QString>
 
+namespace medistock::core {
+class Connection;
+}
 namespace medistock::shell {
 class Session;
 }
@@ -67,6 +71,7 @@ struct RetailDocument
     QString employee; // u_sn "经办人", may be empty
     QString cashier; // a_name "收银员"; the operator when empty
     QString customer; // kh_sn, may be empty
+    QString original; // a return: the sale it gives back, gl_djh2 of its ledger rows; may be empty
     RetailPayment payment;
     QString note; // pos_note
     QList<RetailLine> lines;
@@ -77,12 +82,16 @@ struct RetailDocument
 // change), must equal it.
 double retailReceivable(const shell::Session &session, const RetailDocument &document);
 
+// The next number of the kind for the date: the larger of the next numbers the till's and the
+// back office's documents would take (sales lines being entered and POS lines count too).
+Result<QString> nextRetailNumber(core::Connection &db, RetailKind kind, QDate date);
+
 // Posts the document (right "允许POS销售"). Refused, with nothing written: a number already used
 // by a retail document or by a sale (return) of the back office, or of the wrong prefix; an
 // unknown warehouse, employee, member or goods, the discount line, a disabled member on a sale,
 // a card payment without a member or beyond the card balance on a sale, quantities or payments
 // of the wrong sign, a received amount that differs from the receivable, no lines, a closed
-// period. Returns the number.
+// period; a return naming as its original anything but a posted retail sale. Returns the number.
 Result<QString> postRetailDocument(shell::Session &session, const RetailDocument &document);
 
 // Asks "您的操作将取消当前选中的已审核单据：<number>，确认吗？", then removes the document and

@@ -106,6 +106,8 @@ stock::LedgerRow ledgerRowOf(const shell::Session &session, const ValidRetail &r
     row.taxedPrice = p.baseQuantity != 0 ? p.amount / p.baseQuantity : 0;
     row.retailPrice = p.retailPrice;
     row.lineId = lineId;
+    if (!d.original.isEmpty())
+        row.sourceNumber = d.original;
     row.cost = p.cost;
     row.totalCost = p.totalCost;
     return row;

@@ -14,6 +14,7 @@
 #include "sales/salecheck.h"
 #include "sales/texts.h"
 #include "shell/session.h"
+#include "shell/settings.h"
 #include "stock/costs.h"
 #include "stock/options.h"
 #include "stock/stores.h"
@@ -198,6 +199,23 @@ Outcome saleRule(const shell::Session &session, SaleHeader &header, ValidDocumen
     return confirmSave(session, saveQuestion(session));
 }
 
+// The sale of loaned goods: `ask` before the transaction, nothing asked inside it.
+Outcome loanedGoodsRule(
+    const shell::Session &session, SaleHeader &header, ValidDocument &doc, bool ask)
+{
+    Outcome outcome = checkSaleHeader(session, header);
+    if (outcome && ask)
+        outcome = confirmExpiredBatches(session, doc);
+    if (!outcome)
+        return outcome;
+    setSaleHeaderColumns(session, header, doc, false);
+    setSaleCosts(session, doc);
+    if (!ask)
+        return Outcome::done();
+    return confirmPrepayment(
+        session, doc.party, header.settlementMode, documentDue(session, doc), header.paid);
+}
+
 Outcome orderRule(const shell::Session &session, SaleHeader &header, ValidDocument &doc)
 {
     const Outcome outcome = checkSaleHeader(session, header);
@@ -229,6 +247,40 @@ Result<QString> saveSale(shell::Session &session, const SaleDraft &draft)
         });
     if (saved && checksOnSave(session.params()))
         checkSale(session, saved.value(), CheckStart::OnSave);
+    return saved;
+}
+
+Outcome prepareSaleOfLoanedGoods(shell::Session &session, const SaleDraft &draft)
+{
+    Outcome outcome = shell::requireRight(session, "xsgl", rights::saveSale);
+    if (outcome)
+        outcome = shell::requireRight(session, "xsgl", rights::checkSale);
+    if (!outcome)
+        return outcome;
+    Result<ValidDocument> valid = documents::validateDraft(session, saleKind(), draft.entry);
+    if (!valid)
+        return valid.outcome();
+    SaleHeader header = draft.header;
+    return core::guarded(
+        session.ui(), [&] { return loanedGoodsRule(session, header, valid.value(), true); });
+}
+
+Result<QString> saveAndCheckSaleWithin(shell::Session &session, const SaleDraft &draft)
+{
+    SaleHeader header = draft.header;
+    const Result<QString> saved = documents::saveDocument(
+        session, saleKind(), draft.entry,
+        [&](const shell::Session &s, ValidDocument &doc) {
+            return loanedGoodsRule(s, header, doc, false);
+        },
+        [](const shell::Session &s, const ValidDocument &doc, const QString &number) {
+            markLines(s, doc, number);
+        });
+    if (!saved)
+        return saved;
+    const Outcome checked = checkSaleWithin(session, saved.value());
+    if (!checked)
+        return checked;
     return saved;
 }
 

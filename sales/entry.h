@@ -48,6 +48,15 @@ struct SaleDraft
 // number.
 Result<QString> saveSale(shell::Session &session, const SaleDraft &draft);
 
+// A sale of goods that come back from a customer's loan in the same transaction (the loans'
+// "借货转销售"). Before that transaction: the rights to save and check a sale, the shared checks,
+// the sales header, expired batches (refused, or asked) and the prepayment question. The stock of
+// the warehouse and of the batches is not tested: the goods sold are the goods coming back.
+Outcome prepareSaleOfLoanedGoods(shell::Session &session, const SaleDraft &draft);
+// Inside the caller's transaction and asking nothing: the sale saved as saveSale saves it (costs
+// as of its date) and checked as checkSale checks it. Returns the number.
+Result<QString> saveAndCheckSaleWithin(shell::Session &session, const SaleDraft &draft);
+
 // Saves a sales order: the shared checks, the header, costs at today's warehouse cost, the
 // confirmation, the rows and the log; checked at once with check-on-save on.
 Result<QString> saveSalesOrder(shell::Session &session, const SaleDraft &draft);

@@ -160,6 +160,16 @@ Outcome checkSale(shell::Session &session, const QString &number, CheckStart sta
     return core::guarded(session.ui(), [&] { return post(session, number, row); });
 }
 
+Outcome checkSaleWithin(shell::Session &session, const QString &number)
+{
+    if (const QString limit = stock::saleLimitCheck(session, number); !limit.isEmpty())
+        return core::refuse(session.ui(), limit);
+    const auto row = readCheckRow(session, saleChecking(), number);
+    if (!row)
+        return core::refuse(session.ui(), documents::texts::documentMissing(number));
+    return post(session, number, *row);
+}
+
 QString saleCheckHook(const shell::Session &, const QString &, const QString &)
 {
     return texts::checkHookOk();

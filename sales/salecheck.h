@@ -24,6 +24,11 @@ enum class CheckStart { Listed, OnSave };
 Outcome checkSale(
     shell::Session &session, const QString &number, CheckStart start = CheckStart::Listed);
 
+// Checks a saved sale inside the caller's transaction, asking nothing (a sale of loaned goods,
+// whose questions were asked before it): the per-sale quantity limits (told, refused), then the
+// check's transaction as above.
+Outcome checkSaleWithin(shell::Session &session, const QString &number);
+
 // The question before a listed sale is checked one by one: "ok" lets it be checked, anything else
 // is told and the sale skipped. Nothing refuses a sale here yet; this is where a per-document
 // refusal belongs.

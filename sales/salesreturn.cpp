@@ -166,6 +166,12 @@ Outcome deleteSalesReturn(const shell::Session &session, const QString &number)
     return documents::deleteDocument(session, salesReturnKind(), number);
 }
 
+QList<documents::ReturnableLine> returnableSaleLines(
+    const shell::Session &session, const QString &sale, const QString &returnNumber)
+{
+    return documents::returnableLines(session, saleKind(), soldLines, sale, returnNumber);
+}
+
 Outcome checkSalesReturn(shell::Session &session, const QString &number, CheckStart start)
 {
     const CheckKind &kind = returnChecking();

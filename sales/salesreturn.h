@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/outcome.h"
+#include "documents/returnlimits.h"
 #include "sales/salecheck.h"
 
 #include <QString>
@@ -10,6 +11,11 @@ class Session;
 }
 
 namespace medistock::sales {
+
+// The lines of a checked sale that a customer return can give back, with what other returns than
+// `returnNumber` already took; empty when the sale is not checked. Reads only.
+QList<documents::ReturnableLine> returnableSaleLines(
+    const shell::Session &session, const QString &sale, const QString &returnNumber = {});
 
 // Checks a customer return: the check right; a return without lines is never checked (refused
 // without a message); one already checked only loses a stray unchecked copy. Then in one

@@ -37,6 +37,9 @@ int main(int argc, char *argv[])
     medistock::cli::addGspCommands(registry);
     medistock::cli::addMembersCommands(registry);
     medistock::cli::addReportCommands(registry);
+    medistock::cli::addLoansCommands(registry);
+    medistock::cli::addStatementCommands(registry);
+    medistock::cli::addPosCommands(registry);
 
     // Commands that lay out text need fonts, which only a GUI application has; they run on the
     // offscreen platform unless another is chosen, so no display is needed.

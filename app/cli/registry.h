@@ -45,6 +45,10 @@ void addStockCommands(Registry &registry);
 // The purchase receipt "CJ" and return "CT" in the document registry.
 void addPurchasingCommands(Registry &registry);
 void addSalesCommands(Registry &registry);
+// The loan "JH" and the return "HH" in the document registry, loan-open and loan-return.
+void addLoansCommands(Registry &registry);
+// statement: the customer and supplier statements as tab-separated rows.
+void addStatementCommands(Registry &registry);
 // gsp (the GSP records), with gsp-add and gsp-delete.
 void addGspCommands(Registry &registry);
 void addGspEntryCommands(Registry &registry);
@@ -52,6 +56,8 @@ void addGspEntryCommands(Registry &registry);
 void addMembersCommands(Registry &registry);
 // print, print-all and print-sample.
 void addReportCommands(Registry &registry);
+// The till's reports, cash in and out and the shift handover.
+void addPosCommands(Registry &registry);
 
 // The command an argument list runs (global options skipped); empty when there is none.
 QString commandName(const QStringList &arguments);

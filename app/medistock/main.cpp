@@ -3,17 +3,21 @@
 #include "core/connection.h"
 #include "core/datafolder.h"
 #include "core/dberror.h"
+#include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/messagebox.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
+#include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
 #include "ui/reports/printing.h"
 #include "ui/reports/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -48,9 +52,13 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerReportScreens(registry);
+    ui::registerLoanScreens(registry);
+    ui::registerStatementScreens(registry);
+    ui::registerPosScreens(registry);
 }
 
 } // namespace

@@ -15,9 +15,10 @@
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/documents/pickers.h"
+#include "ui/documents/sourcelinesdialog.h"
 #include "ui/documents/uncheckeddialog.h"
 #include "ui/purchasing/checkdialog.h"
-#include "ui/purchasing/receiptlinesdialog.h"
+#include "ui/purchasing/purchasekinds.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/stock/ledgerscreen.h"
 #include "ui/stock/openingkind.h"
@@ -172,8 +173,8 @@ void shootReturn(const Shots &shots, ui::MainWindow &window)
     ui::DocumentScreen *screen = openDocumentScreen(window, 2);
     screen->partyField()->setChoice(
         QStringLiteral("100002"), QStringLiteral("浙江英特药业有限责任公司"));
-    ui::ReceiptLinesDialog lines(*screen);
-    lines.receiptGrid()->setCurrentCell(1, 0);
+    ui::SourceLinesDialog lines(*screen, ui::receiptSource());
+    lines.sourceGrid()->setCurrentCell(1, 0);
     lines.tick(0, true);
     lines.tick(2, true);
     shots.shootOver(&window, &lines, QStringLiteral("44-return-receipt-lines"));

@@ -4,9 +4,12 @@
 // chosen.
 #include "app/screenshots/documents.h"
 #include "app/screenshots/gsp.h"
+#include "app/screenshots/loans.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/pos.h"
 #include "app/screenshots/reports.h"
+#include "app/screenshots/sales.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -15,16 +18,20 @@
 #include "shell/accountsets.h"
 #include "shell/operators.h"
 #include "shell/rights.h"
+#include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
+#include "ui/loans/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
 #include "ui/reports/printing.h"
 #include "ui/reports/registration.h"
+#include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -259,9 +266,13 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerMasterDataScreens(registry);
     ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
+    ui::registerSalesScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerReportScreens(registry);
+    ui::registerLoanScreens(registry);
+    ui::registerStatementScreens(registry);
+    ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -286,13 +297,15 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
     shootMasterData(shoot, window, workspace, scratch);
     shootMembers(shoot, window, workspace, scratch);
-    shootDocuments({ shoot,
-                       [&](QWidget *over, QWidget *dialog, const QString &name) {
+    const Shots shots { shoot, [&](QWidget *over, QWidget *dialog, const QString &name) {
                            shooter.shootOver(over, dialog, name);
-                       } },
-        window, workspace);
+                       } };
+    shootDocuments(shots, window, workspace);
     shootGsp(shoot, window, workspace);
     shootReports(shoot, window, workspace);
+    shootPos(shots, window, workspace);
+    shootSales(shots, window, workspace);
+    shootLoans(shots, window, workspace);
 }
 
 } // namespace

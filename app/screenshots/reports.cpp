@@ -106,18 +106,18 @@ void shootReports(const std::function<void(QWidget *, const QString &)> &shoot,
     const Documents documents = seedDocuments(workspace.session);
 
     window.openOperation(QStringLiteral("qtcz"), 18);
-    shoot(&window, QStringLiteral("60-report-design"));
+    shoot(&window, QStringLiteral("135-report-design"));
 
     ui::ReportDesigner *designer
         = ui::ReportDesigner::open(workspace, QStringLiteral("spxs"), &window);
     designer->scene()->selectNamed(QStringLiteral("Summary1_1"));
     designer->view()->centerOn(designer->scene()->itemNamed(QStringLiteral("Cell2")));
-    shoot(designer, QStringLiteral("61-designer"));
+    shoot(designer, QStringLiteral("136-designer"));
     designer->close();
 
     const std::pair<const char *, QString> previews[] = { { "spxs", documents.sale },
         { "cgjh", documents.receipt }, { "posxp58", documents.till }, { "posxp", documents.till } };
-    int n = 62;
+    int n = 137;
     for (const auto &[key, number] : previews) {
         ui::PreviewDialog *preview
             = ui::printWithPreview(workspace, QString::fromLatin1(key), number, &window);

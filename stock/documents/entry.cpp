@@ -183,6 +183,12 @@ Result<QString> saveStockTaking(const shell::Session &session, const DocumentDra
         completeCount);
 }
 
+Result<QString> saveAtCostOfDate(const shell::Session &session, const documents::DocumentKind &kind,
+    const DocumentDraft &draft, const documents::EntryRule &rule)
+{
+    return saveWithProposals(session, kind, draft, rule, costOfDocumentDate(session));
+}
+
 Result<QString> saveLoss(const shell::Session &session, const DocumentDraft &draft)
 {
     return saveWithProposals(session, lossEntry(), draft, {}, costOfDocumentDate(session));

@@ -50,6 +50,12 @@ Result<QString> saveTransfer(const shell::Session &session, const documents::Doc
 Result<QString> saveStockTaking(
     const shell::Session &session, const documents::DocumentDraft &draft);
 
+// Saves a document of another module through the shared entry with the price rule of the
+// outgoing stock documents: a line whose price is left empty takes the cost as of the document's
+// date in its warehouse. `rule` runs after the shared checks, before the prices are proposed.
+Result<QString> saveAtCostOfDate(const shell::Session &session, const documents::DocumentKind &kind,
+    const documents::DocumentDraft &draft, const documents::EntryRule &rule);
+
 // Saves a loss or overflow report; any batch may be given.
 Result<QString> saveLoss(const shell::Session &session, const documents::DocumentDraft &draft);
 Result<QString> saveOverflow(const shell::Session &session, const documents::DocumentDraft &draft);

@@ -1,3 +1,7 @@
+#include "loans/entry.h"
+#include "loans/loancheck.h"
+#include "loans/loanreturn.h"
+#include "loans/loansale.h"
 #include "purchasing/entry.h"
 #include "purchasing/purchasereturn.h"
 #include "purchasing/receipt.h"
@@ -91,6 +95,62 @@ QString saved(const Result<QString> &result)
 {
     EXPECT_TRUE(result.ok()) << result.message().toStdString();
     return result.ok() ? result.value() : QString();
+}
+
+// A loan of today to the partner from the main warehouse, with a deposit and a rent.
+QString savedLoan(shell::Session &s)
+{
+    loans::LoanDraft d;
+    d.entry = stockDraft("0.3");
+    d.entry.party = partner;
+    d.terms = { { QStringLiteral("3"), QStringLiteral("0.7"), QString() } };
+    return saved(loans::saveLoan(s, d));
+}
+
+// The return or sale of loaned goods written for a loan.
+QString returnOf(shell::Session &s, const QString &loan)
+{
+    return s.db().firstText(
+        QStringLiteral("select gl_djh from jxc_khjhsp where gl_djh2=? order by id"), { loan });
+}
+
+// A loan and its return are checked, and unchecked, together: the return's check and uncheck lie
+// between the loan's.
+Outcome lendAndTakeBack(shell::Session &s, const QString &loan)
+{
+    const Outcome checked = loans::checkLoan(s, loan);
+    if (!checked)
+        return checked;
+    return loans::saveReturn(s, { loan, QString(), QString(), {} }).outcome();
+}
+
+Outcome lendAndSell(shell::Session &s, const QString &loan)
+{
+    const Outcome checked = loans::checkLoan(s, loan);
+    if (!checked)
+        return checked;
+    loans::LoanSaleDraft d;
+    d.loan = loan;
+    const qint64 line
+        = s.db()
+              .firstValue(QStringLiteral("select id from jxc_khjhsp where gl_djh=?"), { loan })
+              .toLongLong();
+    d.lines = { { line, QString(), QStringLiteral("15") } };
+    d.header.paid = 2;
+    return loans::sellLoanedGoods(s, d).outcome();
+}
+
+Outcome uncheckReturnAndLoan(shell::Session &s, const QString &loan)
+{
+    const QString back = returnOf(s, loan);
+    const QString sale = s.db().firstText(
+        QStringLiteral("select gl_djh from jxc_lsxsd where gl_djh2=?"), { back });
+    Outcome outcome = sale.isEmpty() ? Outcome::done() : sales::uncheckSale(s, sale);
+    if (outcome)
+        outcome = loans::uncheckReturn(s, back);
+    if (outcome)
+        outcome = loans::uncheckLoan(s, loan);
+    return outcome;
 }
 
 const QString today = QStringLiteral("2025-03-14");
@@ -235,6 +295,9 @@ const Kind kinds[] = {
     { "Overflow",
         [](shell::Session &s) { return saved(stock::saveOverflow(s, stockDraft("0.3"))); },
         stock::checkOverflow, stock::uncheckOverflow, false, false },
+    { "Loan", savedLoan, loans::checkLoan, loans::uncheckLoan, false, false },
+    { "LoanAndItsReturn", savedLoan, lendAndTakeBack, uncheckReturnAndLoan, false, false },
+    { "LoanAndTheSaleOfItsGoods", savedLoan, lendAndSell, uncheckReturnAndLoan, false, false },
 };
 
 class EveryKind : public RoundTrip, public ::testing::WithParamInterface<Kind>

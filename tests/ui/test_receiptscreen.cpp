@@ -12,9 +12,9 @@
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/documents/pickers.h"
+#include "ui/documents/sourcelinesdialog.h"
 #include "ui/purchasing/checkdialog.h"
 #include "ui/purchasing/purchasekinds.h"
-#include "ui/purchasing/receiptlinesdialog.h"
 #include "ui/reports/previewdialog.h"
 #include "ui/reports/printing.h"
 
@@ -326,8 +326,8 @@ TEST_F(CheckedReceiptTest, UncheckedCheckedAgainAndReturnedFromItsLines)
     keys.setWindow(back.get());
     keys.type(QStringLiteral("hdyy"));
     keys.press(Qt::Key_Return);
-    keys.onDialog<ui::ReceiptLinesDialog>([this](ui::ReceiptLinesDialog &dialog) {
-        EXPECT_EQ(dialog.receiptGrid()->item(0, 0)->text(), QStringLiteral("CJ25031410001"));
+    keys.onDialog<ui::SourceLinesDialog>([this](ui::SourceLinesDialog &dialog) {
+        EXPECT_EQ(dialog.sourceGrid()->item(0, 0)->text(), QStringLiteral("CJ25031410001"));
         keys.press(Qt::Key_Return);
         keys.press(Qt::Key_Space);
         keys.press(Qt::Key_Return);

@@ -86,14 +86,17 @@ void DocumentScreen::refreshButtons()
     allowIf(m_checkButton, m_kind->checkRight(), !m_checked);
     allowIf(m_uncheckButton, m_kind->uncheckRight(), m_checked);
     allowIf(m_deleteButton, entry.deleteRight, stored && !m_checked);
-    for (QPushButton *button : { m_checkButton, m_uncheckButton, m_deleteButton })
+    for (QPushButton *button : { m_checkButton, m_deleteButton })
         button->setVisible(m_kind->hasCheck());
+    m_uncheckButton->setVisible(m_kind->hasUncheck());
     const bool adding = !m_checked && (!stored || allows(m_kind->addToSavedRight()));
     m_lines->setAddingAllowed(adding);
     allowIf(m_insertButton, stored ? m_kind->addToSavedRight() : 0, adding);
     m_deleteLineButton->setEnabled(!m_checked);
     for (QPushButton *action : std::as_const(m_editingActions))
         action->setEnabled(!m_checked);
+    for (QPushButton *action : std::as_const(m_checkedActions))
+        action->setEnabled(m_checked && stored);
 }
 
 void DocumentScreen::markModified()
@@ -321,7 +324,7 @@ void DocumentScreen::check()
 
 void DocumentScreen::uncheck()
 {
-    if (!m_checked || !m_uncheckButton->isEnabled())
+    if (!m_checked || !m_kind->hasUncheck() || !m_uncheckButton->isEnabled())
         return;
     if (m_kind->uncheck(m_workspace.session, m_number))
         openDocument(m_number);
@@ -346,6 +349,20 @@ void DocumentScreen::showUnchecked()
 
 void DocumentScreen::addEditingAction(QPushButton *button, const QKeySequence &key)
 {
+    addBarAction(button, key);
+    m_editingActions.append(button);
+    button->setEnabled(!m_checked);
+}
+
+void DocumentScreen::addCheckedAction(QPushButton *button, const QKeySequence &key)
+{
+    addBarAction(button, key);
+    m_checkedActions.append(button);
+    button->setEnabled(m_checked && !m_number.isEmpty());
+}
+
+void DocumentScreen::addBarAction(QPushButton *button, const QKeySequence &key)
+{
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
     m_bar->insertWidget(m_bar->count() - 1, button);
@@ -355,8 +372,6 @@ void DocumentScreen::addEditingAction(QPushButton *button, const QKeySequence &k
         if (button->isEnabled())
             button->click();
     });
-    m_editingActions.append(button);
-    button->setEnabled(!m_checked);
 }
 
 void DocumentScreen::closeEvent(QCloseEvent *event)

@@ -166,11 +166,12 @@ void DocumentListScreen::fetch()
     for (const Listed &item : std::as_const(listed)) {
         const documents::DocumentRow &r = item.row;
         const double sign = m_kinds[item.kind].sign;
+        const double due = m_kinds[item.kind].dueNegated ? -r.due : r.due;
         QVariantList values;
         if (m_kinds.size() > 1)
             values.append(QString::fromUtf8(m_kinds[item.kind].entry->title));
         values << r.number << r.date << r.partyName << r.warehouseName << r.employeeName
-               << r.goodsCount << sign * r.quantity << sign * r.due
+               << r.goodsCount << sign * r.quantity << sign * due
                << (r.status == 1 ? doctexts::checkedStatus : doctexts::statusUnchecked) << r.checker
                << r.checkDate << r.operatorName << r.note;
         rows.append(values);

@@ -28,6 +28,7 @@ struct ListedKind
     int position = 0;
     QString printKey {};
     double sign = 1; // -1 where the amount goes the other way (a return among receipts)
+    bool dueNegated = false; // the amount is stored negated (a customer return)
 };
 
 // Which filters a document list offers.

@@ -73,6 +73,10 @@ public:
     // For a kind's own actions: a button on the bar that `key` presses from anywhere in the
     // screen, enabled only while the document can be edited.
     void addEditingAction(QPushButton *button, const QKeySequence &key);
+    // Likewise, enabled only while a checked document is shown (a return taken from a loan).
+    void addCheckedAction(QPushButton *button, const QKeySequence &key);
+    // Likewise, always enabled (a list of the kind's documents).
+    void addBarAction(QPushButton *button, const QKeySequence &key);
     // Lines taken from elsewhere (a receipt's lines onto a return), after the lines entered.
     void appendLines(const QList<LineEntry> &lines);
     // A line of the goods as a clerk picking it would get it: its unit, stock, proposed price
@@ -151,6 +155,7 @@ private:
     QPushButton *m_deleteLineButton = nullptr;
     QPushButton *m_printButton = nullptr;
     QList<QPushButton *> m_editingActions;
+    QList<QPushButton *> m_checkedActions;
 };
 
 } // namespace medistock::ui

@@ -193,14 +193,14 @@ std::optional<documents::GoodsChoice> pickGoods(Workspace &workspace, const QStr
     return picker.chosen();
 }
 
-std::optional<BatchChoice> pickBatch(const QList<BatchChoice> &choices, QWidget *parent)
+std::unique_ptr<PickerDialog> makeBatchPicker(const QList<BatchChoice> &choices, QWidget *parent)
 {
-    PickerDialog picker(texts::choiceTitle(doctexts::batch),
-        { doctexts::lineCaption(int(LineField::Batch)),
+    auto picker = std::make_unique<PickerDialog>(texts::choiceTitle(doctexts::batch),
+        QStringList { doctexts::lineCaption(int(LineField::Batch)),
             doctexts::lineCaption(int(LineField::Expiry)),
             doctexts::lineCaption(int(LineField::Produced)), doctexts::stock,
             doctexts::statusColumn },
-        {}, parent);
+        PickerDialog::Search {}, parent);
     QList<PickRow> rows;
     int proposed = 0;
     for (int i = 0; i < choices.size(); ++i) {
@@ -216,13 +216,19 @@ std::optional<BatchChoice> pickBatch(const QList<BatchChoice> &choices, QWidget 
         if (c.proposed)
             proposed = i;
     }
-    picker.setNumberColumns({ 3 });
-    picker.setRows(rows);
-    picker.setCurrentRow(proposed);
-    picker.resize(620, 320);
-    if (picker.exec() != QDialog::Accepted || picker.chosenRow() < 0)
+    picker->setNumberColumns({ 3 });
+    picker->setRows(rows);
+    picker->setCurrentRow(proposed);
+    picker->resize(620, 320);
+    return picker;
+}
+
+std::optional<BatchChoice> pickBatch(const QList<BatchChoice> &choices, QWidget *parent)
+{
+    const std::unique_ptr<PickerDialog> picker = makeBatchPicker(choices, parent);
+    if (picker->exec() != QDialog::Accepted || picker->chosenRow() < 0)
         return std::nullopt;
-    return choices.at(picker.chosenRow());
+    return choices.at(picker->chosenRow());
 }
 
 } // namespace medistock::ui

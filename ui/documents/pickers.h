@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 class QComboBox;
@@ -68,5 +69,7 @@ std::optional<documents::GoodsChoice> pickGoods(Workspace &workspace, const QStr
 // The batch picker: the batches offered, expired ones red and those near expiry orange, the
 // proposed one current.
 std::optional<BatchChoice> pickBatch(const QList<BatchChoice> &choices, QWidget *parent);
+// The batch picker itself, filled and not yet shown.
+std::unique_ptr<PickerDialog> makeBatchPicker(const QList<BatchChoice> &choices, QWidget *parent);
 
 } // namespace medistock::ui

@@ -66,6 +66,8 @@ public:
     virtual QList<LineField> enterFields() const;
     // The label of the amount due under the lines ("应付金额").
     virtual QString dueLabel() const = 0;
+    // Whether the document stores its amount due negated (a customer return).
+    virtual bool dueStoredNegated() const { return false; }
     // The key of the document's report template.
     virtual QString printKey() const = 0;
 
@@ -103,6 +105,8 @@ public:
     virtual QString listCaption() const;
     // A kind that is posted as it is saved has no check, uncheck or delete buttons.
     virtual bool hasCheck() const { return true; }
+    // A kind whose checked documents cannot be unchecked has no uncheck button.
+    virtual bool hasUncheck() const { return hasCheck(); }
     // After a save: by default the screen shows the document as stored.
     virtual void afterSave(DocumentScreen &screen, const QString &number);
     // F9: by default the kind's unchecked documents (UncheckedDialog).

@@ -77,4 +77,12 @@ inline const QString checkDate = QStringLiteral("审核日期");
 inline const QString statusColumn = QStringLiteral("状态");
 inline const QString chooseDocumentFirst = QStringLiteral("请先选择一张单据！");
 
+// A return taken from a source document's lines
+inline const QString returnColumn = QStringLiteral("退货");
+inline const QString returnedBefore = QStringLiteral("已退数量");
+inline const QString left = QStringLiteral("可退数量");
+inline const QString take = QStringLiteral("确定(Enter)");
+inline const QString cancel = QStringLiteral("取消(Esc)");
+inline const QString chooseLinesFirst = QStringLiteral("请先勾选要退货的商品！");
+
 } // namespace medistock::ui::doctexts

@@ -21,7 +21,8 @@ UncheckedDialog::UncheckedDialog(DocumentScreen &screen)
     : QDialog(&screen)
     , m_screen(screen)
     , m_list(new DocumentListScreen(screen.workspace(), doctexts::uncheckedTitle,
-          { { &screen.kind().entry(), {}, 0, screen.kind().printKey() } },
+          { { &screen.kind().entry(), {}, 0, screen.kind().printKey(), 1,
+              screen.kind().dueStoredNegated() } },
           { .dates = false, .party = true, .warehouse = true, .goods = true, .status = 0 }, this))
 {
     setWindowTitle(screen.kind().title() + QStringLiteral(" - ") + doctexts::uncheckedTitle);

@@ -9,6 +9,7 @@
 #include "shell/session.h"
 #include "ui/common/keys.h"
 #include "ui/common/reading.h"
+#include "ui/documents/texts.h"
 #include "ui/purchasing/texts.h"
 
 #include <QComboBox>
@@ -96,7 +97,7 @@ PurchaseCheckDialog::PurchaseCheckDialog(const shell::Session &session,
     grid->setColumnMinimumWidth(3, 180);
 
     QPushButton *approveButton = makeCheckButton(this);
-    auto *cancel = new QPushButton(pctexts::cancel, this);
+    auto *cancel = new QPushButton(doctexts::cancel, this);
     approveButton->setAutoDefault(false);
     cancel->setAutoDefault(false);
     connect(approveButton, &QPushButton::clicked, this, &PurchaseCheckDialog::approve);

@@ -10,8 +10,8 @@
 #include "purchasing/texts.h"
 #include "shell/session.h"
 #include "ui/documents/documentscreen.h"
+#include "ui/documents/sourcelinesdialog.h"
 #include "ui/purchasing/checkdialog.h"
-#include "ui/purchasing/receiptlinesdialog.h"
 #include "ui/purchasing/texts.h"
 
 #include <QComboBox>
@@ -218,9 +218,7 @@ QString ReturnScreenKind::dueLabel() const
 
 void ReturnScreenKind::loadLine(const documents::DocumentLineRow &stored, LineEntry &line) const
 {
-    const qint64 id2 = stored.stored.value(QStringLiteral("id2")).toLongLong();
-    if (id2 > 0)
-        line.columns.set(QStringLiteral("id2"), id2);
+    loadSourceLink(stored, line);
 }
 
 Result<QString> ReturnScreenKind::save(
@@ -242,11 +240,17 @@ Outcome ReturnScreenKind::remove(shell::Session &session, const QString &number)
     return purchasing::deletePurchaseReturn(session, number);
 }
 
+ReturnSource receiptSource()
+{
+    return { &purchasing::purchaseReceipt().entry, &purchasing::returnableReceiptLines,
+        pctexts::receiptLinesTitle, pctexts::receipts, pctexts::bought };
+}
+
 void ReturnScreenKind::addActions(DocumentScreen &screen)
 {
     auto *button = new QPushButton(pctexts::fromReceipt, &screen);
     QObject::connect(button, &QPushButton::clicked, &screen, [&screen] {
-        ReceiptLinesDialog dialog(screen);
+        SourceLinesDialog dialog(screen, receiptSource());
         if (dialog.exec() == QDialog::Accepted)
             dialog.takeInto(screen);
     });

@@ -12,6 +12,11 @@ struct PurchaseKind;
 
 namespace medistock::ui {
 
+struct ReturnSource;
+
+// A purchase return's lines taken from a checked receipt.
+ReturnSource receiptSource();
+
 // What the purchase receipt and return add to the shared document screen: their own header
 // fields, the purchase price proposal, the check dialog "单据审核确认" and their operations. The
 // paid amount, settlement mode and account are confirmed in the check dialog; a change of the

@@ -23,7 +23,6 @@ inline const QString mode = QStringLiteral("结算方式");
 inline const QString account = QStringLiteral("结算帐户");
 inline const QString byPaid = QStringLiteral("按实付款结算");
 inline const QString remainderPayable = QStringLiteral("余款记入应付帐");
-inline const QString cancel = QStringLiteral("取消(Esc)");
 
 // Header fields of their own
 inline const QString invoiceNumber = QStringLiteral("发票号");
@@ -36,11 +35,7 @@ inline const QString freightTerms = QStringLiteral("付费方式");
 inline const QString fromReceipt = QStringLiteral("从进货单退货(F10)");
 inline const QString receiptLinesTitle = QStringLiteral("选择进货单及退货商品");
 inline const QString receipts = QStringLiteral("已审核的进货单");
-inline const QString take = QStringLiteral("确定(Enter)");
 inline const QString bought = QStringLiteral("进货数量");
-inline const QString returnedBefore = QStringLiteral("已退数量");
-inline const QString left = QStringLiteral("可退数量");
-inline const QString chooseLinesFirst = QStringLiteral("请先勾选要退货的商品！");
 
 // The query of receipts and returns
 inline const QString queryTitle = QStringLiteral("进退货查询");

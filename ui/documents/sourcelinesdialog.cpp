@@ -1,16 +1,13 @@
-#include "ui/purchasing/receiptlinesdialog.h"
+#include "ui/documents/sourcelinesdialog.h"
 
 #include "core/interaction.h"
 #include "core/rounding.h"
-#include "purchasing/kinds.h"
-#include "purchasing/proposals.h"
 #include "shell/session.h"
 #include "ui/common/grid.h"
 #include "ui/common/reading.h"
 #include "ui/common/workspace.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/texts.h"
-#include "ui/purchasing/texts.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -35,45 +32,53 @@ QString caption(LineField field)
 
 } // namespace
 
-ReceiptLinesDialog::ReceiptLinesDialog(DocumentScreen &screen)
+void loadSourceLink(const documents::DocumentLineRow &stored, LineEntry &line)
+{
+    const qint64 id2 = stored.stored.value(QStringLiteral("id2")).toLongLong();
+    if (id2 > 0)
+        line.columns.set(QStringLiteral("id2"), id2);
+}
+
+SourceLinesDialog::SourceLinesDialog(DocumentScreen &screen, ReturnSource source)
     : QDialog(&screen)
     , m_screen(screen)
-    , m_receipts(makeGrid({ doctexts::number, doctexts::date, doctexts::warehouse,
-                              doctexts::goodsCount, doctexts::amount, doctexts::note },
+    , m_source(std::move(source))
+    , m_sources(makeGrid({ doctexts::number, doctexts::date, doctexts::warehouse,
+                             doctexts::goodsCount, doctexts::amount, doctexts::note },
           this))
-    , m_lines(makeGrid({ QStringLiteral("退货"), caption(LineField::Code), caption(LineField::Name),
-                           caption(LineField::Packing), caption(LineField::Unit),
-                           caption(LineField::Batch), caption(LineField::Expiry), pctexts::bought,
-                           pctexts::returnedBefore, pctexts::left, caption(LineField::Price) },
+    , m_lines(makeGrid(
+          { doctexts::returnColumn, caption(LineField::Code), caption(LineField::Name),
+              caption(LineField::Packing), caption(LineField::Unit), caption(LineField::Batch),
+              caption(LineField::Expiry), m_source.quantityCaption, doctexts::returnedBefore,
+              doctexts::left, caption(LineField::Price) },
           this))
 {
-    setWindowTitle(pctexts::receiptLinesTitle);
-    m_receipts->setColumnWidth(0, 130);
+    setWindowTitle(m_source.title);
+    m_sources->setColumnWidth(0, 130);
     const int widths[] = { 44, 96, 180, 96, 50, 84, 90, 76, 76, 76, 76 };
     for (int column = 0; column < int(std::size(widths)); ++column)
         m_lines->setColumnWidth(column, widths[column]);
-    for (QTableWidget *grid : { m_receipts, m_lines })
+    for (QTableWidget *grid : { m_sources, m_lines })
         grid->installEventFilter(this);
     const shell::Session &session = screen.workspace().session;
     readSafely(session.ui(), [&] {
         documents::DocumentFilter filter;
         filter.party = screen.partyCode();
         filter.status = 1;
-        m_receiptRows
-            = documents::listDocuments(session, purchasing::purchaseReceipt().entry, filter);
+        m_sourceRows = documents::listDocuments(session, *m_source.kind, filter);
     });
-    // The newest receipt first: a return usually follows its receipt closely.
-    std::reverse(m_receiptRows.begin(), m_receiptRows.end());
+    // The newest first: a return usually follows its source closely.
+    std::reverse(m_sourceRows.begin(), m_sourceRows.end());
     QList<QStringList> rows;
-    for (const documents::DocumentRow &row : std::as_const(m_receiptRows))
+    for (const documents::DocumentRow &row : std::as_const(m_sourceRows))
         rows.append({ row.number, row.date, row.warehouseName, QString::number(row.goodsCount),
             QString::number(row.due, 'f', session.params().amountDecimals()), row.note });
-    fillGrid(m_receipts, rows);
-    connect(m_receipts, &QTableWidget::currentCellChanged, this, &ReceiptLinesDialog::showLines);
+    fillGrid(m_sources, rows);
+    connect(m_sources, &QTableWidget::currentCellChanged, this, &SourceLinesDialog::showLines);
 
-    auto *ok = new QPushButton(pctexts::take, this);
-    auto *cancel = new QPushButton(pctexts::cancel, this);
-    connect(ok, &QPushButton::clicked, this, &ReceiptLinesDialog::take);
+    auto *ok = new QPushButton(doctexts::take, this);
+    auto *cancel = new QPushButton(doctexts::cancel, this);
+    connect(ok, &QPushButton::clicked, this, &SourceLinesDialog::take);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     for (QPushButton *button : { ok, cancel })
         button->setAutoDefault(false);
@@ -82,25 +87,24 @@ ReceiptLinesDialog::ReceiptLinesDialog(DocumentScreen &screen)
     buttons->addWidget(ok);
     buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(pctexts::receipts, this));
-    layout->addWidget(m_receipts, 2);
+    layout->addWidget(new QLabel(m_source.listCaption, this));
+    layout->addWidget(m_sources, 2);
     layout->addWidget(m_lines, 3);
     layout->addLayout(buttons);
     resize(1100, 560);
-    if (!m_receiptRows.isEmpty())
-        m_receipts->setCurrentCell(0, 0);
-    m_receipts->setFocus();
+    if (!m_sourceRows.isEmpty())
+        m_sources->setCurrentCell(0, 0);
+    m_sources->setFocus();
 }
 
-void ReceiptLinesDialog::showLines()
+void SourceLinesDialog::showLines()
 {
-    const int row = m_receipts->currentRow();
+    const int row = m_sources->currentRow();
     m_returnable.clear();
     const shell::Session &session = m_screen.workspace().session;
-    if (row >= 0 && row < m_receiptRows.size())
+    if (row >= 0 && row < m_sourceRows.size())
         readSafely(session.ui(), [&] {
-            m_returnable = purchasing::returnableReceiptLines(
-                session, m_receiptRows[row].number, m_screen.number());
+            m_returnable = m_source.lines(session, m_sourceRows[row].number, m_screen.number());
         });
     QList<QStringList> rows;
     for (const documents::ReturnableLine &r : std::as_const(m_returnable))
@@ -120,14 +124,14 @@ void ReceiptLinesDialog::showLines()
         m_lines->setCurrentCell(0, 0);
 }
 
-void ReceiptLinesDialog::tick(int line, bool ticked)
+void SourceLinesDialog::tick(int line, bool ticked)
 {
     if (QTableWidgetItem *box = m_lines->item(line, 0);
         box && (box->flags() & Qt::ItemIsUserCheckable))
         box->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
 }
 
-QList<int> ReceiptLinesDialog::tickedLines() const
+QList<int> SourceLinesDialog::tickedLines() const
 {
     QList<int> ticked;
     for (int i = 0; i < m_lines->rowCount(); ++i)
@@ -136,22 +140,22 @@ QList<int> ReceiptLinesDialog::tickedLines() const
     return ticked;
 }
 
-void ReceiptLinesDialog::take()
+void SourceLinesDialog::take()
 {
     if (tickedLines().isEmpty()) {
-        m_screen.workspace().session.ui().inform(pctexts::chooseLinesFirst);
+        m_screen.workspace().session.ui().inform(doctexts::chooseLinesFirst);
         return;
     }
     accept();
 }
 
-void ReceiptLinesDialog::takeInto(DocumentScreen &screen) const
+void SourceLinesDialog::takeInto(DocumentScreen &screen) const
 {
-    const int receipt = m_receipts->currentRow();
-    if (receipt < 0 || receipt >= m_receiptRows.size())
+    const int source = m_sources->currentRow();
+    if (source < 0 || source >= m_sourceRows.size())
         return;
     const shell::Session &session = screen.workspace().session;
-    screen.setWarehouse(m_receiptRows[receipt].warehouse);
+    screen.setWarehouse(m_sourceRows[source].warehouse);
     QList<LineEntry> lines;
     for (int i : tickedLines()) {
         const documents::ReturnableLine &r = m_returnable[i];
@@ -175,13 +179,13 @@ void ReceiptLinesDialog::takeInto(DocumentScreen &screen) const
     screen.appendLines(lines);
 }
 
-bool ReceiptLinesDialog::eventFilter(QObject *watched, QEvent *event)
+bool SourceLinesDialog::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress)
         return QDialog::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent *>(event)->key();
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (watched == m_receipts && enter) {
+    if (watched == m_sources && enter) {
         m_lines->setFocus();
         return true;
     }

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "app/screenshots/documents.h"
+
+// Renders the sales screens on the business shootDocuments seeded: the sale filled (with the
+// goods picker and the batch picker open), the unchecked sales, the customer return taken from
+// a checked sale, the sales order and "导入销售订单".
+void shootSales(
+    const Shots &shots, medistock::ui::MainWindow &window, medistock::ui::Workspace &workspace);

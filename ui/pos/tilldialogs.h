@@ -1,0 +1,90 @@
+#pragma once
+
+#include "members/retail.h"
+#include "pos/handover.h"
+#include "pos/returns.h"
+
+#include <QDialog>
+#include <QList>
+
+class QComboBox;
+class QDoubleSpinBox;
+class QLabel;
+class QLineEdit;
+class QTableWidget;
+
+namespace medistock::shell {
+class Session;
+}
+
+namespace medistock::ui {
+
+// "付款结账": the amount due split over the ways of paying. Cash starts at the amount due, so
+// Enter alone takes it in cash; change is what the cash gives over the amount due. Only cash
+// gives change: the other ways together may not exceed what is due. The stored-value card is
+// offered only to a member, up to the card balance (the posting holds the balance again).
+class PaymentDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    // `linesAmount`: the lines' amounts before rounding off; `cardBalance` < 0: no member.
+    PaymentDialog(const shell::Session &session, double linesAmount, double cardBalance,
+        QWidget *parent = nullptr);
+
+    members::RetailPayment payment() const;
+    QDoubleSpinBox *field(int way) const { return m_fields.at(way); } // in the order of ways()
+    static QStringList ways();
+    QLabel *changeLabel() const { return m_change; }
+
+public slots:
+    void accept() override;
+
+private:
+    double due() const;
+    double others() const;
+    void update();
+
+    const shell::Session &m_session;
+    double m_linesAmount;
+    QList<QDoubleSpinBox *> m_fields; // cash, card, bank card, insurance, WeChat, Alipay, rounding
+    QLabel *m_due;
+    QLabel *m_change;
+};
+
+// The return of a sold receipt: its lines with what is left to give back and a column for the
+// quantity returned now.
+class ReturnDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    ReturnDialog(const pos::SoldReceipt &receipt, int quantityDecimals, QWidget *parent = nullptr);
+
+    QList<double> quantities() const;
+    QTableWidget *grid() const { return m_grid; }
+
+private:
+    QTableWidget *m_grid;
+};
+
+// "交班": the shift's figures, the next cashier and the count split into what is handed up and
+// what stays in the drawer.
+class HandoverDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    HandoverDialog(
+        const shell::Session &session, const pos::ShiftFigures &figures, QWidget *parent = nullptr);
+
+    pos::HandoverDraft draft() const;
+    QComboBox *nextBox() const { return m_next; }
+    QDoubleSpinBox *handedUpField() const { return m_up; }
+    QDoubleSpinBox *leftField() const { return m_down; }
+
+private:
+    QComboBox *m_next;
+    QDoubleSpinBox *m_up;
+    QDoubleSpinBox *m_down;
+    QLineEdit *m_note;
+};
+
+} // namespace medistock::ui

@@ -1,0 +1,368 @@
+#include "ui/sales/salekinds.h"
+
+#include "accounts/bankaccounts.h"
+#include "accounts/cashbook.h"
+#include "accounts/ledger.h"
+#include "accounts/texts.h"
+#include "core/interaction.h"
+#include "masterdata/texts.h"
+#include "sales/entry.h"
+#include "sales/kinds.h"
+#include "sales/orders.h"
+#include "sales/prices.h"
+#include "sales/salecheck.h"
+#include "sales/salesreturn.h"
+#include "shell/rights.h"
+#include "shell/session.h"
+#include "ui/common/reading.h"
+#include "ui/documents/documentscreen.h"
+#include "ui/documents/sourcelinesdialog.h"
+#include "ui/sales/orderlinesdialog.h"
+#include "ui/sales/texts.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSqlRecord>
+
+namespace medistock::ui {
+
+namespace {
+
+// An amount field shows nothing for 0, so that an untouched document shows no noise.
+QString amountText(double value)
+{
+    return value == 0 ? QString() : QString::number(value, 'g', 15);
+}
+
+QLineEdit *amountField(QWidget *parent)
+{
+    auto *field = new QLineEdit(parent);
+    field->setAlignment(Qt::AlignRight);
+    return field;
+}
+
+void choose(QComboBox *box, const QString &text, bool byData)
+{
+    const int at = byData ? box->findData(text) : box->findText(text);
+    box->setCurrentIndex(std::max(0, at));
+}
+
+} // namespace
+
+SalesScreenKind::SalesScreenKind(const shell::Session &session, const documents::DocumentKind &kind)
+    : m_session(session)
+    , m_entry(kind)
+{ }
+
+bool SalesScreenKind::isReturn() const
+{
+    return &m_entry == &sales::salesReturnKind();
+}
+
+bool SalesScreenKind::isOrder() const
+{
+    return &m_entry == &sales::salesOrderKind();
+}
+
+QList<LineField> SalesScreenKind::lineFields() const
+{
+    QList<LineField> fields = DocumentScreenKind::lineFields();
+    if (!shell::hasRight(m_session, QStringLiteral("qtcz"), 9))
+        for (LineField hidden : { LineField::Price, LineField::Amount, LineField::Total })
+            fields.removeAll(hidden);
+    return fields;
+}
+
+QList<std::pair<QString, QWidget *>> SalesScreenKind::createHeaderFields(QWidget *parent)
+{
+    m_mode = new QComboBox(parent);
+    for (const accounts::SettlementMode &mode : accounts::settlementModes(QStringLiteral("xs")))
+        m_mode->addItem(mode.text, mode.value);
+    m_account = new QComboBox(parent);
+    readSafely(m_session.ui(), [&] {
+        for (const accounts::BankAccount &account : accounts::listBankAccounts(m_session.db()))
+            m_account->addItem(account.name);
+    });
+    m_paid = amountField(parent);
+    QList<std::pair<QString, QWidget *>> fields { { sltexts::mode, m_mode },
+        { sltexts::account, m_account },
+        { isReturn() ? sltexts::refunded : sltexts::received, m_paid } };
+    if (isOrder())
+        return fields;
+    m_invoiceNumber = new QLineEdit(parent);
+    m_invoiceAmount = amountField(parent);
+    fields.append({ sltexts::invoiceNumber, m_invoiceNumber });
+    fields.append({ sltexts::invoiceAmount, m_invoiceAmount });
+    if (!isReturn()) {
+        m_freight = amountField(parent);
+        m_packing = amountField(parent);
+        m_freightTerms = new QComboBox(parent);
+        m_freightTerms->addItems(
+            { QString(), accounts::texts::wePayFreight(), accounts::texts::theyPayFreight() });
+        fields.append({ sltexts::freight, m_freight });
+        fields.append({ sltexts::packing, m_packing });
+        fields.append({ sltexts::freightTerms, m_freightTerms });
+    }
+    return fields;
+}
+
+void SalesScreenKind::loadHeader(const QSqlRecord &header)
+{
+    const QString p = isReturn() ? QStringLiteral("th_") : QStringLiteral("ls_");
+    const auto text = [&](const QString &name) { return header.value(name).toString(); };
+    // A return stores its amounts negated; the screen shows them as entered.
+    const double sign = isReturn() ? -1 : 1;
+    m_saved = {};
+    m_saved.settlementMode = text(p + QStringLiteral("jsfs"));
+    m_saved.account = text(p + QStringLiteral("kmmc"));
+    m_saved.paid = sign * header.value(p + QStringLiteral("sfje")).toDouble();
+    m_saved.invoiceNumber = text(p + QStringLiteral("fpno"));
+    m_saved.invoiceAmount = header.value(p + QStringLiteral("fpje")).toDouble();
+    if (!isReturn()) {
+        m_saved.freight = header.value(QStringLiteral("ls_yf")).toDouble();
+        m_saved.packing = header.value(QStringLiteral("ls_bzf")).toDouble();
+        m_saved.freightTerms = text(QStringLiteral("ls_yffs"));
+        m_saved.linkNumber = text(QStringLiteral("gl_djh2"));
+    }
+    choose(m_mode, m_saved.settlementMode, true);
+    choose(m_account, m_saved.account, false);
+    m_paid->setText(amountText(m_saved.paid));
+    if (m_invoiceNumber) {
+        m_invoiceNumber->setText(m_saved.invoiceNumber);
+        m_invoiceAmount->setText(amountText(m_saved.invoiceAmount));
+    }
+    if (m_freight) {
+        m_freight->setText(amountText(m_saved.freight));
+        m_packing->setText(amountText(m_saved.packing));
+        choose(m_freightTerms, m_saved.freightTerms, false);
+    }
+}
+
+void SalesScreenKind::clearHeader()
+{
+    m_saved = {};
+    m_mode->setCurrentIndex(0);
+    choose(m_account, accounts::cashAccountName(), false);
+    for (QLineEdit *field : { m_paid, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
+        if (field)
+            field->clear();
+    if (m_freightTerms)
+        m_freightTerms->setCurrentIndex(0);
+}
+
+void SalesScreenKind::setHeaderReadOnly(bool readOnly)
+{
+    for (QLineEdit *field : { m_paid, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
+        if (field)
+            field->setReadOnly(readOnly);
+    for (QComboBox *box : { m_mode, m_account, m_freightTerms })
+        if (box)
+            box->setEnabled(!readOnly);
+}
+
+void SalesScreenKind::takeHeader(const sales::SaleHeader &header)
+{
+    if (!header.settlementMode.isEmpty())
+        choose(m_mode, header.settlementMode, true);
+    if (!header.account.isEmpty())
+        choose(m_account, header.account, false);
+}
+
+Result<sales::SaleHeader> SalesScreenKind::header(const shell::Session &session) const
+{
+    sales::SaleHeader h = m_saved;
+    h.settlementMode = m_mode->currentData().toString();
+    h.account = m_account->currentText();
+    if (m_invoiceNumber)
+        h.invoiceNumber = m_invoiceNumber->text();
+    h.freightTerms = m_freightTerms ? m_freightTerms->currentText() : QString();
+    const std::tuple<QLineEdit *, double *, QString> amounts[]
+        = { { m_paid, &h.paid, isReturn() ? sltexts::refunded : sltexts::received },
+              { m_invoiceAmount, &h.invoiceAmount, sltexts::invoiceAmount },
+              { m_freight, &h.freight, sltexts::freight },
+              { m_packing, &h.packing, sltexts::packing } };
+    for (const auto &[field, value, label] : amounts) {
+        if (!field)
+            continue;
+        const QString typed = field->text().trimmed();
+        bool ok = true;
+        *value = typed.isEmpty() ? 0 : typed.toDouble(&ok);
+        if (!ok) {
+            const QString text = masterdata::texts::notANumber(label, typed);
+            session.ui().inform(text);
+            return Outcome::refused(text);
+        }
+    }
+    return h;
+}
+
+double SalesScreenKind::proposePrice(const shell::Session &session,
+    const documents::GoodsChoice &goods, const QString &unit, const QString &party) const
+{
+    return sales::linePrice(session, goods.code, party, unit);
+}
+
+SaleScreenKind::SaleScreenKind(const shell::Session &session)
+    : SalesScreenKind(session, sales::saleKind())
+{ }
+
+int SaleScreenKind::checkRight() const
+{
+    return sales::rights::checkSale;
+}
+
+int SaleScreenKind::uncheckRight() const
+{
+    return sales::rights::uncheckSale;
+}
+
+QString SaleScreenKind::dueLabel() const
+{
+    return sltexts::receivable;
+}
+
+Result<QString> SaleScreenKind::save(shell::Session &session, const documents::DocumentDraft &draft)
+{
+    const Result<sales::SaleHeader> h = header(session);
+    if (!h)
+        return h.outcome();
+    return sales::saveSale(session, { draft, h.value() });
+}
+
+Outcome SaleScreenKind::check(shell::Session &session, const QString &number, QWidget *)
+{
+    return sales::checkSale(session, number);
+}
+
+Outcome SaleScreenKind::uncheck(shell::Session &session, const QString &number)
+{
+    return sales::uncheckSale(session, number);
+}
+
+Outcome SaleScreenKind::remove(shell::Session &session, const QString &number)
+{
+    return sales::deleteSale(session, number);
+}
+
+void SaleScreenKind::addActions(DocumentScreen &screen)
+{
+    auto *button = new QPushButton(sltexts::importButton, &screen);
+    QObject::connect(button, &QPushButton::clicked, &screen, [&screen] {
+        OrderLinesDialog dialog(screen);
+        if (dialog.exec() == QDialog::Accepted)
+            dialog.takeInto(screen);
+    });
+    screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
+}
+
+SalesReturnScreenKind::SalesReturnScreenKind(const shell::Session &session)
+    : SalesScreenKind(session, sales::salesReturnKind())
+{ }
+
+int SalesReturnScreenKind::checkRight() const
+{
+    return sales::rights::checkReturn;
+}
+
+int SalesReturnScreenKind::uncheckRight() const
+{
+    return sales::rights::uncheckReturn;
+}
+
+QString SalesReturnScreenKind::dueLabel() const
+{
+    return sltexts::refundDue;
+}
+
+void SalesReturnScreenKind::loadLine(
+    const documents::DocumentLineRow &stored, LineEntry &line) const
+{
+    loadSourceLink(stored, line);
+}
+
+Result<QString> SalesReturnScreenKind::save(
+    shell::Session &session, const documents::DocumentDraft &draft)
+{
+    const Result<sales::SaleHeader> h = header(session);
+    if (!h)
+        return h.outcome();
+    return sales::saveSalesReturn(session, { draft, h.value() });
+}
+
+Outcome SalesReturnScreenKind::check(shell::Session &session, const QString &number, QWidget *)
+{
+    return sales::checkSalesReturn(session, number);
+}
+
+Outcome SalesReturnScreenKind::uncheck(shell::Session &session, const QString &number)
+{
+    return sales::uncheckSalesReturn(session, number);
+}
+
+Outcome SalesReturnScreenKind::remove(shell::Session &session, const QString &number)
+{
+    return sales::deleteSalesReturn(session, number);
+}
+
+ReturnSource saleSource()
+{
+    return { &sales::saleKind(), &sales::returnableSaleLines, sltexts::saleLinesTitle,
+        sltexts::sales, sltexts::sold };
+}
+
+void SalesReturnScreenKind::addActions(DocumentScreen &screen)
+{
+    auto *button = new QPushButton(sltexts::fromSale, &screen);
+    QObject::connect(button, &QPushButton::clicked, &screen, [&screen] {
+        SourceLinesDialog dialog(screen, saleSource());
+        if (dialog.exec() == QDialog::Accepted)
+            dialog.takeInto(screen);
+    });
+    screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
+}
+
+SalesOrderScreenKind::SalesOrderScreenKind(const shell::Session &session)
+    : SalesScreenKind(session, sales::salesOrderKind())
+{ }
+
+int SalesOrderScreenKind::checkRight() const
+{
+    return sales::rights::checkOrder;
+}
+
+QList<LineField> SalesOrderScreenKind::enterFields() const
+{
+    return { LineField::Code, LineField::Quantity, LineField::Price };
+}
+
+QString SalesOrderScreenKind::dueLabel() const
+{
+    return sltexts::receivable;
+}
+
+Result<QString> SalesOrderScreenKind::save(
+    shell::Session &session, const documents::DocumentDraft &draft)
+{
+    const Result<sales::SaleHeader> h = header(session);
+    if (!h)
+        return h.outcome();
+    return sales::saveSalesOrder(session, { draft, h.value() });
+}
+
+Outcome SalesOrderScreenKind::check(shell::Session &session, const QString &number, QWidget *)
+{
+    return sales::checkSalesOrder(session, number);
+}
+
+Outcome SalesOrderScreenKind::uncheck(shell::Session &, const QString &)
+{
+    return Outcome::refused(QString());
+}
+
+Outcome SalesOrderScreenKind::remove(shell::Session &session, const QString &number)
+{
+    return sales::deleteSalesOrder(session, number);
+}
+
+} // namespace medistock::ui
