@@ -241,6 +241,16 @@ void Connection::forEach(const QString &sql, const QVariantList &params,
         row(statement.query());
 }
 
+QStringList Connection::resultColumns(const QString &sql, const QVariantList &params)
+{
+    Statement statement = take(sql, params);
+    const QSqlRecord record = statement.query().record();
+    QStringList names;
+    for (int i = 0; i < record.count(); ++i)
+        names.append(record.fieldName(i));
+    return names;
+}
+
 bool Connection::tableExists(const QString &table)
 {
     if (m_dialect == Dialect::Sqlite)

@@ -62,6 +62,8 @@ public:
     // Streams the rows to a callback that reads columns by position (q.value(0) ...).
     void forEach(const QString &sql, const QVariantList &params,
         const std::function<void(const QSqlQuery &)> &row);
+    // The names of the columns a select returns, also when it returns no row.
+    QStringList resultColumns(const QString &sql, const QVariantList &params = {});
 
     // Runs a statement without parameters and without keeping it prepared (DDL, pragmas).
     void execDirect(const QString &sql);

@@ -10,6 +10,7 @@ packages=(
     qt6-charts-dev libqt6charts6
     libsqlite3-dev libsodium-dev libicu-dev libxlsxwriter-dev libzip-dev
     libgtest-dev libgmock-dev libbenchmark-dev
+    libzint-dev poppler-utils
     fonts-noto-cjk xvfb xauth
 )
 

@@ -73,6 +73,16 @@ bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &
 
 } // namespace
 
+QString commandName(const QStringList &arguments)
+{
+    QStringList rest = arguments;
+    GlobalOptions options;
+    QString error;
+    if (!takeGlobalOptions(rest, options, error) || rest.isEmpty())
+        return QString();
+    return rest.first();
+}
+
 int runCli(
     const Registry &registry, const QStringList &arguments, QTextStream &out, QTextStream &err)
 {

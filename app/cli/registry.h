@@ -15,6 +15,7 @@ struct Command
     QString usage; // the arguments, as shown in the help text
     QString summary; // one line
     std::function<int(Context &, Args &)> run;
+    bool paints = false; // lays out text, so the program starts with fonts (a GUI application)
 };
 
 class Registry
@@ -55,9 +56,13 @@ void addGspEntryCommands(Registry &registry);
 void addMembersCommands(Registry &registry);
 // "stats": the statistics reports, the summary's difference check and the cost resync.
 void addStatisticsCommands(Registry &registry);
+// print, print-all and print-sample.
+void addReportCommands(Registry &registry);
 // The till's reports, cash in and out and the shift handover.
 void addPosCommands(Registry &registry);
 
+// The command an argument list runs (global options skipped); empty when there is none.
+QString commandName(const QStringList &arguments);
 // Parses the global options, runs the command and returns the exit status.
 int runCli(
     const Registry &registry, const QStringList &arguments, QTextStream &out, QTextStream &err);

@@ -15,6 +15,8 @@
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/reports/printing.h"
+#include "ui/reports/registration.h"
 #include "ui/sales/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
@@ -55,6 +57,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerStatisticsScreens(registry);
+    ui::registerReportScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
     ui::registerPosScreens(registry);
@@ -90,6 +93,7 @@ int main(int argc, char *argv[])
 
     ui::GridLayouts layouts(ui::GridLayouts::defaultFilePath());
     ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts };
+    ui::installPrinting(workspace);
     ui::ScreenRegistry registry;
     registerScreens(registry);
     ui::MainWindow window(workspace, registry);

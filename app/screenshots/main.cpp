@@ -8,6 +8,7 @@
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "app/screenshots/pos.h"
+#include "app/screenshots/reports.h"
 #include "app/screenshots/sales.h"
 #include "app/screenshots/statistics.h"
 #include "core/accountsets.h"
@@ -29,6 +30,8 @@
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
 #include "ui/purchasing/registration.h"
+#include "ui/reports/printing.h"
+#include "ui/reports/registration.h"
 #include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
@@ -269,6 +272,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::registerStatisticsScreens(registry);
+    ui::registerReportScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
     ui::registerPosScreens(registry);
@@ -302,6 +306,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootDocuments(shots, window, workspace);
     shootGsp(shoot, window, workspace);
     shootStatistics(shoot, window, workspace);
+    shootReports(shoot, window, workspace);
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
@@ -329,6 +334,7 @@ int main(int argc, char *argv[])
 
     ui::GridLayouts layouts(QDir(scratch.path()).filePath(QStringLiteral("layout.ini")));
     ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts };
+    ui::installPrinting(workspace);
     shootWorkspace(shooter, workspace, scratch.path());
     return shooter.failed() ? 1 : 0;
 }

@@ -12,9 +12,11 @@
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/uncheckeddialog.h"
 #include "ui/purchasing/purchasekinds.h"
+#include "ui/reports/printing.h"
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTableView>
 #include <QTableWidget>
 
@@ -118,6 +120,51 @@ TEST_F(DocumentListsTest, ReceiptsAndReturnsAreListedTogetherAndNarrowedByTheFil
 
 // F9 on the receipt screen: only unchecked receipts; opening one shows it on the screen to
 // change, deleting one asks first.
+// "连续打印" asks once, then hands over every listed document in the query's order, each through
+// its own kind's template; declined, or on an empty query, nothing is printed.
+TEST_F(DocumentListsTest, PrintAllPrintsEveryListedDocumentWithItsOwnKey)
+{
+    qputenv("MEDISTOCK_REPORT_DIR", MEDISTOCK_SOURCE_DIR "/report");
+    QStringList printed;
+    workspace().printAll
+        = [&](ui::Workspace &workspace, QWidget *parent, const QList<ui::PrintRequest> &listed) {
+              return ui::printAllDirect(
+                  workspace, listed, parent, [&](const reports::PrintedDocument &document) {
+                      printed.append(document.templateName + QLatin1Char(' ') + document.number);
+                      return true;
+                  });
+          };
+    auto screen = query();
+    QPushButton *printAll = screen->offerPrintAll();
+    EXPECT_EQ(printAll->text(), QStringLiteral("连续打印"));
+    screen->run();
+    ui.answerNext(false);
+    printAll->click();
+    EXPECT_EQ(ui.asked.size(), 1);
+    EXPECT_TRUE(printed.isEmpty());
+
+    ui.clear();
+    ui.answerNext(true);
+    printAll->click();
+    EXPECT_EQ(ui.asked,
+        QStringList { QStringLiteral("您的操作将打印当前查询中的所有单据，\r\n\r\n"
+                                     "将直接打印不做预览，确认打印吗？") });
+    EXPECT_EQ(printed,
+        (QStringList { QStringLiteral("cgjh ") + first, QStringLiteral("cgth ") + back,
+            QStringLiteral("cgjh ") + second }));
+    EXPECT_TRUE(ui.informed.isEmpty()) << ui.informed.join(QLatin1Char('|')).toStdString();
+
+    printed.clear();
+    ui.clear();
+    screen->goodsField()->setText(QStringLiteral("没有这种商品"));
+    screen->run();
+    ui.answerNext(true);
+    printAll->click();
+    EXPECT_EQ(ui.asked.size(), 1);
+    EXPECT_TRUE(printed.isEmpty());
+    qunsetenv("MEDISTOCK_REPORT_DIR");
+}
+
 TEST_F(DocumentListsTest, TheUncheckedListOpensAndDeletes)
 {
     ui::DocumentScreen screen(workspace(), std::make_unique<ui::ReceiptScreenKind>());

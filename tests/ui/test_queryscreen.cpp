@@ -25,7 +25,8 @@ public:
         , filter(new QLineEdit(this))
     {
         addFilter(QStringLiteral("查找"), filter);
-        setColumns({ { QStringLiteral("名称") },
+        setColumns({ { QStringLiteral("名称"), ui::QueryColumn::Kind::Text, 0, false, 0,
+                         QStringLiteral("g_name") },
                        { QStringLiteral("数量"), ui::QueryColumn::Kind::Number, 2, true },
                        { QStringLiteral("单价"), ui::QueryColumn::Kind::Number, 4 } },
             QStringLiteral("样例"));
@@ -121,21 +122,21 @@ TEST_F(QueryScreenTest, ExportWritesTheGridAsShownWithItsTotals)
             { QString(), QStringLiteral("合计"), QStringLiteral("13.5") } }));
 }
 
-TEST_F(QueryScreenTest, PrintingStaysDisabledUntilAPrintHandlerIsGiven)
+TEST_F(QueryScreenTest, F8HandsTheGridItsFieldsAndTheFiltersToThePrintHandler)
 {
     {
         Sample screen(workspace());
         QAbstractButton *print = test::buttonNamed(&screen, QStringLiteral("打印(F8)"));
         ASSERT_NE(print, nullptr);
         EXPECT_FALSE(print->isEnabled());
-        EXPECT_EQ(print->toolTip(), QStringLiteral("打印功能尚未完成，完成后即可在此打印"));
     }
     QList<ui::PrintRequest> printed;
     workspace().print = [&](ui::Workspace &, QWidget *, const ui::PrintRequest &request) {
         printed.append(request);
     };
     Sample screen(workspace());
-    screen.rows = { { QStringLiteral("甲"), 1, 1 } };
+    screen.rows = { { QStringLiteral("甲"), 1, 1 }, { QStringLiteral("乙"), 2, 1 } };
+    screen.filter->setText(QStringLiteral(" 阿莫 "));
     screen.run();
     screen.show();
     screen.activateWindow();
@@ -144,5 +145,11 @@ TEST_F(QueryScreenTest, PrintingStaysDisabledUntilAPrintHandlerIsGiven)
     ASSERT_EQ(printed.size(), 1);
     EXPECT_EQ(printed[0].key, QStringLiteral("yl"));
     EXPECT_EQ(printed[0].grid, screen.model());
+    EXPECT_TRUE(printed[0].number.isEmpty());
+    // Only the named column prints; the totals row is left to the template.
+    EXPECT_EQ(printed[0].fields, (QStringList { QStringLiteral("g_name"), QString(), QString() }));
+    EXPECT_EQ(printed[0].gridRows, 2);
+    EXPECT_EQ(screen.model()->rowCount(), 3);
+    EXPECT_EQ(printed[0].filter, QStringLiteral("查找：阿莫"));
     EXPECT_TRUE(test::buttonNamed(&screen, QStringLiteral("打印(F8)"))->isEnabled());
 }

@@ -15,9 +15,13 @@
 #include "ui/documents/sourcelinesdialog.h"
 #include "ui/purchasing/checkdialog.h"
 #include "ui/purchasing/purchasekinds.h"
+#include "ui/reports/previewdialog.h"
+#include "ui/reports/printing.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -244,6 +248,57 @@ protected:
 
     QString receipt;
 };
+
+// F8 prints the open receipt through cgjh with preview; with "打印采购单时选择打印格式" on it
+// asks for the style first and prints with the one chosen. Before a document is open F8 does
+// nothing.
+TEST_F(CheckedReceiptTest, F8PrintsTheReceiptWithPreviewInTheChosenStyle)
+{
+    qputenv("MEDISTOCK_REPORT_DIR", MEDISTOCK_SOURCE_DIR "/report");
+    ui::installPrinting(workspace());
+    const auto previews = [] {
+        QList<ui::PreviewDialog *> found;
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
+                preview && preview->isVisible())
+                found.append(preview);
+        return found;
+    };
+    auto screen = openReceipt();
+    keys.setWindow(screen.get());
+    QPushButton *print = screen->printButton();
+    EXPECT_TRUE(print->isEnabled());
+    EXPECT_TRUE(print->toolTip().isEmpty());
+    keys.press(Qt::Key_F8);
+    EXPECT_TRUE(previews().isEmpty());
+
+    screen->openDocument(receipt);
+    keys.press(Qt::Key_F8);
+    ASSERT_EQ(previews().size(), 1);
+    ui::PreviewDialog *preview = previews().first();
+    EXPECT_EQ(preview->windowTitle(), QStringLiteral("打印预览 - 采购进货单 ") + receipt);
+    const QString text = preview->report().allText();
+    for (const QString &wanted : { receipt, QStringLiteral("华东医药"),
+             QStringLiteral("阿莫西林胶囊"), QStringLiteral("阿莫地喹片"), QStringLiteral("187.50"),
+             QStringLiteral("壹佰捌拾柒元伍角整") })
+        EXPECT_TRUE(text.contains(wanted)) << wanted.toStdString();
+    delete preview;
+
+    setParameter(QStringLiteral("cs_cs011"), 1);
+    keys.onDialog<QInputDialog>([](QInputDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("选择打印单据样式"));
+        EXPECT_EQ(dialog.labelText(), QStringLiteral("请选择需要的单据样式："));
+        dialog.setTextValue(QStringLiteral("采购进货单(无进价)"));
+        dialog.accept();
+    });
+    keys.press(Qt::Key_F8);
+    ASSERT_EQ(previews().size(), 1);
+    EXPECT_EQ(previews().first()->windowTitle(),
+        QStringLiteral("打印预览 - 采购进货单(无进价) ") + receipt);
+    EXPECT_FALSE(previews().first()->report().allText().contains(QStringLiteral("12.50")));
+    delete previews().first();
+    qunsetenv("MEDISTOCK_REPORT_DIR");
+}
 
 // Unchecked with F6 (after the question) and checked again with F5; then a return taken from
 // the receipt's lines: more than the line holds is refused with the limit's words and the grid

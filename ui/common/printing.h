@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -20,15 +22,22 @@ struct PrintRequest
     QString number; // empty when a grid is printed
     const QAbstractItemModel *grid
         = nullptr; // the rows shown, totals row last; null for a document
+    QStringList fields {}; // the template's field of each grid column; empty: not printed
+    int gridRows = 0; // the grid's rows without the totals row
+    QString filter {}; // the query's filters as shown ("仓库：主仓库  查找：阿莫"), for the heading
 };
 
-// Prints with preview; the program sets it once printing exists (Workspace::print). `parent` is
-// the screen, for the preview to centre on.
+// Prints with preview (Workspace::print). `parent` is the screen, for the preview to centre on.
 using PrintHandler = std::function<void(Workspace &, QWidget *parent, const PrintRequest &)>;
 
-// The "打印(F8)" button of a screen. Without a print handler it is disabled and its tooltip says
-// why; with one, pressing it (or F8 anywhere in the screen) prints what `request` returns at that
-// moment (nothing when its key is empty).
+// "连续打印": each document in the order given, without preview, after one question. Returns how
+// many were printed.
+using PrintAllHandler
+    = std::function<int(Workspace &, QWidget *parent, const QList<PrintRequest> &documents)>;
+
+// The "打印(F8)" button of a screen. Pressing it (or F8 anywhere in the screen) prints what
+// `request` returns at that moment (nothing when its key is empty). A workspace without a print
+// handler (a screen test) leaves it disabled, with the tooltip printingNotBuilt.
 QPushButton *makePrintButton(
     Workspace &workspace, QWidget *screen, std::function<PrintRequest()> request);
 

@@ -7,7 +7,9 @@
 #include "ui/common/workspace.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFont>
@@ -228,6 +230,7 @@ void QueryScreen::addFilter(const QString &label, QWidget *field)
     if (m_filterCount == 0)
         setFocusProxy(field);
     ++m_filterCount;
+    m_filterFields.append({ label, field });
 }
 
 void QueryScreen::addButton(QAbstractButton *button)
@@ -325,7 +328,29 @@ void QueryScreen::exportTo(const QString &path)
 
 PrintRequest QueryScreen::printRequest() const
 {
-    return { m_printKey, {}, m_model };
+    QStringList fields;
+    for (const QueryColumn &column : m_model->columns())
+        fields.append(column.field);
+    return { m_printKey, {}, m_model, fields, m_model->dataRows(), filterText() };
+}
+
+QString QueryScreen::filterText() const
+{
+    QStringList parts;
+    for (const auto &[label, field] : m_filterFields) {
+        QString shown;
+        if (auto *box = qobject_cast<QComboBox *>(field))
+            shown = box->currentText();
+        else if (auto *spin = qobject_cast<QAbstractSpinBox *>(field))
+            shown = spin->text();
+        else if (auto *edit = qobject_cast<QLineEdit *>(field))
+            shown = edit->text();
+        else if (auto *inner = field->findChild<QLineEdit *>())
+            shown = inner->text();
+        if (!shown.trimmed().isEmpty())
+            parts.append(label + QStringLiteral("：") + shown.trimmed());
+    }
+    return parts.join(QStringLiteral("  "));
 }
 
 bool QueryScreen::eventFilter(QObject *watched, QEvent *event)

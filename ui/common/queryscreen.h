@@ -5,6 +5,7 @@
 #include <QAbstractTableModel>
 #include <QColor>
 #include <QList>
+#include <QPair>
 #include <QVariant>
 #include <QWidget>
 
@@ -30,6 +31,7 @@ struct QueryColumn
     int decimals = 2; // numbers: shown with this many places
     bool summed = false; // numbers: added up in the totals row
     int width = 0; // pixels; 0: a width that fits the kind and the caption
+    QString field {}; // the field the screen's report template prints it as; empty: not printed
 };
 
 // The rows of a query for a grid: texts as they are, numbers right-aligned with their column's
@@ -68,9 +70,9 @@ private:
 // The screen every query and record list is built on: filters on top, the grid of results with
 // its totals row, an optional panel below it (the lines of the chosen document), "记录数：N"
 // under it all. Enter in a filter or F5 runs the query; Enter or a double-click on a row
-// activates it; "导出(&X)" writes the grid to an .xlsx file; "打印(F8)" prints through the
-// screen's report key once printing exists. A screen derives from it, adds its filters and
-// columns in its constructor, and fills the rows in fetch().
+// activates it; "导出(&X)" writes the grid to an .xlsx file; "打印(F8)" prints the grid through
+// the screen's report key with preview, each column as its field. A screen derives from it, adds
+// its filters and columns in its constructor, and fills the rows in fetch().
 class QueryScreen : public QWidget
 {
     Q_OBJECT
@@ -121,9 +123,12 @@ protected:
 
 private:
     QWidget *buildButtons();
+    // The filters with what they hold, for a printed heading: "仓库：主仓库  查找：阿莫".
+    QString filterText() const;
 
     QString m_title;
     QString m_printKey;
+    QList<QPair<QString, QWidget *>> m_filterFields; // label and field
     QGridLayout *m_filters;
     QHBoxLayout *m_buttons;
     QTableView *m_grid;

@@ -52,6 +52,11 @@ QString printingNotBuilt()
     return QStringLiteral("打印功能尚未完成，完成后即可在此打印");
 }
 
+QString printAllButton()
+{
+    return QStringLiteral("连续打印");
+}
+
 QString queryButton()
 {
     return QStringLiteral("查询(F5)");

@@ -16,7 +16,8 @@ QString pleaseWait(); // "请稍候"
 
 // Query screens and grids
 QString printButton(); // "打印(F8)"
-QString printingNotBuilt(); // the tooltip of a print button while printing is not built
+QString printingNotBuilt(); // the tooltip of a print button whose printing is not wired yet
+QString printAllButton(); // "连续打印"
 QString queryButton(); // "查询(F5)"
 QString query(); // "查询"
 QString exportButton(); // "导出(&X)"

@@ -29,8 +29,9 @@ struct Workspace
     // operator lacks its right or no screen is registered. Set by the main window; a screen
     // shown without one (a test, a screenshot) finds it empty.
     std::function<QWidget *(const QString &area, int position)> openScreen {};
-    // How screens print (see printing.h); empty until printing is built.
+    // How screens print (see printing.h); set by the program (ui/reports).
     PrintHandler print {};
+    PrintAllHandler printAll {};
 
     // Restores a grid's column widths and order for this screen and operator and keeps them.
     void rememberColumns(QTableView *grid, const QString &screen)

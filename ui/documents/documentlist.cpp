@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QDate>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTableWidget>
 
 namespace medistock::ui {
@@ -230,6 +231,26 @@ void DocumentListScreen::openCurrent()
     if (auto *screen
         = qobject_cast<DocumentScreen *>(m_workspace.openScreen(kind->area, kind->position)))
         screen->openDocument(currentNumber());
+}
+
+QPushButton *DocumentListScreen::offerPrintAll()
+{
+    auto *button = new QPushButton(texts::printAllButton(), this);
+    if (m_workspace.printAll)
+        connect(button, &QPushButton::clicked, this,
+            [this] { m_workspace.printAll(m_workspace, this, listedDocuments()); });
+    else
+        button->setEnabled(false);
+    addButton(button);
+    return button;
+}
+
+QList<PrintRequest> DocumentListScreen::listedDocuments() const
+{
+    QList<PrintRequest> documents;
+    for (int row = 0; row < m_rowNumbers.size(); ++row)
+        documents.append({ m_kinds[m_rowKinds[row]].printKey, m_rowNumbers[row] });
+    return documents;
 }
 
 PrintRequest DocumentListScreen::printRequest() const

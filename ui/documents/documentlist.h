@@ -11,6 +11,7 @@
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
+class QPushButton;
 class QTableWidget;
 
 namespace medistock::ui {
@@ -43,7 +44,8 @@ struct ListFilters
 
 // The documents of one or more kinds in one list (receipts and returns together), by date and
 // number, with the chosen document's lines below. Enter or a double-click opens the document in
-// its screen; "打印(F8)" prints the chosen document.
+// its screen; "打印(F8)" prints the chosen document; "连续打印", where offered, prints every
+// listed document.
 class DocumentListScreen : public QueryScreen
 {
     Q_OBJECT
@@ -63,6 +65,12 @@ public:
     QComboBox *statusBox() const { return m_status; }
     QComboBox *kindBox() const { return m_kindBox; }
     QTableWidget *linesGrid() const { return m_lines; }
+
+    // Adds "连续打印": every document of the query, in its order, each with its own kind's key,
+    // without preview after one question. Returns the button.
+    QPushButton *offerPrintAll();
+    // The documents the query lists, in its order, as "连续打印" hands them over.
+    QList<PrintRequest> listedDocuments() const;
 
     // What opening a document does: by default it opens in its screen through the workspace.
     using Opener = std::function<void(const ListedKind &kind, const QString &number)>;

@@ -5,7 +5,6 @@
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "ui/common/grid.h"
-#include "ui/common/printing.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
@@ -86,9 +85,7 @@ RecordScreen::RecordScreen(
     , m_count(new QLabel(this))
     , m_caption(new QLabel(this))
     , m_export(new QPushButton(texts::exportButton(), this))
-    , m_print(makePrintButton(workspace, this, [this] {
-        return PrintRequest { m_model->table().printKey, QString(), m_model };
-    }))
+    , m_print(new QPushButton(texts::printButton(), this))
 {
     m_grid->setModel(m_model);
     m_grid->installEventFilter(this);
@@ -109,6 +106,10 @@ RecordScreen::RecordScreen(
     m_bar->addWidget(query);
     m_bar->addStretch(1);
 
+    // The records' columns are not matched to their templates' fields yet: printing stays off.
+    m_print->setAutoDefault(false);
+    m_print->setEnabled(false);
+    m_print->setToolTip(texts::printingNotBuilt());
     m_export->setAutoDefault(false);
     connect(m_export, &QPushButton::clicked, this, &RecordScreen::chooseExportFile);
     m_bar->addWidget(m_export);

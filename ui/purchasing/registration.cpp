@@ -24,6 +24,7 @@ void registerPurchasingScreens(ScreenRegistry &registry)
                                       QStringLiteral("cgjh"), 1 },
             { &purchasing::purchaseReturn().entry, area, 2, QStringLiteral("cgth"), -1 } };
         auto *screen = new DocumentListScreen(workspace, pctexts::queryTitle, kinds, {});
+        screen->offerPrintAll();
         screen->run();
         return screen;
     });

@@ -15,6 +15,7 @@
 #include "ui/stock/texts.h"
 
 #include <QComboBox>
+#include <QHash>
 
 namespace medistock::ui {
 
@@ -26,7 +27,8 @@ CodeNameField *makeGoodsField(const shell::Session &session, QWidget *parent)
         QList<CodeNameField::Choice> choices;
         readSafely(session.ui(), [&] {
             for (const documents::GoodsChoice &g : documents::findGoods(session, text, QString()))
-                choices.append({ g.code, g.name, { g.code, g.name, g.packing, g.baseUnit, g.maker } });
+                choices.append(
+                    { g.code, g.name, { g.code, g.name, g.packing, g.baseUnit, g.maker } });
         });
         return choices;
     };
@@ -73,6 +75,18 @@ GoodsLedgerScreen::GoodsLedgerScreen(Workspace &workspace, QWidget *parent)
     if (m_costs)
         columns += QList<QueryColumn> { number(sttexts::average, params.priceDecimals()),
             number(sttexts::balanceValue, params.stockValueDecimals()) };
+    // The fields of the ledger's template (kcbd).
+    const QHash<QString, QString> fields { { sttexts::warehouse, QStringLiteral("ck_name") },
+        { sttexts::date, QStringLiteral("rq") }, { sttexts::kind, QStringLiteral("djlx") },
+        { sttexts::number, QStringLiteral("gl_djh") }, { sttexts::party, QStringLiteral("wldw") },
+        { sttexts::batch, QStringLiteral("t_ph") }, { sttexts::expiry, QStringLiteral("t_yxq") },
+        { sttexts::in, QStringLiteral("rk_sl") }, { sttexts::out, QStringLiteral("ck_sl") },
+        { sttexts::price, QStringLiteral("dj") }, { sttexts::amount, QStringLiteral("je") },
+        { sttexts::balance, QStringLiteral("jc_sl") },
+        { sttexts::average, QStringLiteral("jc_dj") },
+        { sttexts::balanceValue, QStringLiteral("jc_je") } };
+    for (QueryColumn &column : columns)
+        column.field = fields.value(column.caption);
     setColumns(
         columns, QStringLiteral("商品明细帐") + (m_costs ? QStringLiteral("/成本") : QString()));
     connect(this, &QueryScreen::activated, this, &GoodsLedgerScreen::openSource);

@@ -101,6 +101,17 @@ void StockQueryScreen::setMode(bool batches)
         columns += QList<QueryColumn> { { sttexts::cost, QueryColumn::Kind::Number,
                                             params.priceDecimals() },
             { sttexts::value, QueryColumn::Kind::Number, params.amountDecimals(), true } };
+    // The fields of the stock query's template (kccx); days left and the book stock do not print.
+    const QHash<QString, QString> fields { { sttexts::code, QStringLiteral("g_sn") },
+        { sttexts::name, QStringLiteral("g_name") },
+        { sttexts::packing, QStringLiteral("gg_name") },
+        { sttexts::unit, QStringLiteral("dw_name") }, { sttexts::maker, QStringLiteral("g_sccs") },
+        { sttexts::warehouse, QStringLiteral("ck_name") },
+        { sttexts::batch, QStringLiteral("t_ph") }, { sttexts::expiry, QStringLiteral("t_yxq") },
+        { sttexts::quantity, QStringLiteral("kc_sl") }, { sttexts::cost, QStringLiteral("kc_cbj") },
+        { sttexts::value, QStringLiteral("kc_je") } };
+    for (QueryColumn &column : columns)
+        column.field = fields.value(column.caption);
     setColumns(columns,
         QStringLiteral("库存查询/") + (batches ? QStringLiteral("批次") : QStringLiteral("仓库"))
             + (m_costs ? QStringLiteral("/成本") : QString()));
