@@ -5,8 +5,8 @@
 #include "app/cli/registry.h"
 
 #include "accounts/documentsupport.h"
-#include "core/rounding.h"
 #include "core/operation.h"
+#include "core/rounding.h"
 #include "sales/entry.h"
 #include "sales/fefo.h"
 #include "sales/kinds.h"

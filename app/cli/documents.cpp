@@ -128,7 +128,8 @@ void addDocumentCommands(Registry &registry)
             for (const DocumentKind &kind : kinds->kinds())
                 c.out() << kind.prefix << '\t' << kind.title << Qt::endl;
             return int(ExitDone);
-        } });
+        },
+        Access::Open });
 }
 
 } // namespace medistock::cli

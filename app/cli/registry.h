@@ -9,12 +9,18 @@
 
 namespace medistock::cli {
 
+// Every command that reads or writes an account set logs in first (--user/--password), so that a
+// wrong password stops it before it has read or written anything. Open commands touch no books
+// (text helpers, creating the data folder, the names of the sets) or log in themselves (login).
+enum class Access { LogsIn, Open };
+
 struct Command
 {
     QString name;
     QString usage; // the arguments, as shown in the help text
     QString summary; // one line
     std::function<int(Context &, Args &)> run;
+    Access access = Access::LogsIn;
 };
 
 class Registry

@@ -88,8 +88,9 @@ TEST_F(ParametersTest, RestoringDefaultsIsRefusedWhileAPurchaseLineIsNotWhollyRe
     addPurchaseLine(10, 4, 0);
     const Outcome refused = restoreDefaultParameters(session());
     EXPECT_EQ(refused.message(),
-        QStringLiteral("至少有一种商品没有完成入库，\r\n\r\n单据号：CJ25031410001，商品编号：100001\r\n\r\n"
-                       "不能取消商品入库功能！"));
+        QStringLiteral(
+            "至少有一种商品没有完成入库，\r\n\r\n单据号：CJ25031410001，商品编号：100001\r\n\r\n"
+            "不能取消商品入库功能！"));
     EXPECT_EQ(ui.informed, QStringList { refused.message() });
     EXPECT_FALSE(session().params().flag("cs_kc"));
 
@@ -98,8 +99,9 @@ TEST_F(ParametersTest, RestoringDefaultsIsRefusedWhileAPurchaseLineIsNotWhollyRe
                   "insert into jxc_lsxssp (gl_djh,g_sn,ls_sl,ls_cksl,ls_qxsl) values (?,?,?,?,?)"),
         { QStringLiteral("XS25031410002"), QStringLiteral("100002"), 5, 0, 0 });
     EXPECT_EQ(restoreDefaultParameters(session()).message(),
-        QStringLiteral("至少有一种商品没有完成出库，\r\n\r\n单据号：XS25031410002，商品编号：100002\r\n\r\n"
-                       "不能取消商品出库功能！"));
+        QStringLiteral(
+            "至少有一种商品没有完成出库，\r\n\r\n单据号：XS25031410002，商品编号：100002\r\n\r\n"
+            "不能取消商品出库功能！"));
 }
 
 TEST_F(ParametersTest, RestoringDefaultsWritesTheRowAnew)
