@@ -23,16 +23,18 @@ QString goodsDisabled(int row, const QString &name);
 QString discountGoodsEntered(int row);
 QString unitMissing(int row, const QString &goodsName, const QString &unit);
 QString unitWithoutFactor(int row, const QString &goodsName, const QString &unit);
-QString quantityNotNumber(int row, const QString &text);
 QString quantityZero(int row);
-QString quantityNegative(int row);
-QString priceNotNumber(int row, const QString &text);
-QString priceNegative(int row);
-QString taxRateNotNumber(int row, const QString &text);
-QString discountRateNotNumber(int row, const QString &text);
 QString producedInvalid(int row, const QString &date);
 QString expiryInvalid(int row, const QString &date);
 QString expiryBeforeProduced(int row);
+
+// The numbers of a line as number refusals name them ("第1行：数量")
+QString quantityField(int row);
+QString priceField(int row);
+QString taxRateField(int row);
+QString discountRateField(int row);
+QString baseQuantityField(int row);
+QString lineTotalField(int row);
 
 // Saving and deleting
 QString documentMissing(const QString &number);

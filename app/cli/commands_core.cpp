@@ -4,6 +4,7 @@
 #include "core/capitals.h"
 #include "core/datafolder.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/schema.h"
 #include "core/textclean.h"
 #include "shell/session.h"
@@ -110,10 +111,8 @@ int runClean(Context &context, Args &args)
 int runCapitals(Context &context, Args &args)
 {
     const QString text = takePositional(context, args, 1, 1).first();
-    bool ok = false;
-    const double amount = text.toDouble(&ok);
-    if (!ok)
-        return context.usageError(QStringLiteral("金额不是数字：") + text);
+    const double amount = valueOrReport(
+        context, core::readNumber(QStringLiteral("金额"), text, core::NumberKind::SignedAmount));
     context.out() << core::amountInCapitals(amount) << Qt::endl;
     return ExitDone;
 }
