@@ -117,13 +117,18 @@ Outcome changePassword(const Session &session, const QString &name, const QStrin
             return allowed;
     }
     core::Connection &db = session.db();
-    return core::guarded(session.ui(), [&]() -> Outcome {
+    const Outcome known = core::guarded(session.ui(), [&]() -> Outcome {
         if (!db.exists(QStringLiteral("select id from jxc_admin where a_name=?"), { name }))
             return core::refuse(session.ui(), QStringLiteral("没有这个操作员：") + name);
-        // An empty password lets anyone in under the name: it is set only when confirmed.
-        if (newPassword.isEmpty() && !session.ui().ask(clearPasswordQuestion(name)))
-            return Outcome::refused(QString());
-        const QString stored = storedPassword(newPassword);
+        return Outcome::done();
+    });
+    if (!known)
+        return known;
+    // An empty password lets anyone in under the name: it is set only when confirmed.
+    if (newPassword.isEmpty() && !session.ui().ask(clearPasswordQuestion(name)))
+        return Outcome::refused(QString());
+    const QString stored = storedPassword(newPassword);
+    return core::guarded(session.ui(), [&]() -> Outcome {
         core::Transaction transaction(db);
         db.exec(QStringLiteral("update jxc_admin set a_pwd=? where a_name=?"), { stored, name });
         session.log(QStringLiteral("修改操作员密码：") + name);
