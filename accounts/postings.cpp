@@ -36,6 +36,7 @@ QString headerSql(const MoneyColumns &c)
         column(c.salesman, "''"),
         QStringLiteral("(select u_name from jxc_user where u_sn=a.%1 order by id limit 1)")
             .arg(QLatin1String(c.salesman)),
+        column(c.warehouse, "''"),
         QStringLiteral("(select ck_name from jxc_ckxx where ck_sn=a.%1 order by id limit 1)")
             .arg(QLatin1String(c.warehouse)),
         column(c.account, "''"),
@@ -48,6 +49,7 @@ QString headerSql(const MoneyColumns &c)
         column(c.freight, "0"),
         column(c.packing, "0"),
         column(c.freightMode, "''"),
+        column(c.sourceNumber, "''"),
     };
     return QStringLiteral("select %1 from %2 a where a.%3=? order by a.id limit 1")
         .arg(fields.join(QLatin1Char(',')), QLatin1String(c.table), QLatin1String(c.number));
@@ -105,7 +107,8 @@ const MoneyColumns &saleMoney()
 {
     static const MoneyColumns c { "jxc_lsxsd", "gl_djh", "ls_xsrq", "kh_sn", "u_sn", "ck_sn",
         "ls_yfje", "ls_sfje", "", "ls_kmmc", "ls_note", "ls_fpje", "ls_fpno", "ls_yf", "ls_bzf",
-        "ls_yffs", PartyKind::Customer, "XS", "商品销售单", "商品销售", "销售单", 1, 1, true };
+        "ls_yffs", PartyKind::Customer, "XS", "商品销售单", "商品销售", "销售单", 1, 1, true,
+        "gl_djh2" };
     return c;
 }
 
@@ -113,7 +116,7 @@ const MoneyColumns &salesReturnMoney()
 {
     static const MoneyColumns c { "jxc_xsthd", "gl_djh", "th_xsrq", "kh_sn", "u_sn", "ck_sn",
         "th_yfje", "th_sfje", "", "th_kmmc", "th_note", "th_fpje", "th_fpno", "", "", "",
-        PartyKind::Customer, "XT", "顾客退货单", "顾客退货", "", 1, 1, true };
+        PartyKind::Customer, "XT", "顾客退货单", "顾客退货", "", 1, 1, true, "" };
     return c;
 }
 
@@ -121,7 +124,7 @@ const MoneyColumns &purchaseReceiptMoney()
 {
     static const MoneyColumns c { "jxc_jhd", "j_sn", "j_jhrq", "ghs_sn", "u_sn", "ck_sn", "j_yfje",
         "j_sfje", "j_yhje", "j_kmmc", "j_note", "j_fpje", "j_fpno", "j_yf", "j_bzf", "j_yffs",
-        PartyKind::Supplier, "CJ", "采购进货单", "采购进货", "采购单", -1, 1, false };
+        PartyKind::Supplier, "CJ", "采购进货单", "采购进货", "采购单", -1, 1, false, "j_sn2" };
     return c;
 }
 
@@ -129,7 +132,7 @@ const MoneyColumns &purchaseReturnMoney()
 {
     static const MoneyColumns c { "jxc_thd", "gl_djh", "th_thrq", "ghs_sn", "u_sn", "ck_sn",
         "th_yfje", "th_sfje", "", "th_kmmc", "th_note", "th_fpje", "th_fpno", "", "", "",
-        PartyKind::Supplier, "CT", "采购退货单", "采购退货", "", 1, -1, false };
+        PartyKind::Supplier, "CT", "采购退货单", "采购退货", "", 1, -1, false, "" };
     return c;
 }
 
@@ -155,17 +158,19 @@ std::optional<MoneyHeader> readMoneyHeader(
     h.partyName = r.value(3).toString();
     h.salesman = r.value(4).toString();
     h.salesmanName = r.value(5).toString();
-    h.warehouseName = r.value(6).toString();
-    h.account = r.value(7).toString();
-    h.note = r.value(8).toString();
-    h.due = r.value(9).toDouble();
-    h.paid = r.value(10).toDouble();
-    h.discount = r.value(11).toDouble();
-    h.invoiceAmount = r.value(12).toDouble();
-    h.invoiceNumber = r.value(13).toString();
-    h.freight = r.value(14).toDouble();
-    h.packing = r.value(15).toDouble();
-    h.freightMode = r.value(16).toString();
+    h.warehouse = r.value(6).toString();
+    h.warehouseName = r.value(7).toString();
+    h.account = r.value(8).toString();
+    h.note = r.value(9).toString();
+    h.due = r.value(10).toDouble();
+    h.paid = r.value(11).toDouble();
+    h.discount = r.value(12).toDouble();
+    h.invoiceAmount = r.value(13).toDouble();
+    h.invoiceNumber = r.value(14).toString();
+    h.freight = r.value(15).toDouble();
+    h.packing = r.value(16).toDouble();
+    h.freightMode = r.value(17).toString();
+    h.sourceNumber = r.value(18).toString();
     return h;
 }
 
@@ -224,6 +229,11 @@ void postInvoiceRow(shell::Session &session, const MoneyColumns &columns, const 
             session.user().name, session.today(),
             header.invoiceNumber.isEmpty() ? QString() : header.date });
     recalculateInvoices(db, columns.partyKind, header.party, header.date);
+}
+
+bool isFreightTerms(const QString &terms)
+{
+    return terms.isEmpty() || terms == texts::wePayFreight() || terms == texts::theyPayFreight();
 }
 
 void postFreightAndPacking(

@@ -41,6 +41,7 @@ struct MoneyColumns
     double cashSign; // +1 when the paid amount as stored comes in, -1 when it goes out
     double ledgerSign; // applied to due and paid as stored, so that what is owed grows by due
     bool cashWhenUnpaid; // the cash row is written even when nothing was paid
+    const char *sourceNumber; // the number the document came from, its ledger rows' gl_djh2
 };
 
 // Sales ("XS", jxc_lsxsd), customer returns ("XT", jxc_xsthd, amounts stored negative), purchase
@@ -59,6 +60,7 @@ struct MoneyHeader
     QString partyName;
     QString salesman; // u_sn
     QString salesmanName;
+    QString warehouse; // ck_sn
     QString warehouseName;
     QString account;
     QString note;
@@ -70,9 +72,11 @@ struct MoneyHeader
     double freight = 0;
     double packing = 0;
     QString freightMode;
+    QString sourceNumber; // empty when the document keeps none
 };
 
-// Reads the header with its party's, salesman's and warehouse's names; nullopt when missing.
+// Reads the header with its party's, salesman's and warehouse's names; nullopt when missing. A
+// check reads it once, after marking the header, and hands it to the money and stock postings.
 std::optional<MoneyHeader> readMoneyHeader(
     core::Connection &connection, const MoneyColumns &columns, const QString &number);
 
@@ -91,6 +95,8 @@ void postLedgerRow(shell::Session &session, const MoneyColumns &columns, const M
 //    register is on (cs_kp), then the party's invoice balances.
 void postInvoiceRow(
     shell::Session &session, const MoneyColumns &columns, const MoneyHeader &header);
+// The freight terms a document may keep: "我方付运费", "对方付运费", or none (empty).
+bool isFreightTerms(const QString &terms);
 // 4. Under "我方付运费": for freight and packing fee above 0 an expense row ("运费"/"包装费",
 //    -1 x the fee, "现金", checked) and a "费用付款" cash row of -1 x the fee whose note names the
 //    document; then the cash balances.

@@ -456,6 +456,11 @@ QString wePayFreight()
     return QStringLiteral("我方付运费");
 }
 
+QString theyPayFreight()
+{
+    return QStringLiteral("对方付运费");
+}
+
 QString freightItem()
 {
     return QStringLiteral("运费");

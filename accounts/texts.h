@@ -94,6 +94,7 @@ QString automaticIncomeFlag(); // "2", on the income rows that document checks w
 QString defaultDepartment(); // "100001"
 QString invoicingText(); // "增加发票"
 QString wePayFreight(); // "我方付运费"
+QString theyPayFreight(); // "对方付运费"
 QString freightItem(); // "运费"
 QString packingItem(); // "包装费"
 QString freightNoteEnd(); // "产生的运费"

@@ -33,14 +33,14 @@ bench::BenchSet &benchSet(const bench::LedgerShape &shape)
 void post(bench::BenchSet &set, const QString &number)
 {
     core::Transaction transaction(set.db());
-    stock::postPurchaseReceiptStock(set.session(), number);
+    stock::postPurchaseReceiptStock(set.session(), bench::receiptHeader(number));
     transaction.commit();
 }
 
 void reverse(bench::BenchSet &set, const QString &number)
 {
     core::Transaction transaction(set.db());
-    stock::reversePurchaseReceiptStock(set.session(), number);
+    stock::reversePurchaseReceiptStock(set.session(), bench::receiptHeader(number));
     transaction.commit();
 }
 

@@ -227,7 +227,7 @@ QString cachePath(const LedgerShape &shape)
     QString folder = qEnvironmentVariable("MEDISTOCK_BENCH_CACHE");
     if (folder.isEmpty())
         folder = QDir::tempPath();
-    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v1-%1-%2-%3.db")
+    return QDir(folder).filePath(QStringLiteral("medistock-bench-stock-v2-%1-%2-%3.db")
                                      .arg(shape.goods)
                                      .arg(shape.rows)
                                      .arg(shape.busyRows));
@@ -299,6 +299,18 @@ QString receiptYearBack()
 QString receiptBusyYearBack()
 {
     return QStringLiteral("CJ24031499003");
+}
+
+stock::PostingHeader receiptHeader(const QString &number)
+{
+    const QDate date = number == receiptToday() ? benchToday() : benchToday().addYears(-1);
+    stock::PostingHeader header;
+    header.number = number;
+    header.date = date.toString(QStringLiteral("yyyy-MM-dd"));
+    header.warehouse = mainWarehouse();
+    header.warehouseName = QStringLiteral("主仓库");
+    header.party = header.employee = QStringLiteral("100001");
+    return header;
 }
 
 BenchSet::BenchSet(const LedgerShape &shape)

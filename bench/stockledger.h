@@ -2,6 +2,7 @@
 
 #include "core/interaction.h"
 #include "shell/session.h"
+#include "stock/movement.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -29,6 +30,8 @@ QDate benchToday();
 QString receiptToday();
 QString receiptYearBack();
 QString receiptBusyYearBack();
+// The header of one of those receipts as its check hands it to the stock posting.
+stock::PostingHeader receiptHeader(const QString &number);
 
 // A working copy of the account set of a shape: built once by the bulk loader into a cache file
 // (MEDISTOCK_BENCH_CACHE, else the temporary folder) and copied fresh for each run, with admin

@@ -14,6 +14,10 @@ inline double roundTo(double value, int decimals)
     return std::round((value + 0.000000001) * scale) / scale;
 }
 
+// Figures summed from stored decimals may miss an equal figure by a hair: a shortage, an excess or
+// a difference counts only beyond this margin.
+inline constexpr double comparisonMargin = 0.000000001;
+
 // A decimal-places parameter counts only when it is a whole number from 0 to 8; else 2.
 inline int validDecimals(double places)
 {

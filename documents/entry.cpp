@@ -7,6 +7,7 @@
 #include "core/rounding.h"
 #include "core/schemacatalogue.h"
 #include "core/transaction.h"
+#include "documents/lifecycle.h"
 #include "documents/texts.h"
 #include "shell/session.h"
 #include "shell/settings.h"
@@ -272,27 +273,44 @@ Result<QString> saveDocument(const shell::Session &session, const DocumentKind &
     return number;
 }
 
-Outcome deleteDocument(
-    const shell::Session &session, const DocumentKind &kind, const QString &number)
+Outcome deleteDocument(const shell::Session &session, const DocumentKind &kind,
+    const QString &number, const QString &checkedQuestion)
 {
     Outcome outcome = requireKindRight(session, kind, kind.deleteRight);
     if (!outcome)
         return outcome;
+    int status = 0;
+    outcome = core::guarded(session.ui(), [&] {
+        const std::optional<int> found = documentStatus(session.db(), kind, number);
+        if (!found)
+            return core::refuse(session.ui(), texts::documentMissing(number));
+        status = *found;
+        if (status == 0)
+            return Outcome::done();
+        if (checkedQuestion.isEmpty())
+            return core::refuse(session.ui(), texts::checkedCannotDelete(number));
+        if (session.ui().ask(checkedQuestion))
+            return Outcome::done();
+        return Outcome::refused(checkedQuestion);
+    });
+    if (!outcome)
+        return outcome;
     return core::guarded(session.ui(), [&] {
-        Outcome unchecked = requireUnchecked(session, kind, number, texts::checkedCannotDelete);
-        if (!unchecked)
-            return unchecked;
         core::Transaction transaction(session.db());
         // Read again inside the transaction: another workstation may have checked it meanwhile.
-        unchecked = requireUnchecked(session, kind, number, texts::checkedCannotDelete);
-        if (!unchecked)
-            return unchecked;
+        const Outcome unchanged = status == 0
+            ? requireUnchecked(session, kind, number, texts::checkedCannotDelete)
+            : requireStatus(session, kind, number, 1);
+        if (!unchanged)
+            return unchanged;
         core::Connection &db = session.db();
         deleteLines(db, kind, number);
         db.exec(QStringLiteral("delete from %1 where %2")
                     .arg(QLatin1String(kind.header.table), equals(kind.header.number)),
             { number });
-        session.log(texts::deletedLog(QString::fromUtf8(kind.title), number));
+        const QString title = QString::fromUtf8(kind.title);
+        session.log(status == 0 ? texts::deletedLog(title, number)
+                                : texts::deletedCheckedLog(title, number));
         transaction.commit();
         return Outcome::done();
     });

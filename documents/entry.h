@@ -47,7 +47,7 @@ struct LineDraft
     QString discountRate; // empty: 1
     QString batch;
     QString produced; // "yyyy-MM-dd" or empty
-    QString expiry; // "yyyy-MM-dd" or empty
+    QString expiry; // "yyyy-MM-dd", "yyyy-MM", "0000-00" or empty (documents/expiry.h)
     QString remark;
     ColumnValues columns; // the kind's own line columns
 };
@@ -144,8 +144,11 @@ Result<QString> saveDocument(const shell::Session &session, const DocumentKind &
     const DocumentDraft &draft, const EntryRule &rule = {}, const EntryWrite &written = {});
 
 // Deletes an unchecked document with its lines in one transaction (refused once checked); logs.
-Outcome deleteDocument(
-    const shell::Session &session, const DocumentKind &kind, const QString &number);
+// A kind whose checked documents post nothing (sales orders) passes `checkedQuestion`: a checked
+// document is then asked about before the transaction and deleted on "Yes" ("删除已审核..." in
+// the log). The status is read again inside the transaction; a change meanwhile is refused.
+Outcome deleteDocument(const shell::Session &session, const DocumentKind &kind,
+    const QString &number, const QString &checkedQuestion = {});
 
 // A stored document: the header row and its lines in id order.
 struct StoredDocument

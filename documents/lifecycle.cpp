@@ -53,23 +53,39 @@ Outcome requireStatus(
         session.ui(), status == 0 ? texts::alreadyChecked(number) : texts::notChecked(number));
 }
 
-void markChecked(const shell::Session &session, const DocumentKind &kind, qint64 headerId)
+void markChecked(const shell::Session &session, const DocumentKind &kind, qint64 headerId,
+    const ColumnValues &values)
 {
     const HeaderColumns &h = kind.header;
-    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=? where id=?")
-                          .arg(QLatin1String(h.table), QLatin1String(h.status),
-                              QLatin1String(h.checker), QLatin1String(h.checkDate)),
-        { 1, session.user().name, session.today(), headerId });
+    QStringList assignments { QLatin1String(h.status), QLatin1String(h.checker),
+        QLatin1String(h.checkDate) };
+    QVariantList params { 1, session.user().name, session.today() };
+    for (const auto &[column, value] : values.items()) {
+        assignments.append(column);
+        params.append(value);
+    }
+    params.append(headerId);
+    session.db().exec(QStringLiteral("update %1 set %2=? where id=?")
+                          .arg(QLatin1String(h.table), assignments.join(QStringLiteral("=?,"))),
+        params);
 }
 
-void markUnchecked(const shell::Session &session, const DocumentKind &kind, const QString &number)
+void markUnchecked(const shell::Session &session, const DocumentKind &kind, const QString &number,
+    const QStringList &cleared)
 {
     const HeaderColumns &h = kind.header;
-    session.db().exec(
-        QStringLiteral("update %1 set %2=?,%3=?,%4=? where %5=?")
-            .arg(QLatin1String(h.table), QLatin1String(h.status), QLatin1String(h.checker),
-                QLatin1String(h.checkDate), QLatin1String(h.number)),
-        { 0, QString(), QString(), number });
+    QString assignments
+        = QStringLiteral("%1=?,%2=?,%3=?")
+              .arg(QLatin1String(h.status), QLatin1String(h.checker), QLatin1String(h.checkDate));
+    QVariantList params { 0, QString(), QString() };
+    for (const QString &column : cleared) {
+        assignments += QStringLiteral(",%1=?").arg(column);
+        params.append(0);
+    }
+    params.append(number);
+    session.db().exec(QStringLiteral("update %1 set %2 where %3=?")
+                          .arg(QLatin1String(h.table), assignments, QLatin1String(h.number)),
+        params);
 }
 
 void removeUncheckedCopies(

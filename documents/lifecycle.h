@@ -2,8 +2,10 @@
 
 #include "core/outcome.h"
 #include "documents/descriptor.h"
+#include "documents/entry.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace medistock::shell {
 class Session;
@@ -30,17 +32,21 @@ Outcome requireUncheckByChecker(const shell::Session &session, const QString &nu
 // "您的操作将取消当前选中的已审核单据：<number>，确认吗？"; "No" is refused with an empty message.
 Outcome confirmUncheck(const shell::Session &session, const QString &number);
 
-// The header's status steps of a check and an uncheck, for kinds whose header keeps no more
-// than the descriptor's columns. Each runs inside the caller's transaction.
+// The header's status steps of a check and an uncheck, for every goods document. Each runs
+// inside the caller's transaction.
 
 // The status read again inside the transaction: a missing document, or one that another
 // workstation has checked or unchecked meanwhile, is told and refused.
 Outcome requireStatus(
     const shell::Session &session, const DocumentKind &kind, const QString &number, int status);
-// The header row `headerId` checked: status 1, the operator as checker, today as check date.
-void markChecked(const shell::Session &session, const DocumentKind &kind, qint64 headerId);
-// Every header row of the number unchecked: status 0, checker and check date emptied.
-void markUnchecked(const shell::Session &session, const DocumentKind &kind, const QString &number);
+// The header row `headerId` checked: status 1, the operator as checker, today as check date, and
+// the kind's own columns `values` (what the check dialog confirmed).
+void markChecked(const shell::Session &session, const DocumentKind &kind, qint64 headerId,
+    const ColumnValues &values = {});
+// Every header row of the number unchecked: status 0, checker and check date emptied, and the
+// kind's own marks `cleared` (amount paid back, closing marks) set to 0.
+void markUnchecked(const shell::Session &session, const DocumentKind &kind, const QString &number,
+    const QStringList &cleared = {});
 // Unchecked copies of the number left beside its checked header are deleted.
 void removeUncheckedCopies(
     const shell::Session &session, const DocumentKind &kind, const QString &number);

@@ -59,7 +59,7 @@ Outcome checkReturnedQuantities(const shell::Session &session, ValidDocument &do
             return core::refuse(session.ui(), texts.missing(line.row));
         taken[id2] += line.figures.baseQuantity;
         const double left = from->quantity - from->returnedElsewhere;
-        if (taken[id2] > left + 0.000000001)
+        if (taken[id2] > left + core::comparisonMargin)
             return core::refuse(session.ui(),
                 texts.exceeds(line.row, from->document,
                     core::plainNumber(core::roundTo(left, session.params().quantityDecimals()))));

@@ -133,7 +133,10 @@ QString producedInvalid(int row, const QString &date)
 
 QString expiryInvalid(int row, const QString &date)
 {
-    return line(row) + QStringLiteral("有效期“%1”不是有效的日期（yyyy-MM-dd）！").arg(date);
+    return line(row)
+        + QStringLiteral("有效期“%1”不是有效的有效期（yyyy-MM-dd 或 yyyy-MM，无有效期为 "
+                         "0000-00）！")
+              .arg(date);
 }
 
 QString expiryBeforeProduced(int row)
@@ -198,6 +201,11 @@ QString savedLog(const QString &title, const QString &number, int goodsCount, bo
 QString deletedLog(const QString &title, const QString &number)
 {
     return QStringLiteral("删除未审核") + title + number;
+}
+
+QString deletedCheckedLog(const QString &title, const QString &number)
+{
+    return QStringLiteral("删除已审核") + title + number;
 }
 
 } // namespace medistock::documents::texts

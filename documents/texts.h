@@ -54,5 +54,6 @@ QString periodOpen();
 // Log lines
 QString savedLog(const QString &title, const QString &number, int goodsCount, bool isNew);
 QString deletedLog(const QString &title, const QString &number);
+QString deletedCheckedLog(const QString &title, const QString &number);
 
 } // namespace medistock::documents::texts

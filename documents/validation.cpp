@@ -7,6 +7,7 @@
 #include "core/rounding.h"
 #include "core/schemacatalogue.h"
 #include "core/textclean.h"
+#include "documents/expiry.h"
 #include "documents/texts.h"
 #include "shell/parameters.h"
 #include "shell/session.h"
@@ -226,9 +227,9 @@ Outcome checkDates(const shell::Session &session, const LineDraft &draft, ValidL
     line.expiry = draft.expiry.trimmed();
     if (!line.produced.isEmpty() && !isDateText(line.produced))
         return core::refuse(session.ui(), texts::producedInvalid(line.row, line.produced));
-    if (!line.expiry.isEmpty() && !isDateText(line.expiry))
+    if (!isExpiryText(line.expiry))
         return core::refuse(session.ui(), texts::expiryInvalid(line.row, line.expiry));
-    if (!line.produced.isEmpty() && !line.expiry.isEmpty() && line.expiry < line.produced)
+    if (!line.produced.isEmpty() && expiredBy(line.expiry, line.produced))
         return core::refuse(session.ui(), texts::expiryBeforeProduced(line.row));
     return Outcome::done();
 }

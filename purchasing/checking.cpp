@@ -2,11 +2,12 @@
 
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
+#include "accounts/postings.h"
 #include "accounts/texts.h"
 #include "core/connection.h"
 #include "core/operation.h"
 #include "core/textclean.h"
-#include "documents/entry.h"
+#include "core/transaction.h"
 #include "documents/lifecycle.h"
 #include "documents/texts.h"
 #include "purchasing/texts.h"
@@ -20,9 +21,9 @@ namespace medistock::purchasing {
 
 namespace {
 
-QLatin1String name(const char *column)
+QString name(const char *column)
 {
-    return QLatin1String(column);
+    return QString::fromLatin1(column);
 }
 
 Outcome readDialog(const shell::Session &session, const PurchaseHeaderRow &header,
@@ -53,7 +54,7 @@ std::optional<PurchaseHeaderRow> readPurchaseHeader(
     const documents::HeaderColumns &h = kind.entry.header;
     const accounts::MoneyColumns &m = kind.money;
     // A return keeps no discount: its header reads the status once more in that place.
-    const QLatin1String discount = *m.discount ? name(m.discount) : name(h.status);
+    const QString discount = *m.discount ? name(m.discount) : name(h.status);
     const QSqlRecord row = session.db().firstRow(
         QStringLiteral("select id,%1,%2,%3,%4,%5,%6,%7,%8,%9,%10,%11 from %12 where %1=? order by "
                        "%11 desc,id limit 1")
@@ -83,17 +84,18 @@ Outcome prepareCheck(const shell::Session &session, const PurchaseKind &kind, co
     const CheckInput &input, PurchaseHeaderRow &header, CheckValues &values)
 {
     return core::guarded(session.ui(), [&] {
-        Outcome outcome = shell::requireRight(session, "cggl", kind.checkRight);
+        const Outcome outcome = shell::requireRight(session, "cggl", kind.checkRight);
         if (!outcome)
             return outcome;
         const auto found = readPurchaseHeader(session, kind, number);
         if (!found)
             return core::refuse(session.ui(), documents::texts::documentMissing(number));
-        if (found->status != 0)
-            return core::refuse(session.ui(), documents::texts::alreadyChecked(number));
         header = *found;
-        if (!(outcome = documents::requireOpenPeriod(session, header.date)))
-            return outcome;
+        if (header.status == 1)
+            return Outcome::done();
+        const Outcome open = documents::requireOpenPeriod(session, header.date);
+        if (!open)
+            return open;
         return readDialog(session, header, input, values);
     });
 }
@@ -121,47 +123,80 @@ Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
     });
 }
 
-Outcome requireStatus(
-    const shell::Session &session, const PurchaseKind &kind, const QString &number, int status)
-{
-    const std::optional<int> now = documents::documentStatus(session.db(), kind.entry, number);
-    if (!now)
-        return core::refuse(session.ui(), documents::texts::documentMissing(number));
-    if (*now == status)
-        return Outcome::done();
-    return core::refuse(session.ui(),
-        status == 0 ? documents::texts::alreadyChecked(number)
-                    : documents::texts::notChecked(number));
-}
-
-void markChecked(const shell::Session &session, const PurchaseKind &kind,
-    const PurchaseHeaderRow &header, const CheckValues &values)
-{
-    const documents::HeaderColumns &h = kind.entry.header;
-    const accounts::MoneyColumns &m = kind.money;
-    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=?,%5=?,%6=?,%7=?,%8=? where id=?")
-                          .arg(name(h.table), name(h.status), name(h.checker), name(h.checkDate),
-                              name(kind.mode), name(m.paid), name(h.note), name(m.account)),
-        { 1, session.user().name, session.today(), values.mode.toInt(), values.paid, values.note,
-            values.account, header.id });
-}
-
-void markUnchecked(const shell::Session &session, const PurchaseKind &kind, const QString &number)
-{
-    const documents::HeaderColumns &h = kind.entry.header;
-    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=?,%5=? where %6=?")
-                          .arg(name(h.table), name(h.status), name(h.checkDate), name(h.checker),
-                              name(kind.paidBack), name(h.number)),
-        { 0, QString(), QString(), 0, number });
-}
-
-void removeUncheckedCopies(
+Outcome removeStrayCopies(
     const shell::Session &session, const PurchaseKind &kind, const QString &number)
 {
-    const documents::HeaderColumns &h = kind.entry.header;
-    session.db().exec(QStringLiteral("delete from %1 where %2=? and %3=?")
-                          .arg(name(h.table), name(h.status), name(h.number)),
-        { 0, number });
+    return core::guarded(session.ui(), [&] {
+        core::Transaction transaction(session.db());
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        transaction.commit();
+        return Outcome::done();
+    });
+}
+
+namespace {
+
+// Status 1 with the dialog's values; then the header as the postings take it, read once.
+accounts::MoneyHeader markChecked(const shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckValues &values)
+{
+    const accounts::MoneyColumns &m = kind.money;
+    documents::ColumnValues confirmed;
+    confirmed.set(name(kind.mode), values.mode.toInt());
+    confirmed.set(name(m.paid), values.paid);
+    confirmed.set(name(m.note), values.note);
+    confirmed.set(name(m.account), values.account);
+    documents::markChecked(session, kind.entry, header.id, confirmed);
+    return accounts::requireMoneyHeader(session.db(), m, header.number);
+}
+
+stock::PostingHeader postingHeader(const accounts::MoneyHeader &h)
+{
+    return { h.number, h.date, h.warehouse, h.warehouseName, h.party, h.partyName, h.salesman,
+        h.salesmanName, h.note, h.sourceNumber };
+}
+
+} // namespace
+
+Outcome postCheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckValues &values,
+    const std::function<void(const stock::PostingHeader &)> &postStock)
+{
+    return core::guarded(session.ui(), [&] {
+        const QString &number = header.number;
+        core::Transaction transaction(session.db());
+        const Outcome unchecked = documents::requireStatus(session, kind.entry, number, 0);
+        if (!unchecked)
+            return unchecked;
+        const accounts::MoneyHeader posted = markChecked(session, kind, header, values);
+        if (header.discount != 0)
+            documents::writeDiscountLine(session, kind.entry, number, header.discount);
+        accounts::postDocumentMoney(session, kind.money, posted);
+        postStock(postingHeader(posted));
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        transaction.commit();
+        return Outcome::done();
+    });
+}
+
+Outcome postUncheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const QString &log,
+    const std::function<void(const stock::PostingHeader &)> &reverse)
+{
+    return core::guarded(session.ui(), [&] {
+        const QString &number = header.number;
+        core::Transaction transaction(session.db());
+        const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
+        if (!checked)
+            return checked;
+        session.log(log);
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        reverse({ .number = number, .date = header.date, .warehouse = header.warehouse });
+        documents::markUnchecked(session, kind.entry, number, { name(kind.paidBack) });
+        accounts::removeDocumentPostings(session, number);
+        transaction.commit();
+        return Outcome::done();
+    });
 }
 
 } // namespace medistock::purchasing

@@ -2,6 +2,7 @@
 
 #include "core/outcome.h"
 #include "purchasing/kinds.h"
+#include "stock/movement.h"
 
 #include <QString>
 
@@ -53,8 +54,10 @@ struct CheckValues
     QString note;
 };
 
-// Before a check asks anything: the check right, the document unchecked, the closed-period test,
-// the dialog's values (note cleaned, mode 1 or 2, an existing account). Tells its refusals.
+// Before a check asks anything: the check right, the document there, the closed-period test,
+// the dialog's values (note cleaned, mode 1 or 2, an existing account). A document already
+// checked passes with `header.status` 1 and nothing else asked: its check only removes a stray
+// unchecked copy (removeStrayCopies). Tells its refusals.
 Outcome prepareCheck(const shell::Session &session, const PurchaseKind &kind, const QString &number,
     const CheckInput &input, PurchaseHeaderRow &header, CheckValues &values);
 
@@ -65,18 +68,23 @@ Outcome prepareUncheck(const shell::Session &session, const PurchaseKind &kind,
     const QString &number, const QString &noRight, PurchaseHeaderRow &header,
     const std::function<QString()> &afterRight = {});
 
-// Inside the transaction: the status read again; a document another workstation got to first is
-// refused.
-Outcome requireStatus(
-    const shell::Session &session, const PurchaseKind &kind, const QString &number, int status);
-
-// Status 1, checker, check date and the dialog's values, on the row that was read.
-void markChecked(const shell::Session &session, const PurchaseKind &kind,
-    const PurchaseHeaderRow &header, const CheckValues &values);
-// Status 0, no checker or check date, nothing paid back.
-void markUnchecked(const shell::Session &session, const PurchaseKind &kind, const QString &number);
-// An unchecked copy of the number left beside the checked header is removed.
-void removeUncheckedCopies(
+// A document checked already (here or on another workstation) is not posted again: only an
+// unchecked copy of its number left beside it is removed, in a transaction of its own.
+Outcome removeStrayCopies(
     const shell::Session &session, const PurchaseKind &kind, const QString &number);
+
+// The check's transaction, in the order of the rules: the status read again; the header marked
+// checked with the dialog's values and read once; the discount line; the money postings; the
+// kind's stock posting `postStock` with that header; an unchecked copy of the number removed.
+Outcome postCheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckValues &values,
+    const std::function<void(const stock::PostingHeader &)> &postStock);
+
+// The uncheck's transaction: the status read again; the log line `log`; an unchecked copy
+// removed; the kind's stock reversal and links `reverse`, given the number, date and warehouse
+// read before; the header reset; every money row removed with its recalculations.
+Outcome postUncheck(shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const QString &log,
+    const std::function<void(const stock::PostingHeader &)> &reverse);
 
 } // namespace medistock::purchasing

@@ -2,6 +2,7 @@
 
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
+#include "accounts/postings.h"
 #include "accounts/texts.h"
 #include "core/connection.h"
 #include "core/operation.h"
@@ -37,8 +38,7 @@ Outcome checkHeader(const shell::Session &session, PurchaseHeader &h)
         h.account = accounts::cashAccountName();
     if (!accounts::bankAccountExists(session.db(), h.account))
         return core::refuse(session.ui(), accounts::texts::accountMissing(h.account));
-    if (!h.freightTerms.isEmpty() && h.freightTerms != texts::wePayFreight()
-        && h.freightTerms != texts::theyPayFreight())
+    if (!accounts::isFreightTerms(h.freightTerms))
         return core::refuse(session.ui(), texts::freightTermsInvalid(h.freightTerms));
     if (h.paid < 0 || h.invoiceAmount < 0 || h.freight < 0 || h.packing < 0)
         return core::refuse(session.ui(), texts::amountNegative());

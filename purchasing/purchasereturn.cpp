@@ -1,9 +1,7 @@
 #include "purchasing/purchasereturn.h"
 
-#include "accounts/postings.h"
 #include "core/connection.h"
 #include "core/operation.h"
-#include "core/transaction.h"
 #include "documents/lifecycle.h"
 #include "purchasing/returnstock.h"
 #include "purchasing/texts.h"
@@ -62,6 +60,8 @@ Outcome checkPurchaseReturn(shell::Session &session, const QString &number, cons
     PurchaseHeaderRow header;
     CheckValues values;
     Outcome outcome = prepareCheck(session, kind, number, input, header, values);
+    if (outcome && header.status == 1)
+        return removeStrayCopies(session, kind, number);
     if (outcome)
         outcome = core::guarded(session.ui(), [&] {
             return stock::confirmBatchCheck(
@@ -69,18 +69,8 @@ Outcome checkPurchaseReturn(shell::Session &session, const QString &number, cons
         });
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        const Outcome unchecked = requireStatus(session, kind, number, 0);
-        if (!unchecked)
-            return unchecked;
-        markChecked(session, kind, header, values);
-        accounts::postDocumentMoney(session, accounts::purchaseReturnMoney(), number);
-        postPurchaseReturnStock(session, number);
-        removeUncheckedCopies(session, kind, number);
-        transaction.commit();
-        return Outcome::done();
-    });
+    return postCheck(session, kind, header, values,
+        [&](const stock::PostingHeader &posted) { postPurchaseReturnStock(session, posted); });
 }
 
 Outcome uncheckPurchaseReturn(shell::Session &session, const QString &number)
@@ -92,23 +82,14 @@ Outcome uncheckPurchaseReturn(shell::Session &session, const QString &number)
         outcome = documents::confirmUncheck(session, number);
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        const Outcome checked = requireStatus(session, kind, number, 1);
-        if (!checked)
-            return checked;
-        session.log(texts::returnUncheckedLog(number));
-        removeUncheckedCopies(session, kind, number);
-        const QStringList receipts = sourceReceipts(session, number);
-        reopenReceiptLines(session, number);
-        reversePurchaseReturnStock(session, number);
-        clearLinks(session, number);
-        reopenReceipts(session, receipts);
-        markUnchecked(session, kind, number);
-        accounts::removeDocumentPostings(session, number);
-        transaction.commit();
-        return Outcome::done();
-    });
+    return postUncheck(session, kind, header, texts::returnUncheckedLog(number),
+        [&](const stock::PostingHeader &posted) {
+            const QStringList receipts = sourceReceipts(session, number);
+            reopenReceiptLines(session, number);
+            reversePurchaseReturnStock(session, posted);
+            clearLinks(session, number);
+            reopenReceipts(session, receipts);
+        });
 }
 
 } // namespace medistock::purchasing

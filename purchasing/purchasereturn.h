@@ -15,6 +15,7 @@ namespace medistock::purchasing {
 // dialog's values, the batch check "CT" (refused or asked by the negative-stock setting, before
 // the transaction); then in one transaction the header, the money (cash row of what was
 // received, payables row, invoice row) and the stock posting with its log line "增加采购退货单".
+// A return checked already is not posted again: only an unchecked copy of its number is removed.
 Outcome checkPurchaseReturn(
     shell::Session &session, const QString &number, const CheckInput &input = {});
 

@@ -1,10 +1,7 @@
 #include "purchasing/receipt.h"
 
-#include "accounts/postings.h"
 #include "core/connection.h"
 #include "core/operation.h"
-#include "core/transaction.h"
-#include "documents/entry.h"
 #include "documents/lifecycle.h"
 #include "purchasing/texts.h"
 #include "shell/session.h"
@@ -15,12 +12,18 @@ namespace medistock::purchasing {
 
 namespace {
 
-// A receiving note that took goods in from the receipt must be deleted first.
-QString receivingNoteRefusal(shell::Session &session, const QString &number)
+// A later document that depends on the check stands in the way of unchecking it: a receiving
+// note that took goods in from the receipt, or a checked return of its goods.
+QString dependantRefusal(shell::Session &session, const QString &number)
 {
-    if (session.db().exists(
-            QStringLiteral("select gl_djh from jxc_rksp where j_sn=? limit 1"), { number }))
+    core::Connection &db = session.db();
+    if (db.exists(QStringLiteral("select gl_djh from jxc_rksp where j_sn=? limit 1"), { number }))
         return texts::receivingNoteRefusal(number);
+    if (db.exists(QStringLiteral("select a.id from jxc_thsp a,jxc_thd b,jxc_jhsp c where "
+                                 "b.gl_djh=a.gl_djh and b.th_status=? and a.id2>0 and "
+                                 "c.id2=a.id2 and c.j_sn=? limit 1"),
+            { 1, number }))
+        return texts::returnedReceiptRefusal(number);
     return {};
 }
 
@@ -42,19 +45,10 @@ Outcome checkPurchaseReceipt(
     const Outcome ready = prepareCheck(session, kind, number, input, header, values);
     if (!ready)
         return ready;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        const Outcome unchecked = requireStatus(session, kind, number, 0);
-        if (!unchecked)
-            return unchecked;
-        markChecked(session, kind, header, values);
-        if (header.discount != 0)
-            documents::writeDiscountLine(session, kind.entry, number, header.discount);
-        accounts::postDocumentMoney(session, accounts::purchaseReceiptMoney(), number);
-        stock::postPurchaseReceiptStock(session, number);
-        removeUncheckedCopies(session, kind, number);
-        transaction.commit();
-        return Outcome::done();
+    if (header.status == 1)
+        return removeStrayCopies(session, kind, number);
+    return postCheck(session, kind, header, values, [&](const stock::PostingHeader &posted) {
+        stock::postPurchaseReceiptStock(session, posted);
     });
 }
 
@@ -63,7 +57,7 @@ Outcome uncheckPurchaseReceipt(shell::Session &session, const QString &number)
     const PurchaseKind &kind = purchaseReceipt();
     PurchaseHeaderRow header;
     Outcome outcome = prepareUncheck(session, kind, number, texts::noUncheckReceiptRight(), header,
-        [&] { return receivingNoteRefusal(session, number); });
+        [&] { return dependantRefusal(session, number); });
     if (outcome)
         outcome = documents::confirmUncheck(session, number);
     if (outcome)
@@ -73,20 +67,11 @@ Outcome uncheckPurchaseReceipt(shell::Session &session, const QString &number)
         });
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] {
-        core::Transaction transaction(session.db());
-        const Outcome checked = requireStatus(session, kind, number, 1);
-        if (!checked)
-            return checked;
-        session.log(texts::receiptUncheckedLog(number));
-        removeUncheckedCopies(session, kind, number);
-        stock::reversePurchaseReceiptStock(session, number);
-        markUnchecked(session, kind, number);
-        accounts::removeDocumentPostings(session, number);
-        resetLines(session, number);
-        transaction.commit();
-        return Outcome::done();
-    });
+    return postUncheck(session, kind, header, texts::receiptUncheckedLog(number),
+        [&](const stock::PostingHeader &posted) {
+            stock::reversePurchaseReceiptStock(session, posted);
+            resetLines(session, number);
+        });
 }
 
 } // namespace medistock::purchasing

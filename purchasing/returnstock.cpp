@@ -1,33 +1,16 @@
 #include "purchasing/returnstock.h"
 
 #include "core/connection.h"
-#include "core/dberror.h"
 #include "documents/descriptor.h"
-#include "documents/texts.h"
 #include "purchasing/texts.h"
 #include "shell/session.h"
-#include "stock/ledger.h"
-#include "stock/stores.h"
+#include "stock/movement.h"
 
 #include <QSqlQuery>
-#include <QSqlRecord>
 
 namespace medistock::purchasing {
 
 namespace {
-
-struct ReturnHeader
-{
-    QString number;
-    QString date; // th_thrq
-    QString warehouse;
-    QString warehouseName;
-    QString supplier;
-    QString supplierName;
-    QString employee;
-    QString employeeName;
-    QString note;
-};
 
 // A posted row of the return, as the per-row steps use it.
 struct ReturnRow
@@ -38,43 +21,16 @@ struct ReturnRow
     stock::BatchKey batch;
 };
 
-ReturnHeader checkedHeader(const shell::Session &session, const QString &number)
-{
-    core::Connection &db = session.db();
-    const QSqlRecord row = db.firstRow(
-        QStringLiteral("select a.th_thrq,a.ck_sn,a.ghs_sn,a.u_sn,a.th_note,"
-                       "(select ck_name from jxc_ckxx where ck_sn=a.ck_sn order by id limit 1),"
-                       "(select ghs_name from jxc_ghsxx where ghs_sn=a.ghs_sn order by id limit 1),"
-                       "(select u_name from jxc_user where u_sn=a.u_sn order by id limit 1) "
-                       "from jxc_thd a where a.gl_djh=? and a.th_status=? order by a.id limit 1"),
-        { number, 1 });
-    if (row.isEmpty())
-        throw core::DbError(documents::texts::notChecked(number));
-    return { number, row.value(0).toString(), row.value(1).toString(), row.value(5).toString(),
-        row.value(2).toString(), row.value(6).toString(), row.value(3).toString(),
-        row.value(7).toString(), row.value(4).toString() };
-}
-
-// The price per base unit: a line in a larger unit divides its price by the unit's factor.
-double basePrice(double price, double quantity, double baseQuantity)
-{
-    if (quantity == baseQuantity || quantity == 0 || baseQuantity == 0)
-        return price;
-    return price / (baseQuantity / quantity);
-}
-
 stock::LedgerRow ledgerRowOf(
-    const shell::Session &session, const ReturnHeader &header, const QSqlQuery &q)
+    const shell::Session &session, const stock::PostingHeader &header, const QSqlQuery &q)
 {
-    stock::LedgerRow row;
-    row.kind = QStringLiteral("ct");
-    row.number = header.number;
-    row.date = header.date;
+    stock::LedgerRow row = stock::headerRow(session, header, QStringLiteral("ct"));
+    row.sourceNumber.reset();
     row.goods = q.value(0).toString();
     const double unitQuantity = q.value(2).toDouble();
     const double baseQuantity = q.value(3).toDouble();
     const double total = q.value(4).toDouble();
-    row.price = basePrice(q.value(1).toDouble(), unitQuantity, baseQuantity);
+    row.price = stock::basePrice(q.value(1).toDouble(), unitQuantity, baseQuantity);
     row.quantity = -baseQuantity;
     row.total = -total;
     row.unitQuantity = -unitQuantity;
@@ -94,18 +50,10 @@ stock::LedgerRow ledgerRowOf(
     row.packing = q.value(17).toString();
     row.approvalNumber = q.value(18).toString();
     row.average = q.value(19).toDouble();
-    row.employeeName = header.employeeName;
-    row.warehouse = header.warehouse;
-    row.warehouseName = header.warehouseName;
-    row.party = header.supplier;
-    row.partyName = header.supplierName;
-    row.checker = session.user().name;
-    row.checkDate = session.today();
-    row.note = header.note;
     return row;
 }
 
-void insertReturnLedgerRows(const shell::Session &session, const ReturnHeader &header)
+void insertReturnLedgerRows(const shell::Session &session, const stock::PostingHeader &header)
 {
     QList<stock::LedgerRow> rows;
     session.db().forEach(
@@ -133,66 +81,38 @@ QList<ReturnRow> returnRows(const shell::Session &session, const QString &number
     return rows;
 }
 
-// A return lowers both the physical and the book quantity: gl_sl is negative.
-void postRow(const shell::Session &session, const ReturnRow &row)
+// A return lowers both the physical and the book quantity (gl_sl is negative), and the goods'
+// purchase count.
+stock::StoreMovement movementOf(const ReturnRow &row)
 {
-    const QString &goods = row.batch.goods;
-    stock::applyWarehouseStock(
-        session, { goods, row.batch.warehouse, row.quantity, row.quantity, 0, row.price });
-    stock::rerunLedger(session, row.id, false);
-    stock::applyGoodsTotals(session, goods, row.quantity, -1, 0);
-    stock::refreshGoodsAverage(session, goods, row.price);
-    stock::addBatchStock(session, row.batch, row.quantity);
-}
-
-void reverseRow(const shell::Session &session, const ReturnRow &row)
-{
-    const QString &goods = row.batch.goods;
-    stock::applyWarehouseStock(
-        session, { goods, row.batch.warehouse, -row.quantity, -row.quantity, 0, row.price });
-    stock::withdrawLedgerRow(session, row.id);
-    stock::applyGoodsTotals(session, goods, -row.quantity, 1, 0);
-    stock::refreshGoodsAverage(session, goods, row.price);
-    stock::subtractBatchStock(session, row.batch, row.quantity);
-}
-
-void countEmployeePurchase(const shell::Session &session, const QString &employee, int delta)
-{
-    session.db().exec(
-        QStringLiteral("update jxc_user set u_cgpl=u_cgpl+? where u_sn=?"), { delta, employee });
-}
-
-void settle(const shell::Session &session, const ReturnHeader &header)
-{
-    stock::ensureSettlementRows(session, header.date);
-    stock::settleWarehouse(session, header.warehouse, header.date);
+    stock::StoreMovement movement { row.id, row.batch, row.quantity, row.quantity };
+    movement.purchases = -1;
+    movement.price = row.price;
+    movement.goodsAverage = true;
+    return movement;
 }
 
 } // namespace
 
-int postPurchaseReturnStock(const shell::Session &session, const QString &number)
+int postPurchaseReturnStock(const shell::Session &session, const stock::PostingHeader &header)
 {
-    const ReturnHeader header = checkedHeader(session, number);
     insertReturnLedgerRows(session, header);
-    const QList<ReturnRow> rows = returnRows(session, number);
+    const QList<ReturnRow> rows = returnRows(session, header.number);
     for (const ReturnRow &row : rows)
-        postRow(session, row);
-    session.log(texts::returnCheckedLog(number, int(rows.size())));
-    settle(session, header);
-    countEmployeePurchase(session, header.employee, 1);
+        stock::postMovement(session, movementOf(row));
+    session.log(texts::returnCheckedLog(header.number, int(rows.size())));
+    stock::settleDay(session, header.warehouse, header.date);
+    stock::countEmployeePurchase(session, header.employee);
     return int(rows.size());
 }
 
-void reversePurchaseReturnStock(const shell::Session &session, const QString &number)
+void reversePurchaseReturnStock(const shell::Session &session, const stock::PostingHeader &header)
 {
-    const ReturnHeader header = checkedHeader(session, number);
-    for (const ReturnRow &row : returnRows(session, number))
-        reverseRow(session, row);
-    session.db().exec(QStringLiteral("delete from jxc_goodslist where gl_djh=?"), { number });
-    // The check counted the return for its employee, as a receipt's check does; taking it back
-    // keeps the counter true.
-    countEmployeePurchase(session, header.employee, -1);
-    settle(session, header);
+    for (const ReturnRow &row : returnRows(session, header.number))
+        stock::withdrawMovement(session, movementOf(row));
+    session.db().exec(
+        QStringLiteral("delete from jxc_goodslist where gl_djh=?"), { header.number });
+    stock::settleDay(session, header.warehouse, header.date);
 }
 
 } // namespace medistock::purchasing

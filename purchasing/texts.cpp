@@ -19,6 +19,12 @@ QString receivingNoteRefusal(const QString &number)
         + QStringLiteral("\r\n") + QStringLiteral("然后再取消审核！");
 }
 
+QString returnedReceiptRefusal(const QString &number)
+{
+    return QStringLiteral("该单据") + number + QStringLiteral("已有退货信息，不能取消审核！")
+        + QStringLiteral("\r\n\r\n") + QStringLiteral("请先取消审核对应的采购退货单！");
+}
+
 QString settlementModeInvalid(const QString &mode)
 {
     return QStringLiteral("结算方式“%1”不正确，应为 1（按实付款结算）或 2（余款记入应付帐）！")
@@ -71,16 +77,6 @@ QString receiptTitle()
 QString returnTitle()
 {
     return QStringLiteral("采购退货单");
-}
-
-QString wePayFreight()
-{
-    return QStringLiteral("我方付运费");
-}
-
-QString theyPayFreight()
-{
-    return QStringLiteral("对方付运费");
 }
 
 } // namespace medistock::purchasing::texts

@@ -9,6 +9,7 @@ namespace medistock::purchasing::texts {
 QString noUncheckReceiptRight(); // "您没有取消审核采购进货单的权限！"
 QString noUncheckReturnRight(); // "您没有取消审核采购退货单的权限！"
 QString receivingNoteRefusal(const QString &number);
+QString returnedReceiptRefusal(const QString &number);
 QString settlementModeInvalid(const QString &mode);
 QString freightTermsInvalid(const QString &terms);
 QString amountNegative();
@@ -23,7 +24,5 @@ QString returnUncheckedLog(const QString &number);
 // Words
 QString receiptTitle(); // "采购进货单"
 QString returnTitle(); // "采购退货单"
-QString wePayFreight(); // "我方付运费"
-QString theyPayFreight(); // "对方付运费"
 
 } // namespace medistock::purchasing::texts

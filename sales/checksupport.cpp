@@ -62,19 +62,6 @@ bool hasLines(const shell::Session &session, const CheckKind &kind, const QStrin
         { number });
 }
 
-Outcome requireStatus(
-    const shell::Session &session, const CheckKind &kind, const QString &number, int status)
-{
-    const std::optional<int> now = documents::documentStatus(session.db(), kind.entry, number);
-    if (!now)
-        return core::refuse(session.ui(), documents::texts::documentMissing(number));
-    if (*now == status)
-        return Outcome::done();
-    return core::refuse(session.ui(),
-        status == 0 ? documents::texts::checkedCannotChange(number)
-                    : documents::texts::notChecked(number));
-}
-
 Outcome prepareUncheck(
     const shell::Session &session, const CheckKind &kind, const QString &number, CheckRow &row)
 {
@@ -95,37 +82,32 @@ Outcome prepareUncheck(
     });
 }
 
-void markChecked(const shell::Session &session, const CheckKind &kind, qint64 id)
-{
-    const documents::HeaderColumns &h = kind.entry.header;
-    session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=? where id=?")
-                          .arg(name(h.table), name(h.status), name(h.checker), name(h.checkDate)),
-        { 1, session.user().name, session.today(), id });
-}
-
 void markUnchecked(const shell::Session &session, const CheckKind &kind, const QString &number)
 {
-    const documents::HeaderColumns &h = kind.entry.header;
-    session.db().exec(
-        QStringLiteral("update %1 set %2=?,%3=?,%4=?,%5=?,%6=? where %7=?")
-            .arg(name(h.table), name(kind.closedMark), name(h.status), name(h.checkDate),
-                name(h.checker), name(kind.paidBack), name(h.number)),
-        { 0, 0, QString(), QString(), 0, number });
+    documents::markUnchecked(session, kind.entry, number,
+        { QString::fromLatin1(kind.closedMark), QString::fromLatin1(kind.paidBack) });
 }
 
-void removeUncheckedCopies(
+accounts::MoneyHeader readPostedHeader(
     const shell::Session &session, const CheckKind &kind, const QString &number)
 {
-    const documents::HeaderColumns &h = kind.entry.header;
-    session.db().exec(QStringLiteral("delete from %1 where %2=? and %3=?")
-                          .arg(name(h.table), name(h.status), name(h.number)),
-        { 0, number });
+    return accounts::requireMoneyHeader(session.db(), kind.money, number);
+}
+
+stock::PostingHeader postingHeader(const accounts::MoneyHeader &h)
+{
+    return { h.number, h.date, h.warehouse, h.warehouseName, h.party, h.partyName, h.salesman,
+        h.salesmanName, h.note, h.sourceNumber };
+}
+
+stock::PostingHeader reversalHeader(const CheckRow &row)
+{
+    return { .number = row.number, .date = row.date, .warehouse = row.warehouse };
 }
 
 void postMoney(
-    shell::Session &session, const CheckKind &kind, const QString &number, double writtenOff)
+    shell::Session &session, const CheckKind &kind, accounts::MoneyHeader header, double writtenOff)
 {
-    accounts::MoneyHeader header = accounts::requireMoneyHeader(session.db(), kind.money, number);
     header.discount = writtenOff;
     header.due -= writtenOff;
     accounts::postDocumentMoney(session, kind.money, header);

@@ -3,6 +3,7 @@
 #include "accounts/postings.h"
 #include "core/outcome.h"
 #include "documents/descriptor.h"
+#include "stock/movement.h"
 
 #include <QString>
 
@@ -50,27 +51,25 @@ std::optional<CheckRow> readCheckRow(
 // Whether the document has lines at all.
 bool hasLines(const shell::Session &session, const CheckKind &kind, const QString &number);
 
-// Inside the transaction: the status read again; a document another workstation got to first is
-// refused (told), a missing one too.
-Outcome requireStatus(
-    const shell::Session &session, const CheckKind &kind, const QString &number, int status);
-
 // Before an uncheck asks anything: the document checked, the uncheck right, the checker rule
 // and the closed-period test. Tells its refusals.
 Outcome prepareUncheck(
     const shell::Session &session, const CheckKind &kind, const QString &number, CheckRow &row);
 
-// Status 1, the operator as checker and today as check date, on the row that was read.
-void markChecked(const shell::Session &session, const CheckKind &kind, qint64 id);
 // Status 0, no checker or check date, nothing paid back, the closing mark cleared.
 void markUnchecked(const shell::Session &session, const CheckKind &kind, const QString &number);
-// An unchecked copy of the number left beside the checked header is removed.
-void removeUncheckedCopies(
+// Inside the check's transaction, after the header is marked: the header read once, as the money
+// and stock postings take it.
+accounts::MoneyHeader readPostedHeader(
     const shell::Session &session, const CheckKind &kind, const QString &number);
+// The header as the stock postings copy it.
+stock::PostingHeader postingHeader(const accounts::MoneyHeader &header);
+// What an uncheck's stock reversal needs of the header read before it: number, date, warehouse.
+stock::PostingHeader reversalHeader(const CheckRow &row);
 // The money postings of the checked header; `writtenOff` is what settlement mode "0" gave as
 // discount: it is counted as settled, not owed.
-void postMoney(
-    shell::Session &session, const CheckKind &kind, const QString &number, double writtenOff = 0);
+void postMoney(shell::Session &session, const CheckKind &kind, accounts::MoneyHeader header,
+    double writtenOff = 0);
 // The POS rows a member's document left under its number.
 void deletePosRows(const shell::Session &session, const QString &number);
 

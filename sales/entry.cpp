@@ -32,9 +32,6 @@ namespace {
 using documents::ValidDocument;
 using documents::ValidLine;
 
-// Sums of stored decimals may exceed an equal stock by a hair; a shortage must be real.
-constexpr double margin = 0.000000001;
-
 const CostColumns saleCosts { "ls_cbj2", "ls_cbj", "ls_zcb", "ls_lsj" };
 
 void setSaleHeaderColumns(
@@ -81,7 +78,7 @@ Outcome checkOrderLines(const shell::Session &session, ValidDocument &doc)
         if (!open)
             return core::refuse(session.ui(), texts::orderLineMissing(id3));
         taken[id3] += line.figures.quantity;
-        if (taken[id3] > open->open + margin)
+        if (taken[id3] > open->open + core::comparisonMargin)
             return core::refuse(session.ui(),
                 texts::orderLineExceeded(line.row, open->order, core::plainNumber(open->open)));
     }
@@ -124,7 +121,7 @@ Outcome checkWarehouseStock(const shell::Session &session, const ValidDocument &
         QString message;
         if (!stock.isValid())
             message = texts::goodsNotInWarehouse(line.goodsName, allowed);
-        else if (taken[line.goods] > stock.toDouble() + margin)
+        else if (taken[line.goods] > stock.toDouble() + core::comparisonMargin)
             message = texts::goodsShortInWarehouse(line.goodsName, allowed);
         if (message.isEmpty())
             continue;
@@ -147,7 +144,7 @@ Outcome checkBatchStock(const shell::Session &session, const ValidDocument &doc)
         const auto &[goods, batch, expiry, produced] = key;
         const auto stock
             = stock::batchQuantity(session, { goods, doc.warehouse, batch, expiry, produced });
-        if (stock && *stock > 0 && quantity > *stock + margin)
+        if (stock && *stock > 0 && quantity > *stock + core::comparisonMargin)
             return confirmShortage(session,
                 stock::batchShortageText(
                     QStringLiteral("XS"), goods, stock::allowsNegativeStock(session.params())));
@@ -222,8 +219,10 @@ Outcome orderRule(const shell::Session &session, SaleHeader &header, ValidDocume
 Result<QString> saveSale(shell::Session &session, const SaleDraft &draft)
 {
     SaleHeader header = draft.header;
+    documents::DocumentDraft entry = draft.entry;
+    fillCustomerPrices(session, entry);
     const Result<QString> saved = documents::saveDocument(
-        session, saleKind(), draft.entry,
+        session, saleKind(), entry,
         [&](const shell::Session &s, ValidDocument &doc) { return saleRule(s, header, doc); },
         [](const shell::Session &s, const ValidDocument &doc, const QString &number) {
             markLines(s, doc, number);
@@ -236,7 +235,9 @@ Result<QString> saveSale(shell::Session &session, const SaleDraft &draft)
 Result<QString> saveSalesOrder(shell::Session &session, const SaleDraft &draft)
 {
     SaleHeader header = draft.header;
-    const Result<QString> saved = documents::saveDocument(session, salesOrderKind(), draft.entry,
+    documents::DocumentDraft entry = draft.entry;
+    fillCustomerPrices(session, entry);
+    const Result<QString> saved = documents::saveDocument(session, salesOrderKind(), entry,
         [&](const shell::Session &s, ValidDocument &doc) { return orderRule(s, header, doc); });
     if (saved && checksOnSave(session.params()))
         checkSalesOrder(session, saved.value(), CheckStart::OnSave);
@@ -250,7 +251,8 @@ Outcome deleteSale(const shell::Session &session, const QString &number)
 
 Outcome deleteSalesOrder(const shell::Session &session, const QString &number)
 {
-    return documents::deleteDocument(session, salesOrderKind(), number);
+    return documents::deleteDocument(
+        session, salesOrderKind(), number, texts::deleteCheckedOrderQuestion(number));
 }
 
 } // namespace medistock::sales

@@ -36,6 +36,9 @@ struct SaleDraft
     SaleHeader header;
 };
 
+// Each of the three saves first gives a line typed without a price the customer's price for its
+// unit (fillCustomerPrices).
+
 // Saves a sale through the shared entry, in this order: the shared checks, the sales header, the
 // order lines' open quantities, expired batches (refused with "过期商品不能销售", else asked),
 // each line's cost as of the sale date (or the one it was taken over with), the stock of each
@@ -55,7 +58,9 @@ Result<QString> saveSalesOrder(shell::Session &session, const SaleDraft &draft);
 // the log. With check-on-save on the check follows.
 Result<QString> saveSalesReturn(shell::Session &session, const SaleDraft &draft);
 
-// Delete an unchecked document with its lines (the shared entry's delete).
+// Delete an unchecked document with its lines (the shared entry's delete). A sales order, which
+// posts nothing, may be deleted checked too, after the question "销售订单<number>已审核，删除后
+// 不能再导入销售单，确认删除吗？"; its lines are then offered for take-over no more.
 Outcome deleteSale(const shell::Session &session, const QString &number);
 Outcome deleteSalesOrder(const shell::Session &session, const QString &number);
 Outcome deleteSalesReturn(const shell::Session &session, const QString &number);

@@ -3,12 +3,14 @@
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
 #include "accounts/ledger.h"
+#include "accounts/postings.h"
 #include "accounts/texts.h"
 #include "core/connection.h"
 #include "core/interaction.h"
 #include "core/operation.h"
 #include "core/rounding.h"
 #include "sales/options.h"
+#include "sales/prices.h"
 #include "sales/texts.h"
 #include "shell/session.h"
 
@@ -27,12 +29,20 @@ Outcome checkSaleHeader(const shell::Session &session, SaleHeader &h)
         h.account = accounts::cashAccountName();
     if (!accounts::bankAccountExists(session.db(), h.account))
         return core::refuse(session.ui(), accounts::texts::accountMissing(h.account));
-    if (!h.freightTerms.isEmpty() && h.freightTerms != texts::wePayFreight()
-        && h.freightTerms != texts::theyPayFreight())
+    if (!accounts::isFreightTerms(h.freightTerms))
         return core::refuse(session.ui(), texts::freightTermsInvalid(h.freightTerms));
     if (h.paid < 0 || h.invoiceAmount < 0 || h.freight < 0 || h.packing < 0)
         return core::refuse(session.ui(), texts::amountNegative());
     return Outcome::done();
+}
+
+void fillCustomerPrices(const shell::Session &session, documents::DocumentDraft &draft)
+{
+    for (documents::LineDraft &line : draft.lines)
+        if (line.price.trimmed().isEmpty())
+            line.price = QString::number(linePrice(session, line.goods.trimmed(),
+                                             draft.party.trimmed(), line.unit.trimmed()),
+                'g', 15);
 }
 
 double documentDue(const shell::Session &session, const documents::ValidDocument &doc)

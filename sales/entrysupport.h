@@ -18,6 +18,10 @@ namespace medistock::sales {
 // "现金"), the freight terms, no negative amount. Tells its refusal.
 Outcome checkSaleHeader(const shell::Session &session, SaleHeader &header);
 
+// Every line typed without a price takes the customer's price for its unit (linePrice), the price
+// every goods line added to a sales document starts from. Reads only.
+void fillCustomerPrices(const shell::Session &session, documents::DocumentDraft &draft);
+
 // The amount due of a document: its line totals less the whole-document discount, rounded.
 double documentDue(const shell::Session &session, const documents::ValidDocument &doc);
 

@@ -30,19 +30,18 @@ struct FefoProposal
 };
 
 // The warehouse's batches of the goods that hold stock and have not expired by `date`, earliest
-// expiry first (a batch without expiry last, then by batch number and production date), each
-// taking as much of `quantity` (base units) as it holds until the quantity is covered. Reads only.
+// expiry first (documents/expiry.h: a month expiry counts as the month's last day; a batch
+// without expiry last; then by batch number and production date), each taking as much of
+// `quantity` (base units) as it holds until the quantity is covered. Reads only.
 FefoProposal proposeBatches(const shell::Session &session, const QString &goods,
     const QString &warehouse, double quantity, const QString &date);
 
-// Whether a batch's expiry lies before the date ("yyyy-MM-dd"); a batch without expiry never
-// expires.
-bool isExpired(const QString &expiry, const QString &date);
-
-// Splits each line of the draft that names no batch over the proposal for its base quantity:
-// one line per proposed batch in the line's own unit (when the batch quantity divides evenly
-// into it, else in the base unit), and a line without batch for any shortfall. Lines with a
-// batch and goods without batches in stock stay as they are. Reads only.
+// Splits each line of the draft that names no batch over the batches its goods has left: one
+// line per proposed batch in the line's own unit (when the batch quantity divides evenly into
+// it, else in the base unit), and a line without batch for any shortfall. The lines of one goods
+// are allocated together: what the lines naming a batch take, and what each earlier line was
+// given, is not offered again. Lines with a batch and goods without batches in stock stay as
+// they are. Reads only.
 void applyFefo(const shell::Session &session, documents::DocumentDraft &draft);
 
 // The expired-batch rule of a sale's lines: with "过期商品不能销售" on the first expired line is

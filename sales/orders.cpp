@@ -115,16 +115,13 @@ Outcome checkSalesOrder(shell::Session &session, const QString &number, CheckSta
         if (order.value(QStringLiteral("ls_status")).toInt() != 1) {
             const qint64 id = order.value(QStringLiteral("id")).toLongLong();
             writeOffRemainder(session, id);
-            db.exec(QStringLiteral("update jxc_xsd set ls_status=?,ls_checker=?,ls_chkrq=? where "
-                                   "id=?"),
-                { 1, session.user().name, session.today(), id });
+            documents::markChecked(session, salesOrderKind(), id);
             db.exec(QStringLiteral("update jxc_xssp set ls_dhbz=?,id2=id,ls_cksl=? where "
                                    "gl_djh=?"),
                 { 0, 0, number });
             session.log(texts::orderCheckedLog(number));
         }
-        db.exec(
-            QStringLiteral("delete from jxc_xsd where ls_status=? and gl_djh=?"), { 0, number });
+        documents::removeUncheckedCopies(session, salesOrderKind(), number);
         transaction.commit();
         return Outcome::done();
     });

@@ -96,7 +96,7 @@ double proposedPrice(
         }
     }
     if (!price)
-        price = levelPrice(session, source, QStringLiteral("g_sj"));
+        price = levelPrice(session, { source.goods, {} }, QStringLiteral("g_sj"));
     return core::roundTo(price.value_or(0), session.params().priceDecimals());
 }
 
@@ -111,6 +111,17 @@ double customerUnitPrice(const shell::Session &session, const QString &goods,
     const QString &customer, const QString &unit)
 {
     return proposedPrice(session, { goods, unit }, customer);
+}
+
+double linePrice(const shell::Session &session, const QString &goods, const QString &customer,
+    const QString &unit)
+{
+    const QString baseUnit = session.db().firstText(
+        QStringLiteral("select dw_name from jxc_goods where g_sn=? order by id limit 1"),
+        { goods });
+    if (unit.isEmpty() || unit == baseUnit)
+        return customerPrice(session, goods, customer);
+    return customerUnitPrice(session, goods, customer, unit);
 }
 
 QString customerPriceType(const shell::Session &session, const QString &customer)

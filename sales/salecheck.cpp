@@ -60,7 +60,7 @@ Outcome removeStrayCopies(shell::Session &session, const QString &number)
 {
     return core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());
-        removeUncheckedCopies(session, saleChecking(), number);
+        documents::removeUncheckedCopies(session, saleChecking().entry, number);
         transaction.commit();
         return Outcome::done();
     });
@@ -71,21 +71,22 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
     const CheckKind &kind = saleChecking();
     core::Transaction transaction(session.db());
     if (documents::documentStatus(session.db(), kind.entry, number) == 1) {
-        removeUncheckedCopies(session, kind, number);
+        documents::removeUncheckedCopies(session, kind.entry, number);
         transaction.commit();
         return Outcome::done();
     }
-    const Outcome unchecked = requireStatus(session, kind, number, 0);
+    const Outcome unchecked = documents::requireStatus(session, kind.entry, number, 0);
     if (!unchecked)
         return unchecked;
     const double writtenOff = row.mode == QLatin1String("0") ? row.due - row.paid : 0;
     if (row.mode == QLatin1String("0"))
         session.db().exec(
             QStringLiteral("update jxc_lsxsd set ls_yhje=? where id=?"), { writtenOff, row.id });
-    markChecked(session, kind, row.id);
-    removeUncheckedCopies(session, kind, number);
-    postMoney(session, kind, number, writtenOff);
-    const int goods = postSaleStock(session, number);
+    documents::markChecked(session, kind.entry, row.id);
+    documents::removeUncheckedCopies(session, kind.entry, number);
+    const accounts::MoneyHeader header = readPostedHeader(session, kind, number);
+    postMoney(session, kind, header, writtenOff);
+    const int goods = postSaleStock(session, postingHeader(header));
     memberPointsNotKeptYet(session, number, MemberEvent::SaleChecked);
     session.log(texts::saleCheckedLog(number, goods));
     transaction.commit();
@@ -106,15 +107,16 @@ QString dependantRefusal(shell::Session &session, const QString &number)
     return {};
 }
 
-Outcome unpost(shell::Session &session, const QString &number)
+Outcome unpost(shell::Session &session, const CheckRow &row)
 {
     const CheckKind &kind = saleChecking();
+    const QString &number = row.number;
     core::Transaction transaction(session.db());
-    const Outcome checked = requireStatus(session, kind, number, 1);
+    const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
     if (!checked)
         return checked;
-    removeUncheckedCopies(session, kind, number);
-    reverseSaleStock(session, number);
+    documents::removeUncheckedCopies(session, kind.entry, number);
+    reverseSaleStock(session, reversalHeader(row));
     memberPointsNotKeptYet(session, number, MemberEvent::SaleUnchecked);
     deletePosRows(session, number);
     markUnchecked(session, kind, number);
@@ -207,7 +209,7 @@ Outcome uncheckSale(shell::Session &session, const QString &number)
         outcome = documents::confirmUncheck(session, number);
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] { return unpost(session, number); });
+    return core::guarded(session.ui(), [&] { return unpost(session, row); });
 }
 
 } // namespace medistock::sales

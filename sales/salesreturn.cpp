@@ -86,29 +86,31 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
     const CheckKind &kind = returnChecking();
     core::Transaction transaction(session.db());
     if (documents::documentStatus(session.db(), kind.entry, number) != 1) {
-        markChecked(session, kind, row.id);
-        removeUncheckedCopies(session, kind, number);
-        postMoney(session, kind, number);
-        const int goods = postReturnStock(session, number);
+        documents::markChecked(session, kind.entry, row.id);
+        documents::removeUncheckedCopies(session, kind.entry, number);
+        const accounts::MoneyHeader header = readPostedHeader(session, kind, number);
+        postMoney(session, kind, header);
+        const int goods = postReturnStock(session, postingHeader(header));
+        countReturnedOnSales(session, number, 1);
         memberPointsNotKeptYet(session, number, MemberEvent::ReturnChecked);
         session.log(texts::returnCheckedLog(number, goods));
     } else {
-        removeUncheckedCopies(session, kind, number);
+        documents::removeUncheckedCopies(session, kind.entry, number);
     }
     transaction.commit();
     return Outcome::done();
 }
 
-// The sales lines it returned are free again, and a sale with a line not wholly issued is open
-// for issuing again.
+// The sales lines it returned give back what it returned, and a sale with a line not wholly
+// issued is open for issuing again.
 void freeReturnedSales(const shell::Session &session, const QString &number)
 {
     core::Connection &db = session.db();
     QList<qint64> lines;
     db.forEach(QStringLiteral("select id2 from jxc_xsthsp where gl_djh=? and id2>0 order by id"),
         { number }, [&](const QSqlQuery &q) { lines.append(q.value(0).toLongLong()); });
+    countReturnedOnSales(session, number, -1);
     for (const qint64 id2 : lines) {
-        db.exec(QStringLiteral("update jxc_lsxssp set ls_qxsl=? where id2=?"), { 0, id2 });
         const QString sale = db.firstText(
             QStringLiteral("select gl_djh from jxc_lsxssp where id2=? order by id limit 1"),
             { id2 });
@@ -121,15 +123,16 @@ void freeReturnedSales(const shell::Session &session, const QString &number)
     db.exec(QStringLiteral("update jxc_xsthd set th_note=? where gl_djh=?"), { QString(), number });
 }
 
-Outcome unpost(shell::Session &session, const QString &number)
+Outcome unpost(shell::Session &session, const CheckRow &row)
 {
     const CheckKind &kind = returnChecking();
+    const QString &number = row.number;
     core::Transaction transaction(session.db());
-    const Outcome checked = requireStatus(session, kind, number, 1);
+    const Outcome checked = documents::requireStatus(session, kind.entry, number, 1);
     if (!checked)
         return checked;
-    removeUncheckedCopies(session, kind, number);
-    reverseReturnStock(session, number);
+    documents::removeUncheckedCopies(session, kind.entry, number);
+    reverseReturnStock(session, reversalHeader(row));
     freeReturnedSales(session, number);
     memberPointsNotKeptYet(session, number, MemberEvent::ReturnUnchecked);
     deletePosRows(session, number);
@@ -145,8 +148,10 @@ Outcome unpost(shell::Session &session, const QString &number)
 Result<QString> saveSalesReturn(shell::Session &session, const SaleDraft &draft)
 {
     SaleHeader header = draft.header;
+    documents::DocumentDraft entry = draft.entry;
+    fillCustomerPrices(session, entry);
     const Result<QString> saved = documents::saveDocument(
-        session, salesReturnKind(), draft.entry,
+        session, salesReturnKind(), entry,
         [&](const shell::Session &s, ValidDocument &doc) { return returnRule(s, header, doc); },
         [](const shell::Session &s, const ValidDocument &, const QString &number) {
             markReturnedSales(s, number);
@@ -200,7 +205,7 @@ Outcome uncheckSalesReturn(shell::Session &session, const QString &number)
         });
     if (!outcome)
         return outcome;
-    return core::guarded(session.ui(), [&] { return unpost(session, number); });
+    return core::guarded(session.ui(), [&] { return unpost(session, row); });
 }
 
 } // namespace medistock::sales

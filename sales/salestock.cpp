@@ -1,14 +1,11 @@
 #include "sales/salestock.h"
 
 #include "core/connection.h"
-#include "core/dberror.h"
 #include "core/transaction.h"
 #include "documents/descriptor.h"
-#include "documents/texts.h"
 #include "sales/options.h"
 #include "shell/session.h"
-#include "stock/ledger.h"
-#include "stock/stores.h"
+#include "stock/movement.h"
 
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -17,57 +14,17 @@ namespace medistock::sales {
 
 namespace {
 
-// The header of a checked sale or return as its ledger rows need it.
-struct PostedHeader
-{
-    QString number;
-    QString date;
-    QString warehouse;
-    QString warehouseName;
-    QString customer;
-    QString customerName;
-    QString employeeName;
-    QString note;
-    QString sourceNumber;
-};
-
-// Where a sale and a return keep what their ledger rows copy.
+// Where a sale and a return keep the lines their ledger rows copy.
 struct LineSource
 {
-    const char *header;
     const char *lines;
-    const char *date;
-    const char *status;
-    const char *note;
-    const char *link; // the header's gl_djh2, or "''"
     const char *flag; // gl_flag
     const char *prefix; // column prefix of the line figures, "ls_" / "th_"
     double sign; // +1 for a sale, -1 for a return
 };
 
-const LineSource saleSource { "jxc_lsxsd", "jxc_lsxssp", "ls_xsrq", "ls_status", "ls_note",
-    "a.gl_djh2", "xs", "ls_", 1 };
-const LineSource returnSource { "jxc_xsthd", "jxc_xsthsp", "th_xsrq", "th_status", "th_note", "''",
-    "xt", "th_", -1 };
-
-PostedHeader checkedHeader(
-    const shell::Session &session, const LineSource &s, const QString &number)
-{
-    const QSqlRecord row = session.db().firstRow(
-        QStringLiteral("select a.%1,a.ck_sn,(select ck_name from jxc_ckxx where ck_sn=a.ck_sn "
-                       "order by id limit 1),a.kh_sn,(select kh_name from jxc_khxx where "
-                       "kh_sn=a.kh_sn order by id limit 1),(select u_name from jxc_user where "
-                       "u_sn=a.u_sn order by id limit 1),a.%2,%3 from %4 a where a.gl_djh=? and "
-                       "a.%5=? order by a.id limit 1")
-            .arg(QLatin1String(s.date), QLatin1String(s.note), QLatin1String(s.link),
-                QLatin1String(s.header), QLatin1String(s.status)),
-        { number, 1 });
-    if (row.isEmpty())
-        throw core::DbError(documents::texts::notChecked(number));
-    return { number, row.value(0).toString(), row.value(1).toString(), row.value(2).toString(),
-        row.value(3).toString(), row.value(4).toString(), row.value(5).toString(),
-        row.value(6).toString(), row.value(7).toString() };
-}
+const LineSource saleSource { "jxc_lsxssp", "xs", "ls_", 1 };
+const LineSource returnSource { "jxc_xsthsp", "xt", "th_", -1 };
 
 double perBase(double value, double factor)
 {
@@ -75,15 +32,12 @@ double perBase(double value, double factor)
 }
 
 stock::LedgerRow ledgerRowOf(const shell::Session &session, const LineSource &s,
-    const PostedHeader &header, const QSqlQuery &q)
+    const stock::PostingHeader &header, const QSqlQuery &q)
 {
     const auto number = [&](int index) { return q.value(index).toDouble(); };
     const double factor = number(3);
     const double baseQuantity = number(4);
-    stock::LedgerRow row;
-    row.kind = QString::fromLatin1(s.flag);
-    row.number = header.number;
-    row.date = header.date;
+    stock::LedgerRow row = stock::headerRow(session, header, QString::fromLatin1(s.flag));
     row.goods = q.value(0).toString();
     row.price = perBase(number(1), factor);
     row.unitQuantity = number(2);
@@ -112,21 +66,13 @@ stock::LedgerRow ledgerRowOf(const shell::Session &session, const LineSource &s,
     row.approvalNumber = q.value(23).toString();
     row.average = number(24);
     row.doneFlag = 0;
-    row.employeeName = header.employeeName;
-    row.warehouse = header.warehouse;
-    row.warehouseName = header.warehouseName;
-    row.party = header.customer;
-    row.partyName = header.customerName;
-    row.checker = session.user().name;
-    row.checkDate = session.today();
-    row.note = header.note;
-    row.sourceNumber = header.sourceNumber;
     return row;
 }
 
 // One ledger row per line, the discount line included, in line order. A sale's rows carry the
 // line's fixed identity id2, a return's the line's own id.
-void insertLedgerRows(const shell::Session &session, const LineSource &s, const PostedHeader &h)
+void insertLedgerRows(
+    const shell::Session &session, const LineSource &s, const stock::PostingHeader &h)
 {
     const QString p = QString::fromLatin1(s.prefix);
     const QString sql = QStringLiteral(
@@ -174,30 +120,15 @@ QList<PostedRow> postedRows(const shell::Session &session, const QString &number
     return rows;
 }
 
-// `direction` -1 takes the quantity out of the warehouse (a sale, a return unchecked), +1 puts
-// it back; `count` is what the goods' sale count changes by. `exclude` withdraws the ledger row
-// (an uncheck) instead of running it.
-void moveStock(
-    const shell::Session &session, const PostedRow &row, double direction, int count, bool exclude)
+// A sale takes what it issued out of the warehouse and counts it sold; a return brings it back.
+// Either counts one more sale of the goods.
+stock::StoreMovement movementOf(const PostedRow &row, bool sale)
 {
-    const QString &goods = row.batch.goods;
-    const double q = direction * row.moved;
-    stock::applyWarehouseStock(session, { goods, row.batch.warehouse, q, q, -q, row.cost });
-    if (exclude)
-        stock::withdrawLedgerRow(session, row.id);
-    else
-        stock::rerunLedger(session, row.id, false);
-    stock::applyGoodsTotals(session, goods, q, 0, count);
-    if (q > 0)
-        stock::addBatchStock(session, row.batch, q);
-    else
-        stock::subtractBatchStock(session, row.batch, -q);
-}
-
-void settle(const shell::Session &session, const QString &warehouse, const QString &date)
-{
-    stock::ensureSettlementRows(session, date);
-    stock::settleWarehouse(session, warehouse, date);
+    const double in = sale ? -row.moved : row.moved;
+    stock::StoreMovement movement { row.id, row.batch, in, in, -in };
+    movement.sales = 1;
+    movement.price = row.cost;
+    return movement;
 }
 
 struct OrderLink
@@ -221,7 +152,8 @@ QList<OrderLink> orderLinks(const shell::Session &session, const QString &number
 void deliverOrderLines(const shell::Session &session, const QString &number)
 {
     for (const OrderLink &link : orderLinks(session, number)) {
-        session.db().exec(QStringLiteral("update jxc_xssp set ls_cksl=ls_cksl+? where id2=?"),
+        session.db().exec(
+            QStringLiteral("update jxc_xssp set ls_cksl=round(ls_cksl+?,8) where id2=?"),
             { link.quantity, link.orderLine });
         session.db().exec(QStringLiteral("update jxc_xssp set ls_dhbz=? where id2=? and "
                                          "ls_cksl>=ls_sl"),
@@ -233,7 +165,8 @@ void undeliverOrderLines(const shell::Session &session, const QString &number)
 {
     for (const OrderLink &link : orderLinks(session, number)) {
         session.db().exec(
-            QStringLiteral("update jxc_xssp set ls_cksl=ls_cksl-(?),ls_dhbz=? where id2=?"),
+            QStringLiteral(
+                "update jxc_xssp set ls_cksl=round(ls_cksl-(?),8),ls_dhbz=? where id2=?"),
             { link.quantity, 0, link.orderLine });
         session.db().exec(
             QStringLiteral("update jxc_xssp set ls_cksl=? where ls_cksl<=? and id2=?"),
@@ -241,24 +174,13 @@ void undeliverOrderLines(const shell::Session &session, const QString &number)
     }
 }
 
-// A returned sales line counts what came back, in its own unit.
-void markReturnedLines(const shell::Session &session, const QString &number)
-{
-    session.db().exec(
-        QStringLiteral("update jxc_lsxssp set ls_qxsl=coalesce(ls_qxsl,0)+(select sum(b.th_zsl) "
-                       "from jxc_xsthsp b where b.gl_djh=? and b.id2=jxc_lsxssp.id2)/(case when "
-                       "g_zhxs>0 then g_zhxs else 1 end) where id2 in (select id2 from jxc_xsthsp "
-                       "where gl_djh=? and id2>0)"),
-        { number, number });
-}
-
 } // namespace
 
-int postSaleStock(const shell::Session &session, const QString &number)
+int postSaleStock(const shell::Session &session, const stock::PostingHeader &header)
 {
     core::Connection &db = session.db();
+    const QString &number = header.number;
     core::Transaction transaction(db);
-    const PostedHeader header = checkedHeader(session, saleSource, number);
     if (issuesThroughNotes(session.params()))
         db.exec(QStringLiteral("update jxc_lsxssp set ls_cksl=? where gl_djh=?"), { 0, number });
     else
@@ -269,48 +191,55 @@ int postSaleStock(const shell::Session &session, const QString &number)
         { documents::discountGoods(), number });
     const QList<PostedRow> rows = postedRows(session, number, true);
     for (const PostedRow &row : rows)
-        moveStock(session, row, -1, 1, false);
+        stock::postMovement(session, movementOf(row, true));
     deliverOrderLines(session, number);
-    settle(session, header.warehouse, session.today());
+    stock::settleDay(session, header.warehouse, session.today());
     transaction.commit();
     return int(rows.size());
 }
 
-void reverseSaleStock(const shell::Session &session, const QString &number)
+void reverseSaleStock(const shell::Session &session, const stock::PostingHeader &header)
 {
     core::Connection &db = session.db();
+    const QString &number = header.number;
     core::Transaction transaction(db);
-    const PostedHeader header = checkedHeader(session, saleSource, number);
     for (const PostedRow &row : postedRows(session, number, true))
-        moveStock(session, row, 1, -1, true);
+        stock::withdrawMovement(session, movementOf(row, true));
     undeliverOrderLines(session, number);
     db.exec(QStringLiteral("update jxc_lsxssp set ls_cksl=ls_sl,ls_qxsl=?,id2=? where gl_djh=?"),
         { 0, 0, number });
-    settle(session, header.warehouse, header.date);
+    stock::settleDay(session, header.warehouse, header.date);
     transaction.commit();
 }
 
-int postReturnStock(const shell::Session &session, const QString &number)
+int postReturnStock(const shell::Session &session, const stock::PostingHeader &header)
 {
     core::Transaction transaction(session.db());
-    const PostedHeader header = checkedHeader(session, returnSource, number);
     insertLedgerRows(session, returnSource, header);
-    const QList<PostedRow> rows = postedRows(session, number, false);
+    const QList<PostedRow> rows = postedRows(session, header.number, false);
     for (const PostedRow &row : rows)
-        moveStock(session, row, 1, 1, false);
-    markReturnedLines(session, number);
-    settle(session, header.warehouse, session.today());
+        stock::postMovement(session, movementOf(row, false));
+    stock::settleDay(session, header.warehouse, session.today());
     transaction.commit();
     return int(rows.size());
 }
 
-void reverseReturnStock(const shell::Session &session, const QString &number)
+void countReturnedOnSales(const shell::Session &session, const QString &number, int direction)
+{
+    session.db().exec(
+        QStringLiteral("update jxc_lsxssp set ls_qxsl=round(coalesce(ls_qxsl,0)+?*(select "
+                       "sum(b.th_zsl) from jxc_xsthsp b where b.gl_djh=? and "
+                       "b.id2=jxc_lsxssp.id2)/(case when g_zhxs>0 then g_zhxs else 1 end),8) "
+                       "where id2 in (select id2 from jxc_xsthsp where gl_djh=? and id2>0)"),
+        { direction, number, number });
+}
+
+void reverseReturnStock(const shell::Session &session, const stock::PostingHeader &header)
 {
     core::Transaction transaction(session.db());
-    const PostedHeader header = checkedHeader(session, returnSource, number);
-    for (const PostedRow &row : postedRows(session, number, false))
-        moveStock(session, row, -1, -1, true);
-    settle(session, header.warehouse, header.date);
+    for (const PostedRow &row : postedRows(session, header.number, false))
+        stock::withdrawMovement(session, movementOf(row, false));
+    stock::settleDay(session, header.warehouse, header.date);
     transaction.commit();
 }
 

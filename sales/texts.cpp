@@ -115,6 +115,12 @@ QString orderLineExceeded(int rowNumber, const QString &order, const QString &op
     return row(rowNumber) + QStringLiteral("超过销售订单“%1”的未出库数量 %2！").arg(order, open);
 }
 
+QString deleteCheckedOrderQuestion(const QString &number)
+{
+    return QStringLiteral("销售订单") + number
+        + QStringLiteral("已审核，删除后不能再导入销售单，确认删除吗？");
+}
+
 QString saleLineMissing(int rowNumber)
 {
     return row(rowNumber) + QStringLiteral("退货的销售单商品行不存在或尚未审核！");
@@ -223,16 +229,6 @@ QString returnTitle()
 QString orderTitle()
 {
     return QStringLiteral("销售订单");
-}
-
-QString wePayFreight()
-{
-    return QStringLiteral("我方付运费");
-}
-
-QString theyPayFreight()
-{
-    return QStringLiteral("对方付运费");
 }
 
 } // namespace medistock::sales::texts

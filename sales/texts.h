@@ -33,6 +33,7 @@ QString orderMissing(const QString &number);
 QString orderNotChecked(const QString &number);
 QString orderLineMissing(qint64 id);
 QString orderLineExceeded(int row, const QString &order, const QString &open);
+QString deleteCheckedOrderQuestion(const QString &number);
 QString saleLineMissing(int row);
 QString returnExceedsSale(int row, const QString &sale, const QString &left);
 
@@ -64,7 +65,5 @@ QString quotationDeletedLog(bool customer, qint64 id);
 QString saleTitle(); // "销售单"
 QString returnTitle(); // "销售退货单"
 QString orderTitle(); // "销售订单"
-QString wePayFreight(); // "我方付运费"
-QString theyPayFreight(); // "对方付运费"
 
 } // namespace medistock::sales::texts

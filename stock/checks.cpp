@@ -3,6 +3,7 @@
 #include "core/connection.h"
 #include "core/interaction.h"
 #include "core/operation.h"
+#include "core/rounding.h"
 #include "shell/session.h"
 #include "stock/options.h"
 #include "stock/texts.h"
@@ -39,9 +40,6 @@ const CheckedLines *linesOf(const QString &kind)
     return nullptr;
 }
 
-// Sums of stored decimals may exceed an equal stock by a hair; a shortage must be real.
-constexpr double margin = 0.000000001;
-
 } // namespace
 
 QStringList batchCheckKinds()
@@ -70,8 +68,8 @@ QString batchCheck(const shell::Session &session, const QString &number, const Q
         "and b.ck_sn=? order by a.g_sn limit 1")
                             .arg(QLatin1String(lines->quantity), QLatin1String(lines->table),
                                 QLatin1String(lines->key));
-    const QString goods
-        = session.db().firstText(sql, { number, QStringLiteral("00000000"), margin, warehouse });
+    const QString goods = session.db().firstText(
+        sql, { number, QStringLiteral("00000000"), core::comparisonMargin, warehouse });
     if (goods.isEmpty())
         return {};
     return batchShortageText(kind, goods, allowsNegativeStock(session.params()));
@@ -96,7 +94,7 @@ QString saleLimitCheck(const shell::Session &session, const QString &number)
         QStringLiteral("select b.g_name,b.g_xzsl from (select g_sn,sum(ls_sl) as zsl from "
                        "jxc_lsxssp where gl_djh=? group by g_sn) a,jxc_goods b where "
                        "a.g_sn=b.g_sn and b.g_xzsl>0 and b.g_xzsl+?<a.zsl order by a.g_sn limit 1"),
-        { number, margin });
+        { number, core::comparisonMargin });
     if (found.isEmpty())
         return {};
     return saleLimitText(found.value(0).toString(), found.value(1).toDouble());

@@ -75,12 +75,13 @@ RunningState openingState(core::Connection &db, const StartRow &start)
                        "ck_sn=? and gl_kdrq<? order by gl_kdrq desc,id desc limit 1"),
         { start.goods, start.warehouse, start.date });
     if (!last.isEmpty())
-        return { last.value(0).toDouble(), last.value(1).toDouble(), last.value(2).toDouble() };
+        return openingAfter(
+            last.value(0).toDouble(), last.value(1).toDouble(), last.value(2).toDouble());
     const double goodsAverage
         = db.firstValue(
                 QStringLiteral("select g_pjjj from jxc_goods where g_sn=?"), { start.goods })
               .toDouble();
-    return { 0, goodsAverage, 0 };
+    return openingAfter(0, goodsAverage, 0);
 }
 
 QList<StoredRow> rowsFrom(core::Connection &db, const StartRow &start)
@@ -136,43 +137,40 @@ RunningRounding RunningRounding::of(const shell::Parameters &params)
     return { params.priceDecimals(), params.quantityDecimals(), params.stockValueDecimals() };
 }
 
+RunningState openingAfter(double quantity, double average, double value)
+{
+    return { quantity, average, value, quantity, value };
+}
+
 LedgerStep stepLedger(
     const RunningState &before, const LedgerMovement &row, const RunningRounding &rounding)
 {
     const KindRole role = kindRole(row.kind, row.quantity);
     LedgerStep step;
-    double quantity = before.quantity;
-    double average = before.average;
+    RunningState &after = step.after;
+    after = before;
     if (role.direction == Direction::Adds) {
-        double carriedQuantity = row.quantity;
-        double carriedAmount = row.amount;
-        double sumQuantity = before.quantity;
-        double sumAmount = before.value;
+        step.carriedQuantity = row.quantity;
+        step.carriedAmount = row.amount;
         if (before.quantity <= 0 && row.quantity > 0) {
-            carriedQuantity = std::abs(carriedQuantity);
-            carriedAmount = std::abs(carriedAmount);
-            sumQuantity = 0;
-            sumAmount = 0;
+            after.sumQuantity = std::abs(after.sumQuantity);
+            after.sumAmount = std::abs(after.sumAmount);
+            step.carriedQuantity = std::abs(step.carriedQuantity);
+            step.carriedAmount = std::abs(step.carriedAmount);
         }
-        quantity += row.quantity;
-        sumQuantity += carriedQuantity;
-        sumAmount += carriedAmount;
-        step.carriedQuantity = carriedQuantity;
-        step.carriedAmount = carriedAmount;
-        if (role.setsAverage && core::roundTo(sumQuantity, rounding.quantity) != 0) {
-            const bool empty = core::roundTo(quantity, rounding.quantity) == 0;
-            average = std::abs(empty ? row.price : sumAmount / sumQuantity);
-        }
+        after.quantity += row.quantity;
+        after.sumQuantity += step.carriedQuantity;
+        after.sumAmount += step.carriedAmount;
     } else if (role.direction == Direction::Subtracts) {
-        quantity -= row.quantity;
-        step.carriedQuantity = -row.quantity;
-        step.carriedAmount = core::roundTo(-row.quantity * before.average, rounding.value);
+        after.quantity -= row.quantity;
     }
-    step.after.average = core::roundTo(average, rounding.price);
-    step.after.quantity = core::roundTo(quantity, rounding.quantity);
-    step.after.value = step.after.quantity == 0
-        ? 0
-        : core::roundTo(step.after.average * step.after.quantity, rounding.value);
+    after.quantity = core::roundTo(after.quantity, rounding.quantity);
+    if (role.setsAverage && core::roundTo(after.sumQuantity, rounding.quantity) != 0)
+        after.average
+            = std::abs(after.quantity == 0 ? row.price : after.sumAmount / after.sumQuantity);
+    after.average = core::roundTo(after.average, rounding.price);
+    after.value
+        = after.quantity == 0 ? 0 : core::roundTo(after.average * after.quantity, rounding.value);
     return step;
 }
 

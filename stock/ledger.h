@@ -16,20 +16,23 @@ namespace medistock::stock {
 // gl_pjjj and the stock value gl_kczje after it, and what it carried into the average
 // (gl_sqsl, gl_sqje).
 //
-// How a row moves the running state (Q quantity, A average, V value), given the state after the
-// row before it:
-// - Adding kinds add gl_sl to Q and carry gl_sl and gl_je. An average-setting row then takes
-//   A = |(V + gl_je) / (Q + gl_sl)|, or |gl_dj| when the new Q is 0.
-// - Receipt into empty or negative stock: when Q <= 0 before a positive addition, the average
-//   starts afresh from the row alone, A = |gl_je / gl_sl|, and the carried values are taken
-//   absolute. The oversold quantity was already costed at the old average when it went out;
-//   blending it in again would count it twice or push A outside the prices actually paid.
-// - Subtracting kinds take gl_sl from Q and carry -gl_sl and -gl_sl x A; A stays.
-// - Kinds that set no average leave A as it is; V = A x Q (0 when Q is 0).
-// A, Q and V are rounded after adding 0.000000001, to price, quantity and stock-value decimals.
-// Since each row depends only on the stored state of the row before it, a rerun from any row
-// writes the same rows as a rerun from the first. Before the first row of a goods in a
-// warehouse the state is Q = 0, V = 0 and A = the goods average g_pjjj.
+// A rerun starts from the opening state of the start row's date: the last row of an earlier
+// date gives Q = its gl_kc, A = its gl_pjjj, V = its gl_kczje; before the first row Q = V = 0 and
+// A is the goods average g_pjjj. The cumulative quantity S and amount M of the average start as
+// S = Q and M = V. Then every row of that date and later, in date-then-id order:
+// - Adding kinds carry their own gl_sl and gl_je: Q += gl_sl, S += gl_sl, M += gl_je. When Q was
+//   not positive before a positive addition, S, M and the carried values are first taken
+//   absolute (the sums go on; they are not restarted).
+// - Subtracting kinds lower Q by gl_sl and carry nothing: gl_sqsl = gl_sqje = 0, since they take
+//   no part in the average.
+// - An average-setting row (see kindRole) then takes A = |M / S| while Q != 0, or |gl_dj| when Q
+//   is 0; while S is 0 the average stays. Other rows leave A as it is.
+// - A, Q and V = A x Q (0 when Q is 0) are rounded after adding 0.000000001, to price, quantity
+//   and stock-value decimals.
+// S and M run through the whole rerun, so the figures of a row depend on where the rerun
+// started: a rerun from an earlier date carries the receipts since that date into the average,
+// one from the row's own date starts from the stored state before it. Every posting reruns from
+// its own row and every reversal from the row it withdraws.
 
 // What a ledger kind (gl_flag) does to the running quantity and whether it sets the average.
 struct KindRole
@@ -47,7 +50,13 @@ struct RunningState
     double quantity = 0; // gl_kc
     double average = 0; // gl_pjjj, per base unit
     double value = 0; // gl_kczje
+    double sumQuantity = 0; // S: the quantity the average is taken over
+    double sumAmount = 0; // M: what that quantity cost
 };
+
+// The state a rerun opens with after a stored row (its gl_kc, gl_pjjj, gl_kczje): the average's
+// sums start as the stock and its value.
+RunningState openingAfter(double quantity, double average, double value);
 
 // The columns of a row that the running computation reads.
 struct LedgerMovement
@@ -75,7 +84,7 @@ struct RunningRounding
     static RunningRounding of(const shell::Parameters &params);
 };
 
-// The state after one row, given the state after the row before it.
+// The state after one row, given the state after the row before it in the same rerun.
 LedgerStep stepLedger(
     const RunningState &before, const LedgerMovement &row, const RunningRounding &rounding);
 

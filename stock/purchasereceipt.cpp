@@ -5,6 +5,7 @@
 #include "core/transaction.h"
 #include "shell/session.h"
 #include "stock/ledger.h"
+#include "stock/movement.h"
 #include "stock/options.h"
 #include "stock/stores.h"
 #include "stock/texts.h"
@@ -14,20 +15,6 @@
 namespace medistock::stock {
 
 namespace {
-
-struct ReceiptHeader
-{
-    QString number;
-    QString date; // j_jhrq, the date that orders the ledger
-    QString warehouse;
-    QString warehouseName;
-    QString supplier;
-    QString supplierName;
-    QString employee;
-    QString employeeName;
-    QString note;
-    QString sourceNumber; // j_sn2
-};
 
 // A posted goods row read back with the quantity that went into the warehouse: 0 while receiving
 // is deferred, else the full base quantity.
@@ -39,33 +26,6 @@ struct ReceiptRow
     double received = 0;
     BatchKey batch;
 };
-
-QString nameOf(core::Connection &db, const QString &sql, const QString &code)
-{
-    return db.firstText(sql, { code });
-}
-
-// Read inside the transaction: only a receipt its check has marked may move stock.
-ReceiptHeader checkedHeader(const shell::Session &session, const QString &number)
-{
-    core::Connection &db = session.db();
-    const QSqlRecord row = db.firstRow(
-        QStringLiteral("select j_jhrq,ck_sn,ghs_sn,u_sn,j_note,j_sn2 from jxc_jhd where j_sn=? "
-                       "and j_status=? order by id desc limit 1"),
-        { number, 1 });
-    if (row.isEmpty())
-        throw core::DbError(receiptNotCheckedText(number));
-    ReceiptHeader header { number, row.value(0).toString(), row.value(1).toString(), {},
-        row.value(2).toString(), {}, row.value(3).toString(), {}, row.value(4).toString(),
-        row.value(5).toString() };
-    header.warehouseName = nameOf(
-        db, QStringLiteral("select ck_name from jxc_ckxx where ck_sn=?"), header.warehouse);
-    header.supplierName = nameOf(
-        db, QStringLiteral("select ghs_name from jxc_ghsxx where ghs_sn=?"), header.supplier);
-    header.employeeName
-        = nameOf(db, QStringLiteral("select u_name from jxc_user where u_sn=?"), header.employee);
-    return header;
-}
 
 void refuseSecondPosting(const shell::Session &session, const QString &number)
 {
@@ -91,12 +51,9 @@ void fixLineIdentities(const shell::Session &session, const QString &number)
 }
 
 LedgerRow ledgerRowOf(
-    const shell::Session &session, const ReceiptHeader &header, const QSqlQuery &q)
+    const shell::Session &session, const PostingHeader &header, const QSqlQuery &q)
 {
-    LedgerRow row;
-    row.kind = QStringLiteral("cj");
-    row.number = header.number;
-    row.date = header.date;
+    LedgerRow row = headerRow(session, header, QStringLiteral("cj"));
     row.goods = q.value(0).toString();
     const double unitQuantity = q.value(2).toDouble();
     const double baseQuantity = q.value(3).toDouble();
@@ -122,20 +79,11 @@ LedgerRow ledgerRowOf(
     row.average = q.value(21).toDouble();
     row.taxedPrice = baseQuantity > 0 ? row.total / baseQuantity : 0;
     row.unitQuantity = unitQuantity;
-    row.employeeName = header.employeeName;
-    row.warehouse = header.warehouse;
-    row.warehouseName = header.warehouseName;
-    row.party = header.supplier;
-    row.partyName = header.supplierName;
-    row.checker = session.user().name;
-    row.checkDate = session.today();
-    row.note = header.note;
-    row.sourceNumber = header.sourceNumber;
     return row;
 }
 
 // One ledger row per line, the discount line included, in line order.
-void insertReceiptLedgerRows(const shell::Session &session, const ReceiptHeader &header)
+void insertReceiptLedgerRows(const shell::Session &session, const PostingHeader &header)
 {
     QList<LedgerRow> rows;
     session.db().forEach(
@@ -166,34 +114,14 @@ QList<ReceiptRow> receiptRows(const shell::Session &session, const QString &numb
     return rows;
 }
 
-void postRow(const shell::Session &session, const ReceiptHeader &header, const ReceiptRow &row)
+// The warehouse takes what was received, the book the whole quantity.
+StoreMovement movementOf(const ReceiptRow &row)
 {
-    const QString &goods = row.batch.goods;
-    applyWarehouseStock(
-        session, { goods, row.batch.warehouse, row.received, row.quantity, 0, row.price });
-    rerunLedger(session, row.id, false);
-    applyGoodsTotals(session, goods, row.received, 1, 0);
-    recordLastPurchase(session, goods, row.price, header.supplier);
-    refreshGoodsAverage(session, goods, row.price);
-    if (row.received > 0)
-        addBatchStock(session, row.batch, row.quantity);
-}
-
-void reverseRow(const shell::Session &session, const ReceiptRow &row)
-{
-    const QString &goods = row.batch.goods;
-    applyWarehouseStock(
-        session, { goods, row.batch.warehouse, -row.received, -row.quantity, 0, row.price });
-    withdrawLedgerRow(session, row.id);
-    applyGoodsTotals(session, goods, -row.received, -1, 0);
-    refreshGoodsAverage(session, goods, row.price);
-    subtractBatchStock(session, row.batch, row.received);
-}
-
-void countEmployeePurchase(const shell::Session &session, const QString &employee, int delta)
-{
-    session.db().exec(
-        QStringLiteral("update jxc_user set u_cgpl=u_cgpl+? where u_sn=?"), { delta, employee });
+    StoreMovement movement { row.id, row.batch, row.received, row.quantity };
+    movement.purchases = 1;
+    movement.price = row.price;
+    movement.goodsAverage = true;
+    return movement;
 }
 
 struct PlanLink
@@ -220,7 +148,8 @@ QList<PlanLink> planLinks(const shell::Session &session, const QString &number)
 void receivePlanLines(const shell::Session &session, const QString &number)
 {
     for (const PlanLink &link : planLinks(session, number)) {
-        session.db().exec(QStringLiteral("update jxc_cgsp set jh_rksl=jh_rksl+? where id2=?"),
+        session.db().exec(
+            QStringLiteral("update jxc_cgsp set jh_rksl=round(jh_rksl+?,8) where id2=?"),
             { link.quantity, link.planLine });
         session.db().exec(
             QStringLiteral("update jxc_cgsp set jh_qxsl=? where jh_rksl>=jh_sl and id=?"),
@@ -232,53 +161,48 @@ void reducePlanLines(const shell::Session &session, const QString &number)
 {
     for (const PlanLink &link : planLinks(session, number)) {
         session.db().exec(
-            QStringLiteral("update jxc_cgsp set jh_rksl=jh_rksl-(?),jh_qxsl=? where id2=?"),
+            QStringLiteral(
+                "update jxc_cgsp set jh_rksl=round(jh_rksl-(?),8),jh_qxsl=? where id2=?"),
             { link.quantity, 0, link.planLine });
         session.db().exec(QStringLiteral("update jxc_cgsp set jh_rksl=? where jh_rksl<=? and id=?"),
             { 0, 0, link.id });
     }
 }
 
-void settle(const shell::Session &session, const QString &warehouse, const QString &date)
-{
-    ensureSettlementRows(session, date);
-    settleWarehouse(session, warehouse, date);
-}
-
 } // namespace
 
-int postPurchaseReceiptStock(const shell::Session &session, const QString &number)
+int postPurchaseReceiptStock(const shell::Session &session, const PostingHeader &header)
 {
+    const QString &number = header.number;
     core::Transaction transaction(session.db());
-    const ReceiptHeader header = checkedHeader(session, number);
     refuseSecondPosting(session, number);
     setReceivedQuantities(session, number);
     fixLineIdentities(session, number);
     insertReceiptLedgerRows(session, header);
     const QList<ReceiptRow> rows = receiptRows(session, number);
-    for (const ReceiptRow &row : rows)
-        postRow(session, header, row);
+    for (const ReceiptRow &row : rows) {
+        postMovement(session, movementOf(row));
+        recordLastPurchase(session, row.batch.goods, row.price, header.party);
+    }
     session.log(receiptPostedLogText(number, int(rows.size())));
-    settle(session, header.warehouse, session.today());
-    countEmployeePurchase(session, header.employee, 1);
+    settleDay(session, header.warehouse, session.today());
+    countEmployeePurchase(session, header.employee);
     if (linksPurchasePlans(session.params()))
         receivePlanLines(session, number);
     transaction.commit();
     return int(rows.size());
 }
 
-void reversePurchaseReceiptStock(const shell::Session &session, const QString &number)
+void reversePurchaseReceiptStock(const shell::Session &session, const PostingHeader &header)
 {
+    const QString &number = header.number;
     core::Transaction transaction(session.db());
-    const ReceiptHeader header = checkedHeader(session, number);
     for (const ReceiptRow &row : receiptRows(session, number))
-        reverseRow(session, row);
+        withdrawMovement(session, movementOf(row));
     session.db().exec(QStringLiteral("delete from jxc_goodslist where gl_djh=?"), { number });
-    // The check counted the purchase for its employee; taking it back keeps the counter true.
-    countEmployeePurchase(session, header.employee, -1);
     if (linksPurchasePlans(session.params()))
         reducePlanLines(session, number);
-    settle(session, header.warehouse, header.date);
+    settleDay(session, header.warehouse, header.date);
     transaction.commit();
 }
 

@@ -8,11 +8,12 @@ class Session;
 
 namespace medistock::stock {
 
+struct PostingHeader;
+
 // The stock side of a purchase receipt (header jxc_jhd, lines jxc_jhsp, key j_sn). The receipt's
-// check and uncheck call these inside their own transaction, after their money postings; each
-// also opens a joining transaction guard, so that a call on its own is whole or nothing. They
-// throw DbError, and refuse (by DbError) a receipt whose header is not marked checked
-// (j_status=1) inside the transaction.
+// check and uncheck call these inside their own transaction, after their money postings and with
+// the header they read and marked checked; each also opens a joining transaction guard, so that
+// a call on its own is whole or nothing. They throw DbError.
 
 // Posts a checked receipt into stock: received quantities (none while goods come in through
 // receiving notes), the lines' stable identities, one ledger row "cj" per line, then per row
@@ -20,15 +21,16 @@ namespace medistock::stock {
 // stock; the log line, the day's settlement for the warehouse, the employee's purchase count and
 // the purchase plan lines. Refuses a receipt that already has ledger rows. Returns the number of
 // goods rows posted (the discount line not counted).
-int postPurchaseReceiptStock(const shell::Session &session, const QString &number);
+int postPurchaseReceiptStock(const shell::Session &session, const PostingHeader &header);
 
 // Takes a posted receipt back out of stock, row by row in the same order: warehouse stock, the
 // ledger rerun without the row, goods totals and average, batch stock; then deletes its ledger
-// rows, takes back the employee's purchase count, reduces the plan lines and settles the
-// warehouse for the receipt's date. The batch check "CJ" (confirmBatchCheck) belongs before the
-// caller's transaction; the header reset and the money rows are the caller's. Kept on purpose:
-// the lines' received quantities and identities, g_scjj, the goods' last supplier, stock and
-// batch rows created at zero, and settlement rows.
-void reversePurchaseReceiptStock(const shell::Session &session, const QString &number);
+// rows, reduces the plan lines and settles the warehouse for the receipt's date. The batch check
+// "CJ" (confirmBatchCheck) belongs before the caller's transaction; the header reset and the
+// money rows are the caller's. Kept on purpose, as the posting rules keep them: the lines'
+// received quantities and identities, g_scjj, the goods' last supplier, the employee's purchase
+// count u_cgpl (only the goods' g_cgpl is taken back), stock and batch rows created at zero, and
+// settlement rows. Uses the header's number, date and warehouse.
+void reversePurchaseReceiptStock(const shell::Session &session, const PostingHeader &header);
 
 } // namespace medistock::stock

@@ -18,13 +18,13 @@ void changeBatch(const shell::Session &session, const BatchKey &batch, double qu
 {
     core::Connection &db = session.db();
     const int changed = db.exec(
-        QStringLiteral("update jxc_tkc set t_sl=t_sl+? where g_sn=? and ck_sn=? and t_yxq=? "
-                       "and t_ph=? and t_scrq=?"),
+        QStringLiteral("update jxc_tkc set t_sl=round(t_sl+?,8) where g_sn=? and ck_sn=? and "
+                       "t_yxq=? and t_ph=? and t_scrq=?"),
         { quantity, batch.goods, batch.warehouse, batch.expiry, batch.batch, batch.produced });
     if (changed > 0)
         return;
     db.exec(QStringLiteral("insert into jxc_tkc (g_sn,t_jhrq,t_ph,t_yxq,t_sl,ck_sn,t_scrq) "
-                           "values (?,?,?,?,?,?,?)"),
+                           "values (?,?,?,?,round(?,8),?,?)"),
         { batch.goods, QString(), batch.batch, batch.expiry, quantity, batch.warehouse,
             batch.produced });
 }
@@ -56,8 +56,8 @@ QStringList warehousesWithout(
 void settleAllWarehouses(const shell::Session &session, const QString &date)
 {
     QList<std::pair<QString, StockTotals>> totals;
-    session.db().forEach(QStringLiteral("select sum(kc_sl),sum(kc_sl*kc_cbj),ck_sn from jxc_kcsp "
-                                        "group by ck_sn"),
+    session.db().forEach(QStringLiteral("select round(sum(kc_sl),8),round(sum(kc_sl*kc_cbj),8),"
+                                        "ck_sn from jxc_kcsp group by ck_sn"),
         {}, [&](const QSqlQuery &q) {
             totals.append(
                 { q.value(2).toString(), { q.value(0).toDouble(), q.value(1).toDouble() } });
@@ -81,13 +81,13 @@ void applyWarehouseStock(const shell::Session &session, const WarehouseStockChan
 {
     core::Connection &db = session.db();
     const int changed = db.exec(
-        QStringLiteral("update jxc_kcsp set kc_sl=kc_sl+?,kc_zsl=kc_zsl+?,kc_xssl=kc_xssl+? "
-                       "where ck_sn=? and g_sn=?"),
+        QStringLiteral("update jxc_kcsp set kc_sl=round(kc_sl+?,8),kc_zsl=round(kc_zsl+?,8),"
+                       "kc_xssl=round(kc_xssl+?,8) where ck_sn=? and g_sn=?"),
         { change.physical, change.book, change.sold, change.warehouse, change.goods });
     if (changed > 0)
         return;
     db.exec(QStringLiteral("insert into jxc_kcsp (kc_sl,kc_cbj,kc_xssl,g_sn,ck_sn,kc_zsl) "
-                           "values (?,?,?,?,?,?)"),
+                           "values (round(?,8),?,round(?,8),?,?,round(?,8))"),
         { change.physical, change.costOfNewRow, change.sold, change.goods, change.warehouse,
             change.book });
 }
@@ -120,10 +120,15 @@ void subtractBatchStock(const shell::Session &session, const BatchKey &batch, do
 void applyGoodsTotals(
     const shell::Session &session, const QString &goods, double stock, int purchases, int sales)
 {
-    session.db().exec(
-        QStringLiteral("update jxc_goods set g_kc=g_kc+?,g_cgpl=g_cgpl+?,g_xspl=g_xspl+? "
-                       "where g_sn=?"),
+    session.db().exec(QStringLiteral("update jxc_goods set g_kc=round(g_kc+?,8),g_cgpl=g_cgpl+?,"
+                                     "g_xspl=g_xspl+? where g_sn=?"),
         { stock, purchases, sales, goods });
+}
+
+void countEmployeePurchase(const shell::Session &session, const QString &employee)
+{
+    session.db().exec(
+        QStringLiteral("update jxc_user set u_cgpl=u_cgpl+1 where u_sn=?"), { employee });
 }
 
 void recordLastPurchase(
@@ -184,7 +189,8 @@ void ensureSettlementRows(const shell::Session &session, const QString &date)
 void settleWarehouse(const shell::Session &session, const QString &warehouse, const QString &date)
 {
     const QSqlRecord sums = session.db().firstRow(
-        QStringLiteral("select sum(kc_sl),sum(kc_sl*kc_cbj) from jxc_kcsp where ck_sn=?"),
+        QStringLiteral("select round(sum(kc_sl),8),round(sum(kc_sl*kc_cbj),8) from jxc_kcsp "
+                       "where ck_sn=?"),
         { warehouse });
     StockTotals totals;
     if (!sums.isEmpty())
@@ -197,7 +203,8 @@ void adjustSettlement(const shell::Session &session, const QString &warehouse, c
 {
     session.db().exec(
         QStringLiteral(
-            "update jxc_kcjs set js_sl=js_sl+?,js_zje=js_zje+? where js_rq=? and ck_sn=?"),
+            "update jxc_kcjs set js_sl=round(js_sl+?,8),js_zje=round(js_zje+?,8) where js_rq=? "
+            "and ck_sn=?"),
         { quantity, value, date, warehouse });
 }
 

@@ -12,7 +12,10 @@ namespace medistock::stock {
 
 // The stores a posting changes besides the ledger: warehouse stock (jxc_kcsp), batch stock
 // (jxc_tkc), the goods row's totals (jxc_goods) and the daily settlement (jxc_kcjs). Every step
-// runs inside the caller's transaction and throws DbError; quantities are in base units.
+// runs inside the caller's transaction and throws DbError; quantities are in base units. Every
+// figure built by adding and subtracting is written rounded to the eight places its column
+// declares (round(x, 8)), so that receiving 0.1 and 0.2 and issuing 0.3 leaves exactly 0, not
+// the binary remainder of the sum, and a check followed by its uncheck restores it exactly.
 
 // A batch of one goods in one warehouse. The three batch texts are compared exactly: an empty
 // batch number, expiry or production date is a value like any other.
@@ -53,6 +56,9 @@ void subtractBatchStock(const shell::Session &session, const BatchKey &batch, do
 // Adds to the goods row's total stock g_kc and its purchase and sale counters g_cgpl, g_xspl.
 void applyGoodsTotals(
     const shell::Session &session, const QString &goods, double stock, int purchases, int sales);
+// Counts a purchase document for its employee (u_cgpl). Nothing takes the count back: an uncheck
+// lowers only the goods' g_cgpl.
+void countEmployeePurchase(const shell::Session &session, const QString &employee);
 // Writes the last purchase price g_scjj (per base unit) and the last supplier ghs_sn.
 void recordLastPurchase(
     const shell::Session &session, const QString &goods, double price, const QString &supplier);

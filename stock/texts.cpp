@@ -48,11 +48,6 @@ QString receiptPostedLogText(const QString &number, int rowCount)
         + QString::number(rowCount) + QStringLiteral("种商品");
 }
 
-QString receiptNotCheckedText(const QString &number)
-{
-    return QStringLiteral("采购进货单") + number + QStringLiteral("不是已审核状态，不能记入库存！");
-}
-
 QString receiptAlreadyPostedText(const QString &number)
 {
     return QStringLiteral("采购进货单") + number + QStringLiteral("已记入库存，不能重复记帐！");

@@ -16,9 +16,7 @@ QString saleLimitText(const QString &goodsName, double limit);
 // The log line of a posted purchase receipt.
 QString receiptPostedLogText(const QString &number, int rowCount);
 
-// Guards of the receipt posting: the caller must have marked the receipt checked, and a receipt
-// is posted once.
-QString receiptNotCheckedText(const QString &number);
+// The guard of the receipt posting: a receipt is posted once.
 QString receiptAlreadyPostedText(const QString &number);
 
 // A rerun asked for a ledger row that does not exist.

@@ -111,17 +111,15 @@ Result<StockHeader> headerInTransaction(const shell::Session &session,
 LedgerRow documentRow(
     const shell::Session &session, const StockHeader &header, const QString &ledgerKind)
 {
-    LedgerRow row;
-    row.kind = ledgerKind;
-    row.number = header.number;
-    row.date = header.date;
+    PostingHeader posting;
+    posting.number = header.number;
+    posting.date = header.date;
+    posting.warehouse = header.warehouse;
+    posting.warehouseName = header.warehouseName;
+    posting.employeeName = header.employeeName;
+    posting.note = header.note;
+    LedgerRow row = headerRow(session, posting, ledgerKind);
     row.discountRate = 1;
-    row.employeeName = header.employeeName;
-    row.warehouse = header.warehouse;
-    row.warehouseName = header.warehouseName;
-    row.checker = session.user().name;
-    row.checkDate = session.today();
-    row.note = header.note;
     return row;
 }
 
@@ -156,29 +154,26 @@ QList<PostedRow> postedRows(const shell::Session &session, const QString &number
     return rows;
 }
 
+// Physical and book quantity move alike; a missing warehouse row is created at the row's price.
+StoreMovement movementOf(const PostedRow &row, bool goodsTotal)
+{
+    StoreMovement movement { row.id, row.batch, row.quantity, row.quantity };
+    movement.price = row.price;
+    movement.goodsStock = goodsTotal;
+    return movement;
+}
+
 void postRow(const shell::Session &session, const PostedRow &row, bool goodsTotal,
     const QString &settlementDate)
 {
-    const QString &goods = row.batch.goods;
-    const QString &warehouse = row.batch.warehouse;
-    applyWarehouseStock(session, { goods, warehouse, row.quantity, row.quantity, 0, row.price });
-    if (goodsTotal)
-        applyGoodsTotals(session, goods, row.quantity, 0, 0);
-    adjustSettlement(session, warehouse, settlementDate, row.quantity, row.amount);
-    rerunLedger(session, row.id, false);
-    addBatchStock(session, row.batch, row.quantity);
+    adjustSettlement(session, row.batch.warehouse, settlementDate, row.quantity, row.amount);
+    postMovement(session, movementOf(row, goodsTotal));
 }
 
 void reverseRow(const shell::Session &session, const PostedRow &row, bool goodsTotal)
 {
-    const QString &goods = row.batch.goods;
-    const QString &warehouse = row.batch.warehouse;
-    applyWarehouseStock(session, { goods, warehouse, -row.quantity, -row.quantity, 0, row.price });
-    if (goodsTotal)
-        applyGoodsTotals(session, goods, -row.quantity, 0, 0);
-    adjustSettlement(session, warehouse, row.checkDate, -row.quantity, -row.total);
-    withdrawLedgerRow(session, row.id);
-    subtractBatchStock(session, row.batch, row.quantity);
+    adjustSettlement(session, row.batch.warehouse, row.checkDate, -row.quantity, -row.total);
+    withdrawMovement(session, movementOf(row, goodsTotal));
 }
 
 } // namespace medistock::stock

@@ -2,8 +2,7 @@
 
 #include "core/outcome.h"
 #include "documents/descriptor.h"
-#include "stock/ledger.h"
-#include "stock/stores.h"
+#include "stock/movement.h"
 
 #include <QList>
 #include <QString>
@@ -77,14 +76,13 @@ struct PostedRow
 };
 QList<PostedRow> postedRows(const shell::Session &session, const QString &number);
 
-// Moves the stores by one row: warehouse stock (physical and book; a missing row is created at
-// the row's price), the goods total g_kc when `goodsTotal`, the settlement of `settlementDate`
-// by gl_je, the ledger rerun from the row, and the batch.
+// Moves the stores by one row: the settlement of `settlementDate` by gl_je, then the shared
+// posting of the row (warehouse stock, physical and book alike; the ledger rerun; the goods total
+// g_kc when `goodsTotal`; the batch).
 void postRow(const shell::Session &session, const PostedRow &row, bool goodsTotal,
     const QString &settlementDate);
-// Takes one row back: warehouse stock, g_kc when `goodsTotal`, the settlement of the day the
-// check adjusted (the row's check date) by gl_zje, the rerun without the row, which is then
-// deleted, and the batch.
+// Takes one row back: the settlement of the day the check adjusted (the row's check date) by
+// gl_zje, then the shared withdrawal of the row (the rerun without it, which is then deleted).
 void reverseRow(const shell::Session &session, const PostedRow &row, bool goodsTotal);
 
 } // namespace medistock::stock

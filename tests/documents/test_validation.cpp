@@ -1,4 +1,5 @@
 #include "documents/entry.h"
+#include "documents/expiry.h"
 #include "tests/documents/entrytest.h"
 #include "tests/support/documentrows.h"
 
@@ -119,10 +120,25 @@ INSTANTIATE_TEST_SUITE_P(Drafts, BadInputTest,
         BadInput { "ProductionDateNotADate",
             [](DocumentDraft &d) { first(d).produced = "2024-13-01"; },
             "第1行：生产日期“2024-13-01”不是有效的日期（yyyy-MM-dd）！" },
+        BadInput { "ProductionDateAsAMonth",
+            [](DocumentDraft &d) { first(d).produced = "2024-12"; },
+            "第1行：生产日期“2024-12”不是有效的日期（yyyy-MM-dd）！" },
         BadInput { "ExpiryNotADate", [](DocumentDraft &d) { first(d).expiry = "2027/11/30"; },
-            "第1行：有效期“2027/11/30”不是有效的日期（yyyy-MM-dd）！" },
+            "第1行：有效期“2027/11/30”不是有效的有效期（yyyy-MM-dd 或 yyyy-MM，无有效期为 "
+            "0000-00）！" },
+        BadInput { "ExpiryMonthThatDoesNotExist",
+            [](DocumentDraft &d) { first(d).expiry = "2027-13"; },
+            "第1行：有效期“2027-13”不是有效的有效期（yyyy-MM-dd 或 yyyy-MM，无有效期为 "
+            "0000-00）！" },
+        BadInput { "ExpiryMonthWithoutItsZero",
+            [](DocumentDraft &d) { first(d).expiry = "2027-6"; },
+            "第1行：有效期“2027-6”不是有效的有效期（yyyy-MM-dd 或 yyyy-MM，无有效期为 "
+            "0000-00）！" },
         BadInput { "ExpiryBeforeProduction",
             [](DocumentDraft &d) { first(d).expiry = "2024-11-30"; },
+            "第1行：有效期不能早于生产日期！" },
+        BadInput { "ExpiryMonthBeforeProduction",
+            [](DocumentDraft &d) { first(d).expiry = "2024-11"; },
             "第1行：有效期不能早于生产日期！" }),
     caseName);
 
@@ -228,3 +244,42 @@ TEST_F(EntryTest, ExpiryOnTheProductionDayAndEmptyBatchFieldsAreAccepted)
     EXPECT_EQ(valid->partyName, QStringLiteral("华东医药"));
     EXPECT_TRUE(ui.informed.isEmpty());
 }
+
+// The expiry as drug packages print it: a month stands for its last day, "0000-00" for none. Each
+// is stored as typed.
+TEST_F(EntryTest, ExpiryIsAcceptedAsADayAMonthOrNone)
+{
+    QList<LineDraft> lines;
+    for (const char *expiry : { "2027-06", "2027-06-30", "0000-00", "2024-12" }) {
+        LineDraft l = line(QStringLiteral("200001"), "1", "1");
+        l.expiry = QString::fromLatin1(expiry);
+        lines.append(l);
+    }
+    const Result<ValidDocument> valid = validateDraft(session(), fullKind(), draft(lines));
+    ASSERT_TRUE(valid) << valid.message().toStdString();
+    QStringList stored;
+    for (const ValidLine &l : valid->lines)
+        stored.append(l.expiry);
+    EXPECT_EQ(stored, (QStringList { "2027-06", "2027-06-30", "0000-00", "2024-12" }));
+}
+
+struct ExpiryDay
+{
+    const char *expiry;
+    const char *day; // the day it is good through; empty for none
+};
+
+class ExpiryDays : public ::testing::TestWithParam<ExpiryDay>
+{
+};
+
+TEST_P(ExpiryDays, AMonthLastsToItsLastDay)
+{
+    EXPECT_EQ(documents::expiryDay(QString::fromLatin1(GetParam().expiry)),
+        QString::fromLatin1(GetParam().day));
+}
+
+INSTANTIATE_TEST_SUITE_P(Expiries, ExpiryDays,
+    ::testing::Values(ExpiryDay { "2025-02", "2025-02-28" }, ExpiryDay { "2024-02", "2024-02-29" },
+        ExpiryDay { "2025-12", "2025-12-31" }, ExpiryDay { "2025-04-15", "2025-04-15" },
+        ExpiryDay { "0000-00", "" }, ExpiryDay { "", "" }));

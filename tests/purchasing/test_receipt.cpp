@@ -99,6 +99,7 @@ TEST_F(PurchasingTest, FreightAndPackingAreBookedOnlyWhenWePayAndGoAgainByTheirN
             "|费用付款|-5|-20|采购单CJ25031410002产生的包装费" }));
 
     ASSERT_TRUE(uncheckPurchaseReceipt(session(), number));
+    db().exec(QStringLiteral("update jxc_user set u_cgpl=u_cgpl-1 where u_sn='100002'"));
     EXPECT_EQ(differences(before, snapshot()), QStringList {});
 }
 
@@ -147,6 +148,9 @@ TEST_F(PurchasingTest, CheckThenUncheckRestoresEveryQuantityLedgerAndMoneyRow)
         (QStringList { "2025-03-10|120", "2025-03-12|205.2", "2025-03-20|207.2" }));
 
     ASSERT_TRUE(uncheckPurchaseReceipt(session(), number));
+    // The buyer's purchase count stays as the check left it; only the goods' count goes back.
+    EXPECT_EQ(figure(QStringLiteral("select u_cgpl from jxc_user where u_sn='100002'")), 3);
+    db().exec(QStringLiteral("update jxc_user set u_cgpl=2 where u_sn='100002'"));
     // The check's last purchase price and supplier stay, as the posting rules keep them.
     EXPECT_NE(rows(QStringLiteral("select g_scjj,ghs_sn from jxc_goods order by id")), kept);
     db().exec(QStringLiteral("update jxc_goods set g_scjj=11 where g_sn='200001'"));
@@ -205,6 +209,8 @@ TEST_F(PurchasingTest, AReceivingNoteStopsTheUncheckBeforeAnyQuestion)
     EXPECT_EQ(differences(before, snapshot()), QStringList {});
 }
 
+// Checking a checked receipt posts nothing again; it only removes an unchecked copy of its
+// number that another workstation left beside it, as the sale's check does.
 TEST_F(PurchasingTest, ADocumentIsCheckedOnceAndUncheckedOnlyWhenChecked)
 {
     const QString number = saveReceipt(draft({ line(QStringLiteral("200002"), "10", "3") }));
@@ -212,8 +218,13 @@ TEST_F(PurchasingTest, ADocumentIsCheckedOnceAndUncheckedOnlyWhenChecked)
         QStringLiteral("单据：CJ25031410001尚未审核！"));
     ASSERT_TRUE(checkPurchaseReceipt(session(), number));
     const QString before = snapshot();
-    EXPECT_EQ(checkPurchaseReceipt(session(), number).message(),
-        QStringLiteral("单据：CJ25031410001已经审核！"));
+    db().exec(QStringLiteral("insert into jxc_jhd (j_sn,j_jhrq,ghs_sn,ck_sn,j_status,j_yfje) "
+                             "values (?,'2025-03-14',?,'100001',0,99)"),
+        { number, supplier() });
+    ui.clear();
+    EXPECT_TRUE(checkPurchaseReceipt(session(), number));
+    EXPECT_EQ(ui.informed, QStringList {});
+    EXPECT_EQ(differences(before, snapshot()), QStringList {});
     EXPECT_EQ(checkPurchaseReceipt(session(), QStringLiteral("CJ25031499999")).message(),
         QStringLiteral("单据：CJ25031499999不存在！"));
     EXPECT_EQ(differences(before, snapshot()), QStringList {});

@@ -78,6 +78,9 @@ TEST_F(ReturnTest, CheckThenUncheckRestoresEverythingButTheNoteAndTheLinks)
     ASSERT_TRUE(uncheckPurchaseReturn(session(), number));
 
     EXPECT_EQ(figure(QStringLiteral("select g_cgpl from jxc_goods where g_sn='200001'")), 1);
+    // The buyer's count of purchase documents keeps the return, as a receipt's uncheck does.
+    EXPECT_EQ(figure(QStringLiteral("select u_cgpl from jxc_user where u_sn='100002'")), 2);
+    db().exec(QStringLiteral("update jxc_user set u_cgpl=1 where u_sn='100002'"));
     EXPECT_EQ(rows(QStringLiteral("select th_note from jxc_thd")), QStringList { "" });
     EXPECT_EQ(rows(QStringLiteral("select id2 from jxc_thsp")), (QStringList { "0", "0" }));
     db().exec(QStringLiteral("update jxc_thd set th_note='破损退回'"));
@@ -151,6 +154,43 @@ TEST_F(ReturnTest, ALineReturnsNoMoreThanItsReceiptLineStillHolds)
     first.entry.lines = { returned("7") };
     EXPECT_EQ(savePurchaseReturn(session(), first).message(),
         QStringLiteral("第1行：退货数量超过进货单CJ25031410001中该商品尚可退货的数量6！"));
+}
+
+// A receipt whose goods went back on a checked return cannot be unchecked: the return depends on
+// it. Nothing changes and the return keeps its link to the receipt line.
+TEST_F(ReturnTest, TheReceiptOfACheckedReturnIsNotUnchecked)
+{
+    const QString number = checkedReturn(draft({ returned("3") }));
+    const QString before = snapshot();
+    ui.clear();
+    const Outcome refused = uncheckPurchaseReceipt(session(), receipt);
+    EXPECT_EQ(refused.message(),
+        QStringLiteral("该单据CJ25031410001已有退货信息，不能取消审核！\r\n\r\n"
+                       "请先取消审核对应的采购退货单！"));
+    EXPECT_EQ(ui.informed, QStringList { refused.message() });
+    EXPECT_TRUE(ui.asked.isEmpty());
+    EXPECT_EQ(differences(before, snapshot()), QStringList {});
+    EXPECT_EQ(rows(QStringLiteral("select id2 from jxc_thsp where gl_djh=?"), { number }),
+        QStringList { QString::number(receiptLineId(receipt, 0)) });
+
+    ASSERT_TRUE(uncheckPurchaseReturn(session(), number));
+    EXPECT_TRUE(uncheckPurchaseReceipt(session(), receipt));
+}
+
+// Two returns of one receipt line, 4 and 3: unchecking the second frees only its own 3, so 6 are
+// left to return, no more. (A return's check leaves jh_qxsl alone; what is left is counted from
+// the other returns' lines.)
+TEST_F(ReturnTest, UncheckingOneOfTwoReturnsKeepsWhatTheOtherReturned)
+{
+    checkedReturn(draft({ returned("4") }));
+    const QString second = checkedReturn(draft({ returned("3") }));
+    ASSERT_TRUE(uncheckPurchaseReturn(session(), second));
+    EXPECT_EQ(
+        rows(QStringLiteral("select jh_qxsl from jxc_jhsp where j_sn=? order by id"), { receipt }),
+        (QStringList { "0", "0" }));
+    EXPECT_EQ(savePurchaseReturn(session(), draft({ returned("7") })).message(),
+        QStringLiteral("第1行：退货数量超过进货单CJ25031410001中该商品尚可退货的数量6！"));
+    EXPECT_FALSE(saveReturn(draft({ returned("6") })).isEmpty());
 }
 
 // The receipt is marked finished (j_crk) by later business; unchecking a return reopens it only

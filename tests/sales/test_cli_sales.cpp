@@ -121,6 +121,20 @@ TEST_F(SalesCommands, ASaleIsSavedWithItsBatchesProposedCheckedShownAndUnchecked
     EXPECT_EQ(wrongKind.status, 2);
 }
 
+// A line without "ls_dj" is saved at the customer's price.
+TEST_F(SalesCommands, ALineWithoutAPriceIsSavedAtTheCustomersPrice)
+{
+    const QString json = file(QStringLiteral("xs.json"),
+        R"({"kind":"XS","kh_sn":"100002","ck_sn":"100001","ls_sfje":24,
+            "lines":[{"g_sn":"200002","ls_sl":"3","t_ph":"P1","t_yxq":"2026-01-31"}]})");
+    const CliRun saved = run({ "--yes", "save", json });
+    EXPECT_EQ(saved.status, 0) << saved.err.toStdString();
+    EXPECT_EQ(value(QStringLiteral("select ls_dj||'|'||ls_zje from jxc_lsxssp where "
+                                   "g_sn='200002'"))
+                  .toString(),
+        QStringLiteral("8|24"));
+}
+
 // Two workstations checking the same sale at the same moment: the one that comes second finds it
 // checked and posts nothing.
 TEST_F(SalesCommands, TwoProcessesCheckingTheSameSaleAtOncePostItOnce)

@@ -114,3 +114,36 @@ TEST_F(SalesOrders, SingleLinesAreTakenOverAndNoMoreThanIsOpen)
     EXPECT_FALSE(sales::takeOverOrder(session(), unchecked, sale));
     EXPECT_EQ(ui.informed.last(), "销售订单：" + unchecked + "尚未审核，不能导入！");
 }
+
+// A checked order is deleted after a question: its header and lines go, so nothing of it is
+// offered for take-over any more; "No" changes nothing. An unchecked one goes without a question.
+TEST_F(SalesOrders, ACheckedOrderIsDeletedAfterTheQuestionAndIsOfferedNoMore)
+{
+    const QString order = checkedOrder();
+    const QString before = snapshot();
+    const QString question = "销售订单" + order + "已审核，删除后不能再导入销售单，确认删除吗？";
+    ui.clear();
+    ui.answerNext(false);
+    EXPECT_FALSE(sales::deleteSalesOrder(session(), order));
+    EXPECT_EQ(ui.asked, QStringList { question });
+    EXPECT_EQ(test::differences(before, snapshot()), QStringList {});
+
+    ui.clear();
+    ASSERT_TRUE(sales::deleteSalesOrder(session(), order));
+    EXPECT_EQ(ui.asked, QStringList { question });
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_xsd")), 0);
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_xssp")), 0);
+    EXPECT_TRUE(sales::openOrderLines(session(), {}).isEmpty());
+    sales::SaleDraft sale;
+    EXPECT_FALSE(sales::takeOverOrder(session(), order, sale));
+    EXPECT_EQ(rows(QStringLiteral("jxc_log"), QStringLiteral("log_note"),
+                  QStringLiteral("log_note like ?"), { QStringLiteral("删除%") }),
+        QStringList { "删除已审核销售订单" + order });
+
+    const QString unchecked = saveOrder(
+        draft({ line(QStringLiteral("200002"), QStringLiteral("1"), QStringLiteral("8")) }));
+    ui.clear();
+    ASSERT_TRUE(sales::deleteSalesOrder(session(), unchecked));
+    EXPECT_EQ(ui.asked, QStringList {});
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_xsd")), 0);
+}

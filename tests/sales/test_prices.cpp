@@ -57,12 +57,18 @@ TEST_F(CustomerPrices, WithSourceZeroTheTypePicksItsLevelAndTheStandardTypeGetsT
     EXPECT_DOUBLE_EQ(price(QStringLiteral("100002")), 10.5);
     EXPECT_DOUBLE_EQ(price(QStringLiteral("100003")), 12);
     EXPECT_DOUBLE_EQ(price(QStringLiteral("100002"), QStringLiteral("件")), 100);
+    // The standard type skips the level prices with source 0, so its last step, the goods'
+    // standard price, is what any unit is offered.
+    EXPECT_DOUBLE_EQ(price(QStringLiteral("100003"), QStringLiteral("件")), 12);
+    setParameter(QStringLiteral("cs_xsdj"), 1);
     EXPECT_DOUBLE_EQ(price(QStringLiteral("100003"), QStringLiteral("件")), 115);
+    setParameter(QStringLiteral("cs_xsdj"), 0);
 
-    // A level the unit has no price for falls back to the unit's standard price.
+    // A level the unit has no price for falls back to the goods' standard price, as the last
+    // step of the lookup reads it from the goods row for every unit.
     db().exec(QStringLiteral("update jxc_khxx set kt_sn=? where kh_sn=?"),
         { QStringLiteral("1004"), QStringLiteral("100002") });
-    EXPECT_DOUBLE_EQ(price(QStringLiteral("100002"), QStringLiteral("件")), 115);
+    EXPECT_DOUBLE_EQ(price(QStringLiteral("100002"), QStringLiteral("件")), 12);
     EXPECT_DOUBLE_EQ(price(QStringLiteral("100002")), 10);
 
     setParameter(QStringLiteral("cs_cs013"), 0);
@@ -101,4 +107,38 @@ TEST_F(CustomerPrices, PricesRoundHalfUpToThePriceDecimals)
     EXPECT_DOUBLE_EQ(price(QStringLiteral("100002")), 10);
     EXPECT_DOUBLE_EQ(
         sales::customerPrice(session(), QStringLiteral("999999"), QStringLiteral("100003")), 0);
+}
+
+// A line of a sale, an order or a return saved without a price gets the customer's price for its
+// unit; a typed price stays.
+TEST_F(CustomerPrices, LinesSavedWithoutAPriceTakeTheCustomersPriceForTheirUnit)
+{
+    setParameter(QStringLiteral("cs_xsdj"), 0);
+    const QList<documents::LineDraft> lines { line(QStringLiteral("200001"), QStringLiteral("2"),
+                                                  {}, QStringLiteral("B1")),
+        line(QStringLiteral("200001"), QStringLiteral("1"), {}, QStringLiteral("B1"),
+            QStringLiteral("件")),
+        line(QStringLiteral("200002"), QStringLiteral("3"), {}),
+        line(QStringLiteral("200002"), QStringLiteral("1"), QStringLiteral("7.5")) };
+    const QString sale = saveSale(draft(lines));
+    const QString order = saveOrder(draft(lines));
+    const QString back = saveReturn(draft(lines));
+    for (const auto &[table, number] : { std::pair { "jxc_lsxssp", sale }, { "jxc_xssp", order } })
+        EXPECT_EQ(rows(QString::fromLatin1(table), QStringLiteral("dw_name,ls_dj,ls_zje"),
+                      QStringLiteral("gl_djh=?"), { number }),
+            (QStringList { "盒|10.5|21", "件|100|100", "袋|8|24", "袋|7.5|7.5" }))
+            << table;
+    EXPECT_EQ(rows(QStringLiteral("jxc_xsthsp"), QStringLiteral("dw_name,th_dj"),
+                  QStringLiteral("gl_djh=?"), { back }),
+        (QStringList { "盒|10.5", "件|100", "袋|8", "袋|7.5" }));
+}
+
+// A unit without a price of its own falls back to the goods' standard price g_sj, the last step
+// of the lookup, as it reads the goods row whatever the unit.
+TEST_F(CustomerPrices, AUnitWithoutItsOwnPriceTakesTheGoodsStandardPrice)
+{
+    setParameter(QStringLiteral("cs_xsdj"), 0);
+    db().exec(QStringLiteral("update jxc_goodsdw set g_sj=null,g_sj3=null"));
+    EXPECT_DOUBLE_EQ(price(QStringLiteral("100003"), QStringLiteral("件")), 12);
+    EXPECT_DOUBLE_EQ(price(QStringLiteral("100002"), QStringLiteral("件")), 12);
 }

@@ -152,3 +152,34 @@ TEST_F(SalesReturn, AReturnWithoutLinesIsNeverChecked)
     EXPECT_TRUE(ui.informed.isEmpty());
     EXPECT_EQ(test::differences(before, snapshot()), QStringList {});
 }
+
+// Two returns of one sales line, 4 and 3: unchecking the second gives back only its own 3, so the
+// line still counts the 4 that stay returned, and the 6 left may still be returned, no more.
+TEST_F(SalesReturn, UncheckingOneOfTwoReturnsKeepsWhatTheOtherReturned)
+{
+    const qint64 soldLine = soldBags();
+    const QString first = returned(4, 0, soldLine);
+    ASSERT_TRUE(sales::checkSalesReturn(session(), first));
+    const QString second = returned(3, 0, soldLine);
+    ASSERT_TRUE(sales::checkSalesReturn(session(), second));
+    const auto returnedOnLine = [&] {
+        return rows(QStringLiteral("jxc_lsxssp"), QStringLiteral("ls_qxsl"),
+            QStringLiteral("g_sn='200002'"));
+    };
+    EXPECT_EQ(returnedOnLine(), QStringList { "7" });
+    ASSERT_TRUE(sales::uncheckSalesReturn(session(), second));
+    EXPECT_EQ(returnedOnLine(), QStringList { "4" });
+    EXPECT_EQ(rows(QStringLiteral("jxc_lsxsd"), QStringLiteral("ls_crk"),
+                  QStringLiteral("gl_djh=?"), { m_sale }),
+        QStringList { "0" });
+    ui.clear();
+    EXPECT_FALSE(sales::saveSalesReturn(session(), [&] {
+        sales::SaleDraft d
+            = draft({ line(QStringLiteral("200002"), QStringLiteral("7"), QStringLiteral("10")) });
+        d.entry.lines[0].columns.set(QStringLiteral("id2"), soldLine);
+        return d;
+    }()));
+    EXPECT_EQ(
+        ui.informed, QStringList { "第1行：退货数量超过销售单“" + m_sale + "”的可退数量 6！" });
+    EXPECT_FALSE(returned(6, 0, soldLine).isEmpty());
+}

@@ -4,6 +4,7 @@
 #include "stock/purchasereceipt.h"
 
 #include <QSqlQuery>
+#include <QSqlRecord>
 
 namespace medistock::test {
 
@@ -61,14 +62,27 @@ void StockTest::addReturnLines(const QString &number, const QList<Line> &lines)
                 l.produced });
 }
 
+stock::PostingHeader StockTest::receiptHeader(const QString &number)
+{
+    const QSqlRecord r = db().firstRow(
+        QStringLiteral("select a.j_jhrq,a.ck_sn,b.ck_name,a.ghs_sn,c.ghs_name,a.u_sn,d.u_name,"
+                       "a.j_note,a.j_sn2 from jxc_jhd a left join jxc_ckxx b on b.ck_sn=a.ck_sn "
+                       "left join jxc_ghsxx c on c.ghs_sn=a.ghs_sn left join jxc_user d on "
+                       "d.u_sn=a.u_sn where a.j_sn=?"),
+        { number });
+    return { number, r.value(0).toString(), r.value(1).toString(), r.value(2).toString(),
+        r.value(3).toString(), r.value(4).toString(), r.value(5).toString(), r.value(6).toString(),
+        r.value(7).toString(), r.value(8).toString() };
+}
+
 int StockTest::postReceipt(const QString &number)
 {
-    return stock::postPurchaseReceiptStock(session(), number);
+    return stock::postPurchaseReceiptStock(session(), receiptHeader(number));
 }
 
 void StockTest::reverseReceipt(const QString &number)
 {
-    stock::reversePurchaseReceiptStock(session(), number);
+    stock::reversePurchaseReceiptStock(session(), receiptHeader(number));
 }
 
 qint64 StockTest::postSale(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "stock/ledger.h"
+#include "stock/movement.h"
 #include "stock/stores.h"
 #include "tests/support/accountset.h"
 
@@ -46,6 +47,8 @@ protected:
     void addSaleLines(const QString &number, const QList<Line> &lines);
     void addReturnLines(const QString &number, const QList<Line> &lines);
 
+    // The receipt's header as its check hands it to the stock posting.
+    stock::PostingHeader receiptHeader(const QString &number);
     // Posts through the engine's steps, each in its own transaction.
     int postReceipt(const QString &number);
     void reverseReceipt(const QString &number);

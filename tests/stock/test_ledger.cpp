@@ -19,10 +19,12 @@ void PrintTo(const StepCase &c, std::ostream *os)
     *os << c.name;
 }
 
-const stock::RunningState tenAtTen { 10, 10, 100 };
+const stock::RunningState tenAtTen = stock::openingAfter(10, 10, 100);
+// Ten left after a sale of five, in a run whose receipts so far were 10 costing 100.
+const stock::RunningState fiveOfARun { 5, 10, 50, 10, 100 };
 
 // Each kind against 10 in stock at 10: whether it adds or subtracts, whether it sets the average
-// (some only when they add), and what it carries.
+// (some only when they add), and what it carries (subtracting kinds carry nothing).
 const StepCase stepCases[] = {
     { "cj_sets", tenAtTen, { "cj", 5, 60, 12 }, 5, 60, 15, 10.67, 160.05 },
     { "ct_negative_sets", tenAtTen, { "ct", -5, -60, 12 }, -5, -60, 5, 8, 40 },
@@ -35,17 +37,24 @@ const StepCase stepCases[] = {
     { "bs_keeps", tenAtTen, { "bs", -2, -30, 15 }, -2, -30, 8, 10, 80 },
     { "by_keeps", tenAtTen, { "by", 2, 30, 15 }, 2, 30, 12, 10, 120 },
     { "hh_keeps", tenAtTen, { "hh", 2, 30, 15 }, 2, 30, 12, 10, 120 },
-    { "xs_subtracts_at_average", tenAtTen, { "xs", 4, 48, 12 }, -4, -40, 6, 10, 60 },
-    { "xt_negative_adds_back", tenAtTen, { "xt", -4, -48, 12 }, 4, 40, 14, 10, 140 },
-    { "jh_subtracts", tenAtTen, { "jh", 4, 48, 12 }, -4, -40, 6, 10, 60 },
-    { "dh_subtracts", tenAtTen, { "dh", 1, 0, 0 }, -1, -10, 9, 10, 90 },
+    { "xs_subtracts_at_average", tenAtTen, { "xs", 4, 48, 12 }, 0, 0, 6, 10, 60 },
+    { "xt_negative_adds_back", tenAtTen, { "xt", -4, -48, 12 }, 0, 0, 14, 10, 140 },
+    { "jh_subtracts", tenAtTen, { "jh", 4, 48, 12 }, 0, 0, 6, 10, 60 },
+    { "dh_subtracts", tenAtTen, { "dh", 1, 0, 0 }, 0, 0, 9, 10, 90 },
     { "unknown_kind_ignored", tenAtTen, { "zz", 4, 48, 12 }, 0, 0, 10, 10, 100 },
-    // Receipt into negative stock: the average starts afresh from the row.
-    { "receipt_into_negative", { -5, 10, -50 }, { "cj", 10, 120, 12 }, 10, 120, 5, 12, 60 },
-    { "receipt_to_exactly_zero", { -10, 10, -100 }, { "cj", 10, 150, 15 }, 10, 150, 0, 15, 0 },
+    // The sums of the run, not the stock left, are what the average is taken over.
+    { "receipt_after_a_sale_of_the_run", fiveOfARun, { "cj", 10, 160, 16 }, 10, 160, 15, 13, 195 },
+    // Receipt into negative stock: the sums are taken absolute and go on.
+    { "receipt_into_negative", stock::openingAfter(-5, 10, -50), { "cj", 10, 120, 12 }, 10, 120, 5,
+        11.33, 56.65 },
+    { "receipt_into_negative_of_a_run", { -5, 10, -50, 10, 100 }, { "cj", 10, 120, 12 }, 10, 120, 5,
+        11, 55 },
+    { "receipt_to_exactly_zero", stock::openingAfter(-10, 10, -100), { "cj", 10, 150, 15 }, 10, 150,
+        0, 15, 0 },
     { "return_of_everything", tenAtTen, { "ct", -10, -120, 12 }, -10, -120, 0, 10, 0 },
-    { "sale_before_any_receipt", { 0, 7.5, 0 }, { "xs", 3, 30, 10 }, -3, -22.5, -3, 7.5, -22.5 },
-    { "exact_half_rounds_up", { 0, 0, 0 }, { "cj", 8, 1, 0.125 }, 8, 1, 8, 0.13, 1.04 },
+    { "sale_before_any_receipt", stock::openingAfter(0, 7.5, 0), { "xs", 3, 30, 10 }, 0, 0, -3, 7.5,
+        -22.5 },
+    { "exact_half_rounds_up", {}, { "cj", 8, 1, 0.125 }, 8, 1, 8, 0.13, 1.04 },
 };
 
 class LedgerStepTest : public ::testing::TestWithParam<StepCase>
@@ -81,13 +90,6 @@ class RerunTest : public StockTest
 protected:
     const QString amoxil = QStringLiteral("200001");
 
-    // Every running column from gl_kdrq >= date on is made wrong, so only a rerun can set them.
-    void scrambleFrom(const QString &date)
-    {
-        db().exec(QStringLiteral("update jxc_goodslist set gl_sqsl=-7,gl_sqje=-7,gl_kc=-7,"
-                                 "gl_pjjj=-7,gl_kczje=-7 where gl_kdrq>=?"),
-            { date });
-    }
     // A ledger of every sort of row, with two rows on one day.
     QList<qint64> buildMixedLedger()
     {
@@ -112,7 +114,7 @@ TEST_F(RerunTest, MovingAverageAfterPurchaseSaleAndPurchase)
     postSale("XS250302", "2025-03-02", { amoxil, 4, 15 });
     postReceipt("CJ250303");
     EXPECT_EQ(runningColumns(amoxil),
-        (QStringList { "cj 10 100 10 10 100", "xs -4 -40 6 10 60", "cj 6 72 12 11 132" }));
+        (QStringList { "cj 10 100 10 10 100", "xs 0 0 6 10 60", "cj 6 72 12 11 132" }));
     EXPECT_EQ(
         number("select kc_cbj from jxc_kcsp where g_sn=? and ck_sn=?", { amoxil, "100001" }), 11);
 }
@@ -126,8 +128,8 @@ TEST_F(RerunTest, BackdatedRowRewritesEveryLaterRowAndNoEarlierOne)
     db().exec("update jxc_goodslist set gl_sqje=999 where gl_kdrq='2025-01-01' or ck_sn='100002'");
     postRow("cj", "2025-01-02", amoxil, 10, 130, 13);
     EXPECT_EQ(runningColumns(amoxil),
-        (QStringList { "cj 10 999 10 10 100", "cj 10 130 20 11.5 230", "xs -4 -46 16 11.5 184",
-            "cj 6 72 22 11.64 256.08" }));
+        (QStringList { "cj 10 999 10 10 100", "cj 10 130 20 11.5 230", "xs 0 0 16 11.5 184",
+            "cj 6 72 22 11.62 255.64" }));
     EXPECT_EQ(runningColumns(amoxil, "100002"), QStringList { "cj 1 999 1 1 1" });
 }
 
@@ -138,40 +140,75 @@ TEST_F(RerunTest, RowsOfOneDateRunInIdOrder)
     postRow("cj", "2025-01-02", amoxil, 10, 160, 16);
     postRow("xs", "2025-01-02", amoxil, 3, 45, 15);
     EXPECT_EQ(runningColumns(amoxil),
-        (QStringList { "cj 10 100 10 10 100", "xs -5 -50 5 10 50", "cj 10 160 15 14 210",
-            "xs -3 -42 12 14 168" }));
+        (QStringList {
+            "cj 10 100 10 10 100", "xs 0 0 5 10 50", "cj 10 160 15 13 195", "xs 0 0 12 13 156" }));
 }
 
 TEST_F(RerunTest, FirstRowOfAWarehouseStartsFromTheGoodsAverage)
 {
     db().exec("update jxc_goods set g_pjjj=7.5 where g_sn=?", { amoxil });
     postRow("xs", "2025-01-01", amoxil, 3, 30, 10);
-    EXPECT_EQ(runningColumns(amoxil), QStringList { "xs -3 -22.5 -3 7.5 -22.5" });
+    EXPECT_EQ(runningColumns(amoxil), QStringList { "xs 0 0 -3 7.5 -22.5" });
 }
 
-class RerunFromAnyRow : public RerunTest, public ::testing::WithParamInterface<int>
+// Receipt 10 at 10, sale 5, receipt 10 at 16 on one day: the average is what the receipts of the
+// run cost together, 260 / 20 = 13, not the stock left valued at the old average plus the new
+// receipt ((50 + 160) / 15 = 14).
+TEST_F(RerunTest, OneDayAveragesTheReceiptsOfTheRun)
 {
-};
-
-TEST_P(RerunFromAnyRow, WritesTheSameRowsAsARerunFromTheFirst)
-{
-    const QList<qint64> ids = buildMixedLedger();
-    scrambleFrom("2025-01-01");
-    stock::rerunLedger(session(), ids.first(), false);
-    const QStringList expected = runningColumns(amoxil);
-    const qint64 start = ids.at(GetParam());
-    scrambleFrom(db().firstText("select gl_kdrq from jxc_goodslist where id=?", { start }));
-    const stock::RerunSummary summary = stock::rerunLedger(session(), start, false);
-    EXPECT_TRUE(summary.found);
-    EXPECT_EQ(runningColumns(amoxil), expected);
-    EXPECT_EQ(expected.last(), "ct -3 -39 2 11.75 23.5");
+    postRow("cj", "2025-01-02", amoxil, 10, 100, 10);
+    postRow("xs", "2025-01-02", amoxil, 5, 75, 15);
+    postRow("cj", "2025-01-02", amoxil, 10, 160, 16);
+    EXPECT_EQ(runningColumns(amoxil),
+        (QStringList { "cj 10 100 10 10 100", "xs 0 0 5 10 50", "cj 10 160 15 13 195" }));
 }
 
-INSTANTIATE_TEST_SUITE_P(StartRows, RerunFromAnyRow, ::testing::Range(0, 10));
+// Receipt 10 at 10 (day 1), sale 4 (day 2), receipt 4 at 14 (day 3). Each posting reruns from its
+// own day, so day 3 starts from the sale's 6 valued 60: 116 / 10 = 11.60. A rerun from day 1
+// carries both receipts: 156 / 14 = 11.14, and 11.14 x 10 = 111.40. A rerun from day 3's row
+// alone starts from the sale's row again and gives 11.60 once more.
+TEST_F(RerunTest, TheAverageDependsOnWhereTheRerunStarts)
+{
+    const qint64 first = postRow("cj", "2025-01-01", amoxil, 10, 100, 10);
+    postRow("xs", "2025-01-02", amoxil, 4, 60, 15);
+    const qint64 last = postRow("cj", "2025-01-03", amoxil, 4, 56, 14);
+    EXPECT_EQ(runningColumns(amoxil).last(), "cj 4 56 10 11.6 116");
+    stock::rerunLedger(session(), first, false);
+    EXPECT_EQ(runningColumns(amoxil),
+        (QStringList { "cj 10 100 10 10 100", "xs 0 0 6 10 60", "cj 4 56 10 11.14 111.4" }));
+    stock::rerunLedger(session(), last, false);
+    EXPECT_EQ(runningColumns(amoxil).last(), "cj 4 56 10 11.6 116");
+}
 
+// The same rows posted newest first: the backdated receipt of day 1 reruns every later row from
+// an empty opening and gives what a rerun from day 1 gives.
+TEST_F(RerunTest, BackdatedReceiptRerunsTheLaterRowsFromItsOwnOpening)
+{
+    postRow("cj", "2025-01-03", amoxil, 4, 56, 14);
+    postRow("xs", "2025-01-02", amoxil, 4, 60, 15);
+    EXPECT_EQ(runningColumns(amoxil), (QStringList { "xs 0 0 -4 0 0", "cj 4 56 0 14 0" }));
+    postRow("cj", "2025-01-01", amoxil, 10, 100, 10);
+    EXPECT_EQ(runningColumns(amoxil),
+        (QStringList { "cj 10 100 10 10 100", "xs 0 0 6 10 60", "cj 4 56 10 11.14 111.4" }));
+}
+
+// Receipt 10 at 10, sale 15, receipt 10 at 12 on one day: the stock was negative before the
+// second receipt, so the sums are taken absolute and go on (not restarted): 220 / 20 = 11.
+TEST_F(RerunTest, StockCrossingZeroKeepsTheSumsOfTheRun)
+{
+    postRow("cj", "2025-01-02", amoxil, 10, 100, 10);
+    postRow("xs", "2025-01-02", amoxil, 15, 225, 15);
+    postRow("cj", "2025-01-02", amoxil, 10, 120, 12);
+    EXPECT_EQ(runningColumns(amoxil),
+        (QStringList { "cj 10 100 10 10 100", "xs 0 0 -5 10 -50", "cj 10 120 5 11 55" }));
+}
+
+// Without the excluded row the rerun writes what a rerun from the same opening writes when the
+// row was never there.
 TEST_F(RerunTest, ExcludedRowIsLeftOutAndLeftAlone)
 {
-    buildMixedLedger();
+    const QList<qint64> ids = buildMixedLedger();
+    stock::rerunLedger(session(), ids.at(3), false);
     const QStringList before = runningColumns(amoxil);
     const qint64 extra = postRow("cj", "2025-01-04", amoxil, 10, 200, 20);
     db().exec("update jxc_goodslist set gl_kczje=555 where id=?", { extra });

@@ -129,7 +129,7 @@ TEST_F(TransferTest, UncheckAfterASaleInTheReceivingWarehouseChecksItsBatch)
     EXPECT_EQ(rows("select ck_sn,t_sl from jxc_tkc where g_sn=? order by ck_sn", { amoxil }),
         (QStringList { "100001|20", "100002|-2" }));
     EXPECT_EQ(runningColumns(amoxil, branch),
-        (QStringList { "cj 10 150 10 15 150", "xs -12 -180 -2 15 -30" }));
+        (QStringList { "cj 10 150 10 15 150", "xs 0 0 -2 15 -30" }));
 }
 
 TEST_F(TransferTest, StatusIsReadBeforeAndInsideTheTransaction)
