@@ -49,6 +49,18 @@ void copyWithWal(const QString &from, const QString &to)
     }
 }
 
+// Renames the administrator in a commit that stays in the file's WAL while the returned
+// connection is open.
+std::unique_ptr<Connection> renameAdminInWal(const QString &path, const QString &name)
+{
+    auto connection = Connection::openSqlite(path);
+    connection->execDirect(QStringLiteral("pragma wal_autocheckpoint=0"));
+    connection->beginWrite();
+    connection->exec(QStringLiteral("update jxc_admin set a_name=?"), { name });
+    connection->commitWrite();
+    return connection;
+}
+
 } // namespace
 
 // A master file and the account set 100001 beside it, both closed when a test begins.
@@ -252,11 +264,7 @@ TEST_F(DamagedFiles, AStrayWalOfAnotherSetIsNotReplayedButTheSetsOwnIs)
     const QString secondPath = QDir(folder()).filePath(QStringLiteral("jxc_100002.db"));
     const QString crashed = QDir(folder()).filePath(QStringLiteral("crashed.db"));
     {
-        auto other = Connection::openSqlite(secondPath);
-        other->execDirect(QStringLiteral("pragma wal_autocheckpoint=0"));
-        other->beginWrite();
-        other->exec(QStringLiteral("update jxc_admin set a_name=?"), { QStringLiteral("别家") });
-        other->commitWrite();
+        const auto other = renameAdminInWal(secondPath, QStringLiteral("别家"));
         // the other set's WAL as it stands while that set is in use
         ASSERT_TRUE(
             QFile::copy(secondPath + QStringLiteral("-wal"), setPath + QStringLiteral("-wal")));
@@ -289,11 +297,7 @@ TEST_F(DamagedFiles, ANewSetOrMasterFileNeverPicksUpAStaleWal)
 {
     const QString stale = QDir(folder()).filePath(QStringLiteral("jxc_100002.db"));
     {
-        auto set = Connection::openSqlite(setPath);
-        set->execDirect(QStringLiteral("pragma wal_autocheckpoint=0"));
-        set->beginWrite();
-        set->exec(QStringLiteral("update jxc_admin set a_name=?"), { QStringLiteral("旧帐套") });
-        set->commitWrite();
+        const auto set = renameAdminInWal(setPath, QStringLiteral("旧帐套"));
         ASSERT_TRUE(QFile::copy(setPath + QStringLiteral("-wal"), stale + QStringLiteral("-wal")));
     }
     const QByteArray staleWal = contentOf(stale + QStringLiteral("-wal"));
