@@ -170,9 +170,9 @@ QString quotationWorkEmpty()
     return QStringLiteral("没有选择报价的商品！");
 }
 
-QString priceNotNumber(const QString &text)
+QString quotedPriceField()
 {
-    return QStringLiteral("报价“%1”不是有效的数字！").arg(text);
+    return QStringLiteral("报价");
 }
 
 QString saleCheckedLog(const QString &number, int goodsCount)

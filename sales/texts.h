@@ -49,7 +49,7 @@ QString checkHookOk();
 QString quotationGoodsRefused(const QString &goods);
 QString quotationMissing(qint64 id);
 QString quotationWorkEmpty();
-QString priceNotNumber(const QString &text);
+QString quotedPriceField(); // "报价", as number refusals name it
 
 // Log lines
 QString saleCheckedLog(const QString &number, int goodsCount);
