@@ -11,7 +11,6 @@
 
 #include <QSqlQuery>
 
-
 namespace medistock::sales {
 
 namespace {
