@@ -73,6 +73,19 @@ bool isBusy(const QSqlError &error)
     return code == Busy || code == Locked;
 }
 
+// Whether a connection of this process has the SQLite file open.
+bool openInThisProcess(const QString &path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    for (const QString &name : QSqlDatabase::connectionNames()) {
+        const QSqlDatabase db = QSqlDatabase::database(name, false);
+        if (db.isOpen() && db.driverName() == QLatin1String("QSQLITE")
+            && QFileInfo(db.databaseName()).canonicalFilePath() == file)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 void Connection::fail(const QSqlError &error)
@@ -138,8 +151,10 @@ Connection::~Connection()
 
 std::unique_ptr<Connection> Connection::openSqlite(const QString &path)
 {
-    // A file that is there is checked before anything may write to it; a new one is made.
-    if (QFileInfo(path).exists()) {
+    // A file that is there is checked before anything may write to it; a new one is made. A file
+    // this process has open already was checked then; reading its bytes again would even do
+    // harm, as closing any handle on it drops the locks SQLite holds on it for this process.
+    if (QFileInfo(path).exists() && !openInThisProcess(path)) {
         QString refusal = inspectDatabaseFile(path);
         if (refusal.isEmpty())
             refusal = verifyDatabaseFile(path);

@@ -6,7 +6,8 @@
 // Prints "ready" once it has opened the file and logged in, then one line per operation that
 // ended ("done", "refused" or "failed", the number and the message), and at the end "busy N", the
 // statements that gave up busy and were tried again. SECONDS 0 runs until killed. Exits 0 when it
-// ran its time, 2 when the file could not be opened.
+// ran its time, 2 when the file could not be opened. MEDISTOCK_BUSY_TIMEOUT (milliseconds)
+// shortens the busy timeout, to watch the retries at work.
 #include "core/clock.h"
 #include "core/connection.h"
 #include "core/dberror.h"
@@ -60,6 +61,8 @@ int main(int argc, char *argv[])
         out << "failed open " << error.message() << Qt::endl;
         return 2;
     }
+    if (qEnvironmentVariableIsSet("MEDISTOCK_BUSY_TIMEOUT"))
+        connection->setBusyTimeout(qEnvironmentVariableIntValue("MEDISTOCK_BUSY_TIMEOUT"));
     core::ScriptedInteraction ui(true);
     auto session = shell::openSession(*connection, ui, core::Clock(QDate(2025, 3, 14)),
         QStringLiteral("admin"), QString(), core::LoginMode::Script);
