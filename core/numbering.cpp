@@ -98,8 +98,10 @@ QList<QPair<QString, QString>> extraNumberSources(const QString &prefix)
     if (prefix == QLatin1String("XS"))
         return { { QStringLiteral("jxc_posxssp"), QStringLiteral("gl_djh") },
             { QStringLiteral("jxc_lsxssptemp"), QStringLiteral("gl_djh") } };
+    // The till keeps its returns with its sales.
     if (prefix == QLatin1String("XT"))
-        return { { QStringLiteral("jxc_posthsp"), QStringLiteral("gl_djh") } };
+        return { { QStringLiteral("jxc_posthsp"), QStringLiteral("gl_djh") },
+            { QStringLiteral("jxc_posxssp"), QStringLiteral("gl_djh") } };
     if (prefix == QLatin1String("YF") || prefix == QLatin1String("FK")
         || prefix == QLatin1String("YS") || prefix == QLatin1String("SK"))
         return { { QStringLiteral("jxc_ysyfk_dj"), QStringLiteral("gl_djh") } };
@@ -183,7 +185,7 @@ Result<bool> isNumberTaken(Connection &connection, const QString &table, const Q
     if (prefix == QLatin1String("XS"))
         workTables = { QStringLiteral("jxc_lsxssptemp"), QStringLiteral("jxc_posxssp") };
     else if (prefix == QLatin1String("XT"))
-        workTables = { QStringLiteral("jxc_posthsp") };
+        workTables = { QStringLiteral("jxc_posthsp"), QStringLiteral("jxc_posxssp") };
     for (const QString &work : workTables)
         if (connection.exists(
                 QStringLiteral("select gl_djh as sn from %1 where gl_djh=?").arg(work), { number }))

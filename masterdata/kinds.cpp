@@ -95,6 +95,15 @@ constexpr Reference supplierTypeReferences[]
     = { { "jxc_ghsxx", "gt_name", "供货商资料", nullptr, true } };
 constexpr Reference zoneReferences[] = { { "jxc_khxx", "z_name", "客户资料", nullptr, true },
     { "jxc_ghsxx", "z_name", "供货商资料", nullptr, true } };
+constexpr Reference memberReferences[] = {
+    { "jxc_posxsd", "hy_sn", "POS销售单" },
+    { "jxc_hyxf", "hy_sn", "会员充值" },
+    { "jxc_dhd", "hy_sn", "赠品兑换单" },
+    { "jxc_lsxsd", "hy_sn", "销售单" },
+    { "jxc_xsthd", "hy_sn", "销售退货单" },
+};
+constexpr Reference memberLevelReferences[] = { { "jxc_hyxx", "hl_sn", "会员资料" } };
+constexpr Reference discountSchemeReferences[] = { { "jxc_hyxx", "hh_sn", "会员资料" } };
 constexpr Reference expenseTypeReferences[]
     = { { "jxc_yyfy", "fy_lx", "费用及收入", nullptr, true } };
 
@@ -105,7 +114,7 @@ constexpr const char *supplierDates[] = { "ghs_yyrq", "ghs_xkrq", "ghs_gsprq", "
 constexpr const char *memberDates[] = { "hy_jrrq", "hy_dqrq", "hy_sr" };
 
 constexpr const char *goodsSearch[] = { "g_sptm", "g_tym" };
-constexpr const char *memberSearch[] = { "hy_bh", "hy_mobile" };
+constexpr const char *memberSearch[] = { "hy_bh", "hy_mobile", "hy_tele" };
 
 constexpr ColumnDefault goodsDefaults[]
     = { { "g_zhxs", "1" }, { "g_dzll", "1" }, { "gc_sn", "1000" }, { "ghs_sn", "100001" } };
@@ -127,7 +136,12 @@ constexpr MasterKind kinds[] = {
     { "employee", "员工", 4, "jxc_user", "u_sn", "u_name", "员工姓名", "u_jm", "u_jy", false, {},
         employeeReferences, {}, employeeDefaults },
     { "member", "会员", 10, "jxc_hyxx", "hy_sn", "hy_name", "会员姓名", "hy_jm", nullptr, false,
-        memberDates, {}, memberSearch, memberDefaults },
+        memberDates, memberReferences, memberSearch, memberDefaults },
+    // Levels keep their bounds apart (members/levels.h); the list serves lookups and deletion.
+    { "member-level", "会员等级", 10, "jxc_hyfl", "hl_sn", "hl_name", "会员等级", nullptr, nullptr,
+        true, {}, memberLevelReferences, {} },
+    { "discount-scheme", "优惠方式", 10, "jxc_hyyh", "hh_sn", "hh_name", "优惠方式", nullptr,
+        nullptr, true, {}, discountSchemeReferences, {} },
     { "unit", "单位", 1, "jxc_dw", "dw_sn", "dw_name", "单位名称", nullptr, nullptr, true, {},
         unitReferences, {} },
     { "packsize", "规格", 1, "jxc_ggxh", "gg_sn", "gg_name", "规格型号", nullptr, nullptr, true, {},

@@ -87,7 +87,7 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
     const accounts::MoneyHeader header = readPostedHeader(session, kind, number);
     postMoney(session, kind, header, writtenOff);
     const int goods = postSaleStock(session, postingHeader(header));
-    memberPointsNotKeptYet(session, number, MemberEvent::SaleChecked);
+    postMemberEffects(session, number, MemberEvent::SaleChecked);
     session.log(texts::saleCheckedLog(number, goods));
     transaction.commit();
     return Outcome::done();
@@ -117,7 +117,7 @@ Outcome unpost(shell::Session &session, const CheckRow &row)
         return checked;
     documents::removeUncheckedCopies(session, kind.entry, number);
     reverseSaleStock(session, reversalHeader(row));
-    memberPointsNotKeptYet(session, number, MemberEvent::SaleUnchecked);
+    postMemberEffects(session, number, MemberEvent::SaleUnchecked);
     deletePosRows(session, number);
     markUnchecked(session, kind, number);
     accounts::removeDocumentPostings(session, number);

@@ -92,7 +92,7 @@ Outcome post(shell::Session &session, const QString &number, const CheckRow &row
         postMoney(session, kind, header);
         const int goods = postReturnStock(session, postingHeader(header));
         countReturnedOnSales(session, number, 1);
-        memberPointsNotKeptYet(session, number, MemberEvent::ReturnChecked);
+        postMemberEffects(session, number, MemberEvent::ReturnChecked);
         session.log(texts::returnCheckedLog(number, goods));
     } else {
         documents::removeUncheckedCopies(session, kind.entry, number);
@@ -134,7 +134,7 @@ Outcome unpost(shell::Session &session, const CheckRow &row)
     documents::removeUncheckedCopies(session, kind.entry, number);
     reverseReturnStock(session, reversalHeader(row));
     freeReturnedSales(session, number);
-    memberPointsNotKeptYet(session, number, MemberEvent::ReturnUnchecked);
+    postMemberEffects(session, number, MemberEvent::ReturnUnchecked);
     deletePosRows(session, number);
     markUnchecked(session, kind, number);
     accounts::removeDocumentPostings(session, number);

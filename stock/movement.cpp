@@ -21,7 +21,8 @@ void moveGoodsAndBatch(const shell::Session &session, const StoreMovement &m, do
         int(sign) * m.sales);
     if (m.goodsAverage)
         refreshGoodsAverage(session, goods, m.price);
-    addBatchStock(session, m.batch, sign * m.physical);
+    if (m.batchStock)
+        addBatchStock(session, m.batch, sign * m.physical);
 }
 
 } // namespace

@@ -51,6 +51,7 @@ struct StoreMovement
     double price = 0; // gl_dj: the cost of a warehouse row created here, and the goods
                       // average when the book quantities sum to zero
     bool goodsStock = true; // a transfer leaves the goods' total alone
+    bool batchStock = true; // a gift redemption names no batch and leaves the batches alone
     bool goodsAverage = false; // purchase rows refresh g_pjjj
 };
 

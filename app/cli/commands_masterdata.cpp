@@ -7,6 +7,8 @@
 #include "masterdata/mnemonic.h"
 #include "masterdata/texts.h"
 #include "masterdata/transfer.h"
+#include "members/import.h"
+#include "members/member.h"
 #include "shell/session.h"
 
 #include <QSqlRecord>
@@ -28,20 +30,6 @@ const MasterKind &kindOrStop(Context &context, const QString &key)
             QStringLiteral("没有这种资料：%1（可用：%2）").arg(key, keys.join(QLatin1Char(' ')))) };
     }
     return *kind;
-}
-
-// "--column value" pairs, named after the table's columns.
-masterdata::Values columnOptions(Context &context, const Args &args)
-{
-    const QStringList arguments = args.positional();
-    masterdata::Values values;
-    for (qsizetype i = 0; i < arguments.size(); i += 2) {
-        if (!arguments.at(i).startsWith(QLatin1String("--")) || i + 1 >= arguments.size())
-            throw Stop { context.usageError(
-                QStringLiteral("请用 --字段名 值 的形式给出资料：") + arguments.at(i)) };
-        values.insert(arguments.at(i).mid(2), arguments.at(i + 1));
-    }
-    return values;
 }
 
 int runAdd(Context &context, Args &args, const char *key)
@@ -110,14 +98,18 @@ int runImport(Context &context, Args &args)
     const QStringList positional = takePositional(context, args, 2, 2);
     const MasterKind &kind = kindOrStop(context, positional[0]);
     shell::Session &session = context.session();
-    const auto planned = masterdata::planImport(session, kind, positional[1]);
+    // Members get their card numbers on the way.
+    const bool isMemberList = &kind == &members::memberKind();
+    const auto planned = isMemberList ? members::planMemberImport(session, positional[1])
+                                      : masterdata::planImport(session, kind, positional[1]);
     const masterdata::ImportPlan &plan = valueOf(planned);
     printPlan(context, plan);
     if (dryRun)
         return ExitDone;
     if (!session.ui().ask(masterdata::texts::importQuestion(plan.accepted(), plan.rejected())))
         return ExitRefused;
-    const int written = valueOf(masterdata::runImport(session, kind, plan));
+    const int written = valueOf(isMemberList ? members::runMemberImport(session, plan)
+                                             : masterdata::runImport(session, kind, plan));
     context.out() << masterdata::texts::imported(written) << Qt::endl;
     return ExitDone;
 }

@@ -5,6 +5,7 @@
 #include "core/login.h"
 #include "core/oplog.h"
 #include "core/transaction.h"
+#include "members/instalments.h"
 #include "shell/company.h"
 #include "shell/logbook.h"
 #include "shell/operators.h"
@@ -76,6 +77,9 @@ int runLogin(Context &context, Args &args)
     context.out()
         << QStringLiteral("登录成功：%1（编号 %2，角色 %3）").arg(who.name, who.code, who.role)
         << Qt::endl;
+    // Top-up gifts that have fallen due reach the cards at every login.
+    const shell::Session session(db, context.interaction(), context.clock(), who);
+    members::releaseInstalmentGifts(session);
     return ExitDone;
 }
 

@@ -96,6 +96,19 @@ void requireNoMore(Context &context, const Args &args)
             QStringLiteral("多余的参数：") + args.positional().join(QLatin1Char(' '))) };
 }
 
+QHash<QString, QVariant> columnOptions(Context &context, const Args &args)
+{
+    const QStringList arguments = args.positional();
+    QHash<QString, QVariant> values;
+    for (qsizetype i = 0; i < arguments.size(); i += 2) {
+        if (!arguments.at(i).startsWith(QLatin1String("--")) || i + 1 >= arguments.size())
+            throw Stop { context.usageError(
+                QStringLiteral("请用 --字段名 值 的形式给出资料：") + arguments.at(i)) };
+        values.insert(arguments.at(i).mid(2), arguments.at(i + 1));
+    }
+    return values;
+}
+
 QStringList takePositional(Context &context, const Args &args, int min, int max)
 {
     if (args.missingValue())

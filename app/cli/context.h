@@ -6,7 +6,9 @@
 #include "core/interaction.h"
 #include "core/outcome.h"
 
+#include <QHash>
 #include <QTextStream>
+#include <QVariant>
 
 #include <memory>
 
@@ -97,6 +99,9 @@ void requireNoMore(Context &context, const Args &args);
 QStringList takePositional(Context &context, const Args &args, int min, int max);
 // A date argument "yyyy-MM-dd", stopping with a usage error when it is not a real date.
 QDate parseDate(Context &context, const QString &text);
+// "--column value" pairs naming a table's columns, as the commands that add rows take them;
+// anything else stops with a usage error.
+QHash<QString, QVariant> columnOptions(Context &context, const Args &args);
 // Stops with the outcome's exit status unless it went through (its message was shown already).
 void require(const Outcome &outcome);
 

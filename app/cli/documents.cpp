@@ -50,9 +50,7 @@ double jsonNumber(Context &context, const QJsonObject &object, const QString &fi
     return number;
 }
 
-namespace {
-
-QJsonObject readDocumentFile(Context &context, const QString &path)
+QJsonObject readJsonFile(Context &context, const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -67,6 +65,8 @@ QJsonObject readDocumentFile(Context &context, const QString &path)
     return document.object();
 }
 
+namespace {
+
 const DocumentKind &kindOf(
     Context &context, const DocumentKinds &kinds, const QString &prefix, const QString &shown)
 {
@@ -79,7 +79,7 @@ const DocumentKind &kindOf(
 int runSave(Context &context, Args &args, const DocumentKinds &kinds)
 {
     const QString path = takePositional(context, args, 1, 1).first();
-    const QJsonObject object = readDocumentFile(context, path);
+    const QJsonObject object = readJsonFile(context, path);
     const QString prefix = object.value(QStringLiteral("kind")).toString();
     const DocumentKind &kind = kindOf(context, kinds, prefix, prefix);
     if (!kind.save)

@@ -48,5 +48,7 @@ void requireKnownFields(Context &context, const QJsonObject &object, const QStri
 QString jsonText(const QJsonObject &object, const QString &field);
 // A number field, given as a JSON number or a numeric text; 0 when absent.
 double jsonNumber(Context &context, const QJsonObject &object, const QString &field);
+// The JSON object a file holds; anything else stops the command with a usage error.
+QJsonObject readJsonFile(Context &context, const QString &path);
 
 } // namespace medistock::cli

@@ -50,6 +50,8 @@ void addStockCommands(Registry &registry);
 // The purchase receipt "CJ" and return "CT" in the document registry.
 void addPurchasingCommands(Registry &registry);
 void addSalesCommands(Registry &registry);
+// Members, points, top-ups, gifts and the till's documents.
+void addMembersCommands(Registry &registry);
 
 // Parses the global options, runs the command and returns the exit status.
 int runCli(

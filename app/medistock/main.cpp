@@ -9,6 +9,7 @@
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/masterdata/registration.h"
+#include "ui/members/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -40,6 +41,7 @@ void registerScreens(ui::ScreenRegistry &registry)
 {
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerMemberScreens(registry);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 // program can be seen without a display. Runs on the offscreen platform unless another one is
 // chosen.
 #include "app/screenshots/masterdata.h"
+#include "app/screenshots/members.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -16,6 +17,7 @@
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/masterdata/registration.h"
+#include "ui/members/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -230,6 +232,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::ScreenRegistry registry;
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerMemberScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -251,8 +254,9 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shooter.shoot(&company, QStringLiteral("11-company"));
     company.hide();
 
-    shootMasterData([&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); },
-        window, workspace, scratch);
+    const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
+    shootMasterData(shoot, window, workspace, scratch);
+    shootMembers(shoot, window, workspace, scratch);
 }
 
 } // namespace

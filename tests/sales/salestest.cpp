@@ -122,17 +122,7 @@ QString SalesTest::saveOrder(const sales::SaleDraft &draft)
 QStringList SalesTest::rows(
     const QString &table, const QString &columns, const QString &where, const QVariantList &params)
 {
-    QStringList lines;
-    const QString sql
-        = QStringLiteral("select %1 from %2%3 order by id")
-              .arg(columns, table, where.isEmpty() ? QString() : QStringLiteral(" where ") + where);
-    for (const QSqlRecord &row : db().rows(sql, params)) {
-        QStringList values;
-        for (int i = 0; i < row.count(); ++i)
-            values.append(row.value(i).toString());
-        lines.append(values.join(QLatin1Char('|')));
-    }
-    return lines;
+    return tableRows(db(), table, columns, where, params);
 }
 
 double SalesTest::balance(const QString &customer)
@@ -150,20 +140,6 @@ double SalesTest::partyFigure(const QString &customer)
 QString SalesTest::snapshot()
 {
     return dumpDatabase(db(), { QStringLiteral("jxc_log"), QStringLiteral("sqlite_sequence") });
-}
-
-QStringList differences(const QString &before, const QString &after)
-{
-    const QStringList a = before.split(QLatin1Char('\n'));
-    const QStringList b = after.split(QLatin1Char('\n'));
-    QStringList changed;
-    for (const QString &line : a)
-        if (!b.contains(line))
-            changed.append(QStringLiteral("-") + line);
-    for (const QString &line : b)
-        if (!a.contains(line))
-            changed.append(QStringLiteral("+") + line);
-    return changed;
 }
 
 } // namespace medistock::test

@@ -40,8 +40,4 @@ protected:
     QString snapshot();
 };
 
-// The lines of two snapshots that differ, each marked "-" (only before) or "+" (only after);
-// empty when they are equal.
-QStringList differences(const QString &before, const QString &after);
-
 } // namespace medistock::test

@@ -107,4 +107,34 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
     return dump;
 }
 
+QStringList tableRows(core::Connection &connection, const QString &table, const QString &columns,
+    const QString &where, const QVariantList &params)
+{
+    QStringList lines;
+    const QString sql
+        = QStringLiteral("select %1 from %2%3 order by id")
+              .arg(columns, table, where.isEmpty() ? QString() : QStringLiteral(" where ") + where);
+    for (const QSqlRecord &row : connection.rows(sql, params)) {
+        QStringList values;
+        for (int i = 0; i < row.count(); ++i)
+            values.append(row.value(i).toString());
+        lines.append(values.join(QLatin1Char('|')));
+    }
+    return lines;
+}
+
+QStringList differences(const QString &before, const QString &after)
+{
+    const QStringList a = before.split(QLatin1Char('\n'));
+    const QStringList b = after.split(QLatin1Char('\n'));
+    QStringList changed;
+    for (const QString &line : a)
+        if (!b.contains(line))
+            changed.append(QStringLiteral("-") + line);
+    for (const QString &line : b)
+        if (!a.contains(line))
+            changed.append(QStringLiteral("+") + line);
+    return changed;
+}
+
 } // namespace medistock::test

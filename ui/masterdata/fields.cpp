@@ -38,7 +38,16 @@ constexpr Lookup lookups[] = {
     { "kt_sn", "customer-type", "kt_sn", "kt_name", "kt_name", false },
     { "ck_sn", "warehouse", "ck_sn", "ck_name", "ck_name", false },
     { "ghs_sn", "supplier", "ghs_sn", "ghs_name", nullptr, false },
+    { "hl_sn", "member-level", "hl_sn", "hl_name", nullptr, false },
+    { "hh_sn", "discount-scheme", "hh_sn", "hh_name", nullptr, false },
 };
+
+// Columns that must name a row: their drop-down offers no empty choice.
+bool requiresRow(const QString &column)
+{
+    return column == QLatin1String("ghs_sn") || column == QLatin1String("hl_sn")
+        || column == QLatin1String("hh_sn");
+}
 
 // A list's own code and name columns are typed, never looked up in itself.
 const Lookup *lookupOf(const masterdata::MasterKind &kind, const QString &column)
@@ -199,7 +208,7 @@ QWidget *FieldSet::createLookup(const QString &column, QWidget *parent)
     auto *box = new LookupBox(lookup.editable, parent);
     if (column == QLatin1String("ck_sn"))
         box->addChoice(mdtexts::allWarehouses, QStringLiteral("-1"));
-    else if (!lookup.pair && column != QLatin1String("ghs_sn"))
+    else if (!lookup.pair && !requiresRow(column))
         box->addChoice(QString(), QString());
     const masterdata::MasterKind &list
         = *masterdata::findMasterKind(QString::fromLatin1(lookup.list));

@@ -113,6 +113,41 @@ ListForm employeeForm()
     };
 }
 
+ListForm memberForm()
+{
+    return {
+        names({ "hy_sn", "hy_bh", "hy_name", "hy_jm", "hl_name", "hy_mobile", "hy_jf", "hy_zjf",
+            "hy_zhje", "hy_zje", "hy_cs", "hy_sr", "hy_jrrq", "hy_sj", "hy_status" }),
+        { { mdtexts::basicPage,
+              names({ "hy_sn", "hy_bh", "hy_name", "hy_jm", "hl_sn", "hh_sn", "hy_sex", "hy_sr",
+                  "hy_mobile", "hy_tele", "hy_email", "hy_jrrq", "hy_dqrq", "hy_zjlx", "hy_zjhm",
+                  "hy_dwzy", "hy_address", "hy_note", "hy_sj", "hy_status" }),
+              {} },
+            { mdtexts::memberFiguresPage,
+                names({ "hy_jf", "hy_zjf", "hy_zhje", "hy_zje", "hy_cs", "hy_ye" }), {} } },
+        names({ "hy_jf", "hy_zjf", "hy_zhje", "hy_zje", "hy_cs", "hy_ye" }),
+        names({ "discount-scheme" }),
+    };
+}
+
+// A member's columns whose schema label says something else on the member screens.
+QString memberCaption(const QString &column)
+{
+    if (column == QLatin1String("hl_sn") || column == QLatin1String("hl_name"))
+        return mdtexts::memberLevel;
+    if (column == QLatin1String("hh_sn"))
+        return labelOf("jxc_hyyh", "hh_name");
+    if (column == QLatin1String("hy_bh"))
+        return mdtexts::memberCard;
+    if (column == QLatin1String("hy_cs"))
+        return mdtexts::memberVisits;
+    if (column == QLatin1String("hy_status"))
+        return mdtexts::memberCardActive;
+    if (column == QLatin1String("hy_ye"))
+        return mdtexts::memberRemainder;
+    return QString();
+}
+
 // A small list shows its labelled columns, its mnemonic and, for expense types, the direction.
 ListForm smallListForm(const masterdata::MasterKind &kind)
 {
@@ -142,6 +177,8 @@ ListForm formOf(const masterdata::MasterKind &kind)
         return warehouseForm();
     if (key == QLatin1String("employee"))
         return employeeForm();
+    if (key == QLatin1String("member"))
+        return memberForm();
     return smallListForm(kind);
 }
 
@@ -172,6 +209,8 @@ QString captionOf(const masterdata::MasterKind &kind, const QString &column)
         return mdtexts::commissionKind;
     if (column == QLatin1String("fy_fx"))
         return mdtexts::expenseDirection;
+    if (table == QLatin1String("jxc_hyxx") && !memberCaption(column).isEmpty())
+        return memberCaption(column);
     const QString label = labelOf(kind.table, column.toLatin1().constData());
     if (label.isEmpty() && kind.mnemonicColumn && column == QLatin1String(kind.mnemonicColumn))
         return mdtexts::mnemonic;

@@ -40,17 +40,26 @@ QWidget *grouped(const QString &title, QWidget *content, QWidget *parent)
 
 } // namespace
 
-ImportDialog::ImportDialog(
-    const shell::Session &session, const masterdata::MasterKind &kind, QWidget *parent)
+ImportDialog::ImportDialog(const shell::Session &session, const masterdata::MasterKind &kind,
+    QWidget *parent, ImportSteps steps)
     : QDialog(parent)
     , m_session(session)
     , m_kind(kind)
+    , m_steps(std::move(steps))
     , m_file(new QLabel(this))
     , m_mapping(makeGrid({ mdtexts::sheetColumn, mdtexts::fieldColumn }, this))
     , m_rows(makeGrid({ mdtexts::lineColumn, mdtexts::stateColumn }, this))
     , m_summary(new QLabel(this))
     , m_import(new QPushButton(mdtexts::runImport, this))
 {
+    if (!m_steps.plan)
+        m_steps.plan = [&session, &kind](const QString &path) {
+            return masterdata::planImport(session, kind, path);
+        };
+    if (!m_steps.run)
+        m_steps.run = [&session, &kind](const masterdata::ImportPlan &plan) {
+            return masterdata::runImport(session, kind, plan);
+        };
     setWindowTitle(mdtexts::importTitle + QStringLiteral("：") + QString::fromUtf8(kind.label));
     auto *choose = new QPushButton(mdtexts::chooseFile, this);
     auto *close = new QPushButton(mdtexts::close, this);
@@ -95,7 +104,7 @@ bool ImportDialog::load(const QString &path)
     std::optional<BusyIndicator> busy;
     if (QFileInfo(path).size() > largeFileBytes)
         busy.emplace(this, mdtexts::reading);
-    auto planned = masterdata::planImport(m_session, m_kind, path);
+    auto planned = m_steps.plan(path);
     busy.reset();
     if (!planned)
         return false;
@@ -159,7 +168,7 @@ void ImportDialog::confirm()
     std::optional<BusyIndicator> busy;
     if (m_plan.accepted() > largeImportRows)
         busy.emplace(this, mdtexts::writing);
-    const Result<int> written = masterdata::runImport(m_session, m_kind, m_plan);
+    const Result<int> written = m_steps.run(m_plan);
     busy.reset();
     if (!written)
         return;

@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QLabel;
 class QPushButton;
 class QTableWidget;
@@ -14,6 +16,14 @@ class Session;
 
 namespace medistock::ui {
 
+// How a list is read from a file and written: the master list's own import unless a module
+// completes its rows itself (members get card numbers).
+struct ImportSteps
+{
+    std::function<Result<masterdata::ImportPlan>(const QString &path)> plan;
+    std::function<Result<int>(const masterdata::ImportPlan &plan)> run;
+};
+
 // Imports goods, customers or suppliers from a spreadsheet in two steps: loading the file shows
 // how its columns map to fields and every row with the reason it would be rejected, writing
 // nothing; "确认导入" asks once more and then writes every accepted row or none.
@@ -22,7 +32,7 @@ class ImportDialog : public QDialog
     Q_OBJECT
 public:
     ImportDialog(const shell::Session &session, const masterdata::MasterKind &kind,
-        QWidget *parent = nullptr);
+        QWidget *parent = nullptr, ImportSteps steps = {});
 
     // Reads and checks the file; false (the reason told) when it cannot be read.
     bool load(const QString &path);
@@ -42,6 +52,7 @@ private:
 
     const shell::Session &m_session;
     const masterdata::MasterKind &m_kind;
+    ImportSteps m_steps;
     masterdata::ImportPlan m_plan;
     QLabel *m_file;
     QTableWidget *m_mapping;

@@ -124,6 +124,7 @@ QWidget *MasterListScreen::buildButtons()
     auto *box = new QWidget(this);
     auto *row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
+    m_buttonRow = row;
     auto button = [&](const QString &text, void (MasterListScreen::*slot)()) {
         auto *pushButton = new QPushButton(text, box);
         pushButton->setAutoDefault(false);
@@ -178,6 +179,21 @@ void MasterListScreen::setColumnWidths()
             + 24;
         m_grid->setColumnWidth(i, std::max(width, caption));
     }
+}
+
+QPushButton *MasterListScreen::addButton(const QString &text, const std::function<void()> &action)
+{
+    auto *button = new QPushButton(text, this);
+    button->setAutoDefault(false);
+    if (action)
+        connect(button, &QPushButton::clicked, this, action);
+    m_buttonRow->addWidget(button);
+    return button;
+}
+
+ImportSteps MasterListScreen::importSteps()
+{
+    return {};
 }
 
 void MasterListScreen::setSidePanel(QWidget *panel)
@@ -332,7 +348,7 @@ void MasterListScreen::chooseImportFile()
 
 void MasterListScreen::importFrom(const QString &path)
 {
-    ImportDialog dialog(m_workspace.session, m_kind, this);
+    ImportDialog dialog(m_workspace.session, m_kind, this, importSteps());
     if (!dialog.load(path))
         return;
     if (dialog.exec() == QDialog::Accepted)

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "ui/masterdata/importdialog.h"
+
 #include <QList>
 #include <QSqlRecord>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -62,6 +66,11 @@ protected:
     virtual std::unique_ptr<MasterRowDialog> editor(const QString &key);
     // Puts a panel left of the grid.
     void setSidePanel(QWidget *panel);
+    // A further button after the list's own, for what a module does with its rows (no action:
+    // a button that opens the menu the caller gives it).
+    QPushButton *addButton(const QString &text, const std::function<void()> &action);
+    // How the list is imported; the master list's own import by default.
+    virtual ImportSteps importSteps();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     Workspace &m_workspace;
@@ -82,6 +91,7 @@ private:
     QSplitter *m_split;
     QPushButton *m_disable = nullptr;
     QPushButton *m_basicLists = nullptr;
+    QHBoxLayout *m_buttonRow = nullptr;
 };
 
 } // namespace medistock::ui

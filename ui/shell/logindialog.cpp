@@ -3,6 +3,7 @@
 #include "core/interaction.h"
 #include "core/login.h"
 #include "core/schema.h"
+#include "members/instalments.h"
 #include "ui/common/keys.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
@@ -142,6 +143,8 @@ void LoginDialog::logIn()
         return;
     }
     m_session = std::move(opened.value());
+    // Top-up gifts that have fallen due reach the cards at every login.
+    members::releaseInstalmentGifts(*m_session);
     accept();
 }
 
