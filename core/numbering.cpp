@@ -29,7 +29,8 @@ constexpr CodeColumn codeColumns[] = { { "jxc_xtzt", "zt_sn" }, { "jxc_admin", "
     { "jxc_yhzh", "yh_sn" }, { "jxc_khhtgl", "ht_sn" }, { "jxc_fd", "fd_sn" } };
 
 // The document numbers: each kind's prefix with the table (and number column) that keeps it.
-// The money ledger jxc_ysyfk numbers the rows that registrations write under their own kinds.
+// The money ledger jxc_ysyfk numbers the rows that registrations write under their own kinds;
+// the till's sales and returns share XS and XT with the back office's; gifts given away are ZS.
 struct NumberedTable
 {
     const char *prefix;
@@ -51,7 +52,9 @@ constexpr NumberedTable numberedTables[] = { { "CP", "jxc_cgplan", "gl_djh" },
     { "FK", "jxc_ysyfk", "gl_djh" }, { "XJ", "jxc_xjyh", "gl_djh" }, { "XC", "jxc_xjyh", "gl_djh" },
     { "XZ", "jxc_xjyh", "gl_djh" }, { "FY", "jxc_yyfy", "gl_djh" }, { "SR", "jxc_yyfy", "gl_djh" },
     { "DH", "jxc_dhd", "gl_djh" }, { "XF", "jxc_hyxf", "gl_djh" }, { "SM", "jxc_smshy", "gl_djh" },
-    { "CL", "jxc_cljcd", "gl_djh" }, { "JX", "jxc_jxqd", "gl_djh" } };
+    { "CL", "jxc_cljcd", "gl_djh" }, { "JX", "jxc_jxqd", "gl_djh" },
+    { "XS", "jxc_posxsd", "gl_djh" }, { "XT", "jxc_posxsd", "gl_djh" },
+    { "ZS", "jxc_zsd", "gl_djh" } };
 
 QString str(const char *text)
 {
