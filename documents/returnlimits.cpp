@@ -21,6 +21,19 @@ struct SourceLine
     double returnedElsewhere = 0; // by the lines of other returns
 };
 
+// What the lines of returns other than `returnNumber` give back of one source line.
+double returnedElsewhere(core::Connection &db, const ReturnedLines &source, qint64 id2,
+    const QString &goods, const QString &returnNumber)
+{
+    return db
+        .firstValue(
+            QStringLiteral("select sum(%1) from %2 where id2=? and g_sn=? and "
+                           "gl_djh<>?")
+                .arg(QLatin1String(source.returnQuantity), QLatin1String(source.returnLines)),
+            { id2, goods, returnNumber })
+        .toDouble();
+}
+
 std::optional<SourceLine> sourceLine(core::Connection &db, const ReturnedLines &source, qint64 id2,
     const QString &goods, const QString &returnNumber)
 {
@@ -33,14 +46,8 @@ std::optional<SourceLine> sourceLine(core::Connection &db, const ReturnedLines &
         { id2, goods, 1 });
     if (row.isEmpty())
         return std::nullopt;
-    const double returned
-        = db.firstValue(
-                QStringLiteral("select sum(%1) from %2 where id2=? and g_sn=? "
-                               "and gl_djh<>?")
-                    .arg(QLatin1String(source.returnQuantity), QLatin1String(source.returnLines)),
-                { id2, goods, returnNumber })
-              .toDouble();
-    return SourceLine { row.value(0).toString(), row.value(1).toDouble(), returned };
+    return SourceLine { row.value(0).toString(), row.value(1).toDouble(),
+        returnedElsewhere(db, source, id2, goods, returnNumber) };
 }
 
 } // namespace
@@ -65,6 +72,25 @@ Outcome checkReturnedQuantities(const shell::Session &session, ValidDocument &do
                     core::plainNumber(core::roundTo(left, session.params().quantityDecimals()))));
     }
     return Outcome::done();
+}
+
+QList<ReturnableLine> returnableLines(const shell::Session &session, const DocumentKind &sourceKind,
+    const ReturnedLines &source, const QString &sourceNumber, const QString &returnNumber)
+{
+    core::Connection &db = session.db();
+    if (documentStatus(db, sourceKind, sourceNumber) != 1)
+        return {};
+    QList<ReturnableLine> lines;
+    for (const DocumentLineRow &line : documentLines(db, sourceKind, sourceNumber)) {
+        const qint64 id2 = line.stored.value(QStringLiteral("id2")).toLongLong();
+        if (id2 <= 0)
+            continue;
+        const double returned = returnedElsewhere(db, source, id2, line.goods, returnNumber);
+        const double left
+            = core::roundTo(line.baseQuantity - returned, session.params().quantityDecimals());
+        lines.append({ id2, line, returned, std::max(left, 0.0) });
+    }
+    return lines;
 }
 
 } // namespace medistock::documents

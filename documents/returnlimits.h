@@ -2,7 +2,9 @@
 
 #include "core/outcome.h"
 #include "documents/entry.h"
+#include "documents/listing.h"
 
+#include <QList>
 #include <QString>
 
 namespace medistock::shell {
@@ -38,5 +40,20 @@ struct ReturnLimitTexts
 // (id2 0) is not limited. Sets id2 0 on unlinked lines; tells and refuses the first excess.
 Outcome checkReturnedQuantities(const shell::Session &session, ValidDocument &doc,
     const ReturnedLines &source, const ReturnLimitTexts &texts);
+
+// A checked line a return may give back, with what is left of it.
+struct ReturnableLine
+{
+    qint64 lineId = 0; // the source line's id2, which a return line names
+    DocumentLineRow line; // as the source document holds it
+    double returned = 0; // base units other returns (but `returnNumber`) already give back
+    double left = 0; // base units still to return
+};
+
+// The lines of the checked source document `sourceNumber` (read through `sourceKind`) with what
+// other returns than `returnNumber` have taken of each; lines without an identity are left out.
+// Empty when the document is not checked.
+QList<ReturnableLine> returnableLines(const shell::Session &session, const DocumentKind &sourceKind,
+    const ReturnedLines &source, const QString &sourceNumber, const QString &returnNumber = {});
 
 } // namespace medistock::documents

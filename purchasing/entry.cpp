@@ -76,10 +76,6 @@ void setReceiptLineColumns(documents::ColumnValues &columns)
         columns.set(QStringLiteral("id3"), 0);
 }
 
-// A return line gives back what its receipt line still holds.
-const documents::ReturnedLines receiptLines { "jxc_jhd", "j_sn", "j_status", "jxc_jhsp", "j_sn",
-    "jh_zsl", "jxc_thsp", "th_zsl" };
-
 Result<QString> save(const shell::Session &session, const PurchaseKind &kind,
     const PurchaseDraft &draft, bool isReturn)
 {
@@ -101,8 +97,8 @@ Result<QString> save(const shell::Session &session, const PurchaseKind &kind,
             setReceiptLineColumns(doc.discountColumns);
             return Outcome::done();
         }
-        return documents::checkReturnedQuantities(
-            s, doc, receiptLines, { texts::receiptLineMissing, texts::returnExceedsReceipt });
+        return documents::checkReturnedQuantities(s, doc, receiptReturnLinks(),
+            { texts::receiptLineMissing, texts::returnExceedsReceipt });
     };
     return documents::saveDocument(session, kind.entry, draft.entry, rule);
 }

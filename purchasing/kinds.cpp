@@ -110,4 +110,11 @@ const PurchaseKind &purchaseReturn()
     return kind;
 }
 
+const documents::ReturnedLines &receiptReturnLinks()
+{
+    static const documents::ReturnedLines links { "jxc_jhd", "j_sn", "j_status", "jxc_jhsp", "j_sn",
+        "jh_zsl", "jxc_thsp", "th_zsl" };
+    return links;
+}
+
 } // namespace medistock::purchasing

@@ -2,6 +2,7 @@
 
 #include "accounts/postings.h"
 #include "documents/descriptor.h"
+#include "documents/returnlimits.h"
 
 namespace medistock::purchasing {
 
@@ -23,5 +24,8 @@ struct PurchaseKind
 const PurchaseKind &purchaseReceipt();
 // The purchase return "采购退货单": jxc_thd / jxc_thsp, key gl_djh, prefix "CT".
 const PurchaseKind &purchaseReturn();
+
+// How a return line points (id2) to the receipt line it gives back.
+const documents::ReturnedLines &receiptReturnLinks();
 
 } // namespace medistock::purchasing

@@ -75,4 +75,25 @@ QString unknownCheckKindText(const QString &kind)
         + QStringLiteral("（可用 CJ、CT、XS、XT、DB、JH）");
 }
 
+QString ledgerKindText(const QString &kind, double quantity)
+{
+    struct Name
+    {
+        const char *kind;
+        const char *in; // quantity above 0, or any quantity where `out` is null
+        const char *out;
+    };
+    static const Name names[] = { { "qc", "期初数", nullptr }, { "cj", "采购入库单", nullptr },
+        { "ct", "采购退货单", nullptr }, { "xs", "商品销售单", nullptr },
+        { "xt", "顾客退货单", nullptr }, { "pd", "库存盘点单", nullptr },
+        { "db", "库存调拨入库", "库存调拨出库" }, { "bs", "商品报损", nullptr },
+        { "by", "商品报溢", nullptr }, { "cf", "拆分入库", "被拆分出库" },
+        { "kb", "捆绑入库", "被捆绑出库" }, { "hh", "客户还货", nullptr },
+        { "jh", "客户借货", nullptr }, { "dh", "积分换赠品", nullptr } };
+    for (const Name &name : names)
+        if (kind == QLatin1String(name.kind))
+            return QString::fromUtf8(name.out && quantity < 0 ? name.out : name.in);
+    return kind;
+}
+
 } // namespace medistock::stock

@@ -31,4 +31,8 @@ QString unknownWarehouseText(const QString &warehouse);
 // A document kind the batch check does not know.
 QString unknownCheckKindText(const QString &kind);
 
+// What a ledger row is, by its kind gl_flag and the sign of its quantity: "采购入库单",
+// "库存调拨入库" ... The kind itself for one without a name.
+QString ledgerKindText(const QString &kind, double quantity);
+
 } // namespace medistock::stock

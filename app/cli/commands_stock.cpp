@@ -5,6 +5,7 @@
 #include "shell/session.h"
 #include "stock/checks.h"
 #include "stock/costs.h"
+#include "stock/stockquery.h"
 #include "stock/stockview.h"
 #include "stock/texts.h"
 
@@ -139,6 +140,55 @@ int runSettle(Context &context, Args &args)
     return ExitDone;
 }
 
+stock::StockFilter stockFilter(Context &context, Args &args)
+{
+    stock::StockFilter filter;
+    filter.warehouse = args.option(QStringLiteral("--warehouse")).value_or(QString());
+    filter.classCode = args.option(QStringLiteral("--class")).value_or(QString());
+    filter.text = args.option(QStringLiteral("--text")).value_or(QString());
+    filter.inStockOnly = args.flag(QStringLiteral("--in-stock"));
+    if (const auto days = args.option(QStringLiteral("--expiring"))) {
+        bool ok = false;
+        filter.expiringWithinDays = days->toInt(&ok);
+        if (!ok || filter.expiringWithinDays < 0)
+            throw Stop { context.usageError(QStringLiteral("天数应为不小于 0 的整数：") + *days) };
+    }
+    return filter;
+}
+
+int runStockQuery(Context &context, Args &args)
+{
+    const bool batches = args.flag(QStringLiteral("--batches"));
+    const stock::StockFilter filter = stockFilter(context, args);
+    requireNoMore(context, args);
+    shell::Session &session = context.session();
+    QStringList captions { QStringLiteral("商品编号"), QStringLiteral("商品名称"),
+        QStringLiteral("规格"), QStringLiteral("单位"), QStringLiteral("仓库") };
+    if (!batches) {
+        printRow(context,
+            captions
+                + QStringList { QStringLiteral("库存数"), QStringLiteral("帐面库存"),
+                    QStringLiteral("成本价"), QStringLiteral("库存金额") });
+        for (const stock::WarehouseStock &row : stock::stockByWarehouse(session, filter))
+            printRow(context,
+                { row.goods.code, row.goods.name, row.goods.packing, row.goods.unit,
+                    row.goods.warehouseName, num(row.quantity), num(row.book), num(row.cost),
+                    num(row.value) });
+        return ExitDone;
+    }
+    printRow(context,
+        captions
+            + QStringList { QStringLiteral("产品批号"), QStringLiteral("生产日期"),
+                QStringLiteral("有效期至"), QStringLiteral("库存数"), QStringLiteral("成本价"),
+                QStringLiteral("库存金额") });
+    for (const stock::BatchStock &row : stock::stockByBatch(session, filter))
+        printRow(context,
+            { row.goods.code, row.goods.name, row.goods.packing, row.goods.unit,
+                row.goods.warehouseName, row.batch, row.produced, row.expiry, num(row.quantity),
+                num(row.cost), num(row.value) });
+    return ExitDone;
+}
+
 } // namespace
 
 void addStockCommands(Registry &registry)
@@ -147,6 +197,10 @@ void addStockCommands(Registry &registry)
         QStringLiteral("商品的库存：商品合计、各仓库库存、批次库存"), runStock });
     registry.add({ QStringLiteral("ledger"), QStringLiteral("GOODS WAREHOUSE"),
         QStringLiteral("商品在一个仓库的明细帐及其结存"), runLedger });
+    registry.add({ QStringLiteral("stock-query"),
+        QStringLiteral("[--warehouse W] [--class C] [--text T] [--in-stock] [--batches] "
+                       "[--expiring DAYS]"),
+        QStringLiteral("当前库存查询：按仓库或按批次（含近效期筛选）"), runStockQuery });
     registry.add({ QStringLiteral("cost"), QStringLiteral("GOODS WAREHOUSE [DATE]"),
         QStringLiteral("成本价：指定日期的成本价，不指定日期为当前成本价"), runCost });
     registry.add({ QStringLiteral("batch-check"), QStringLiteral("KIND NUMBER WAREHOUSE"),

@@ -10,10 +10,12 @@
 #include "ui/common/workspace.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/purchasing/registration.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/shell/registration.h"
+#include "ui/stock/registration.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -41,6 +43,8 @@ void registerScreens(ui::ScreenRegistry &registry)
 {
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerPurchasingScreens(registry);
+    ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
 }
 

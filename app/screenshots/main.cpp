@@ -2,6 +2,7 @@
 // folder with a few operators, roles, a second account set and example master data, so that the
 // program can be seen without a display. Runs on the offscreen platform unless another one is
 // chosen.
+#include "app/screenshots/documents.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "core/accountsets.h"
@@ -18,6 +19,7 @@
 #include "ui/common/workspace.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
+#include "ui/purchasing/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
 #include "ui/shell/firstusedialog.h"
@@ -28,6 +30,7 @@
 #include "ui/shell/registration.h"
 #include "ui/shell/roleeditor.h"
 #include "ui/shell/settingsscreen.h"
+#include "ui/stock/registration.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -60,6 +63,23 @@ public:
         widget->show();
         settle();
         save(withTitle(widget, widget->grab()), name);
+    }
+
+    // The window with a dialog painted over it, centred as the dialog opens (with its own title
+    // bar, since the offscreen platform draws none).
+    void shootOver(QWidget *window, QWidget *dialog, const QString &name)
+    {
+        window->show();
+        dialog->show();
+        settle();
+        QPixmap picture = window->grab();
+        const QPixmap over = withTitle(dialog, dialog->grab());
+        QPainter painter(&picture);
+        painter.fillRect(picture.rect(), QColor(0, 0, 0, 60));
+        painter.drawPixmap((picture.width() - over.width()) / 2,
+            std::max(0, (picture.height() - over.height()) / 2), over);
+        painter.end();
+        save(withTitle(window, picture), name);
     }
 
     // The window with a popped-up menu painted over it where the menu stands.
@@ -232,6 +252,8 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::ScreenRegistry registry;
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerPurchasingScreens(registry);
+    ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
@@ -257,6 +279,11 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     const auto shoot = [&](QWidget *widget, const QString &name) { shooter.shoot(widget, name); };
     shootMasterData(shoot, window, workspace, scratch);
     shootMembers(shoot, window, workspace, scratch);
+    shootDocuments({ shoot,
+                       [&](QWidget *over, QWidget *dialog, const QString &name) {
+                           shooter.shootOver(over, dialog, name);
+                       } },
+        window, workspace);
 }
 
 } // namespace

@@ -122,4 +122,30 @@ QString overflowDifferenceNote(const QString &number)
     return QStringLiteral("报溢单") + number + QStringLiteral("成本差额");
 }
 
+QString openingPostedLog(const QString &number, int rowCount)
+{
+    return QStringLiteral("商品期初建账") + number + QStringLiteral("，共%1种商品").arg(rowCount);
+}
+
+QString openingRemovedLog(const QString &number)
+{
+    return QStringLiteral("删除商品期初建账") + number;
+}
+
+QString openingMissing(const QString &number)
+{
+    return QStringLiteral("期初建账单据") + number + QStringLiteral("不存在！");
+}
+
+QString openingRemoveQuestion(const QString &number)
+{
+    return QStringLiteral("您的操作将删除期初建账单据：") + number
+        + QStringLiteral("，其中的库存将被冲回，确认吗？");
+}
+
+QString openingParty()
+{
+    return QStringLiteral("期初建账");
+}
+
 } // namespace medistock::stock::texts

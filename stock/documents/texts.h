@@ -25,12 +25,19 @@ QString stockTakingUncheckedLog(const QString &number);
 QString adjustmentCheckedLog(const QString &title, const QString &number, int lineCount);
 QString adjustmentUncheckedLog(const QString &title, const QString &number);
 
+// Opening stock
+QString openingPostedLog(const QString &number, int rowCount);
+QString openingRemovedLog(const QString &number);
+QString openingMissing(const QString &number);
+QString openingRemoveQuestion(const QString &number);
+
 // Party names of the ledger rows
 QString transferIn(); // "调拨入库"
 QString transferOut(); // "调拨出库"
 QString stockTakingParty(); // "库存盘点"
 QString lossParty(); // "商品报损"
 QString overflowParty(); // "商品报溢"
+QString openingParty(); // "期初建账"
 
 // Notes of the expense and income rows that book value differences
 QString stockTakingDifferenceNote(const QString &number);

@@ -2,11 +2,15 @@
 #include "shell/rights.h"
 #include "tests/ui/uitest.h"
 #include "ui/common/screenregistry.h"
+#include "ui/documents/documentscreen.h"
+#include "ui/purchasing/registration.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/shell/registration.h"
+#include "ui/stock/registration.h"
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTabWidget>
@@ -186,4 +190,43 @@ TEST_F(MainWindowTest, TheStatusBarShowsCompanySetOperatorAndTheWeekday)
         (QStringList { QStringLiteral("公司：康宁大药房"), QStringLiteral("帐套：主帐套"),
             QStringLiteral("操作员：admin"), QStringLiteral("2025-03-14 星期五") }));
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Medistock - 康宁大药房"));
+}
+
+// The purchasing and stock screens in the menus, a screen opening another through the
+// workspace, and a tab holding unsaved work that refuses to close.
+TEST_F(MainWindowTest, DocumentScreensOpenFromTheMenusAndKeepUnsavedWork)
+{
+    ui::registerPurchasingScreens(registry);
+    ui::registerStockScreens(registry);
+    auto window = openWindow();
+    QStringList enabled;
+    for (const auto &[area, position] : { std::pair { "cggl", 1 }, { "cggl", 2 }, { "cggl", 4 },
+             { "cggl", 5 }, { "xsgl", 5 }, { "kcgl", 6 }, { "qtcz", 16 } })
+        if (window->operationAction(QString::fromLatin1(area), position)->isEnabled())
+            enabled.append(window->operationAction(QString::fromLatin1(area), position)->text());
+    EXPECT_EQ(enabled,
+        (QStringList { QStringLiteral("采购进货"), QStringLiteral("采购退货"),
+            QStringLiteral("进退货查询"), QStringLiteral("当前库存查询"),
+            QStringLiteral("当前库存查询"), QStringLiteral("库存变动情况"),
+            QStringLiteral("商品期初建账") }));
+
+    QWidget *receipt = workspace().openScreen(QStringLiteral("cggl"), 1);
+    auto *screen = qobject_cast<ui::DocumentScreen *>(receipt);
+    ASSERT_NE(screen, nullptr);
+    EXPECT_EQ(window->tabs()->tabText(window->tabs()->currentIndex()), QStringLiteral("采购进货"));
+    screen->noteField()->setText(QStringLiteral("未保存"));
+    emit screen->noteField()->textEdited(QStringLiteral("未保存"));
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ui.answerNext(false);
+    QTest::keyClick(window->tabs()->currentWidget(), Qt::Key_Escape);
+    EXPECT_EQ(ui.asked,
+        QStringList { QStringLiteral("当前单据已修改但尚未保存，确定要放弃这些修改吗？") });
+    EXPECT_EQ(window->tabs()->count(), 1);
+    ui.answerNext(true);
+    QTest::keyClick(window->tabs()->currentWidget(), Qt::Key_Escape);
+    EXPECT_EQ(window->tabs()->count(), 0);
+    EXPECT_EQ(workspace().openScreen(QStringLiteral("kcgl"), 7), nullptr);
+    window.reset();
+    EXPECT_FALSE(bool(workspace().openScreen));
 }

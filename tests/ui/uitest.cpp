@@ -1,5 +1,7 @@
 #include "tests/ui/uitest.h"
 
+#include "masterdata/kinds.h"
+#include "masterdata/masterrows.h"
 #include "shell/operators.h"
 #include "shell/rights.h"
 #include "ui/common/application.h"
@@ -52,6 +54,36 @@ void UiTest::addOperatorWithRights(const QString &name, const QHash<QString, QSt
     ASSERT_TRUE(role.ok()) << role.message().toStdString();
     ASSERT_TRUE(shell::addOperator(session(), name, role.value()).ok());
     ui.clear();
+}
+
+QStringList gridRows(const ui::QueryScreen &screen)
+{
+    QStringList lines;
+    for (int row = 0; row < screen.model()->rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < screen.model()->columnCount(); ++column)
+            cells.append(screen.model()->text(row, column));
+        lines.append(cells.join(QLatin1Char('|')));
+    }
+    return lines;
+}
+
+QStringList gridColumn(const ui::QueryScreen &screen, int column)
+{
+    QStringList texts;
+    for (int row = 0; row < screen.model()->rowCount(); ++row)
+        texts.append(screen.model()->text(row, column));
+    return texts;
+}
+
+void addBoxedGoods(shell::Session &session, const QStringList &names)
+{
+    for (const QString &name : names) {
+        const auto added = masterdata::addMasterRow(session, masterdata::goodsKind(),
+            { { QStringLiteral("g_name"), name },
+                { QStringLiteral("dw_name"), QStringLiteral("盒") } });
+        ASSERT_TRUE(added.ok()) << added.message().toStdString();
+    }
 }
 
 void typeInto(QWidget *field, const QString &text)

@@ -2,6 +2,7 @@
 
 #include "tests/support/accountset.h"
 #include "ui/common/gridlayouts.h"
+#include "ui/common/queryscreen.h"
 #include "ui/common/workspace.h"
 
 #include <QAbstractButton>
@@ -30,6 +31,15 @@ protected:
 private:
     std::unique_ptr<ui::Workspace> m_workspace;
 };
+
+// The texts a query screen's grid shows: a row a line, its cells joined by "|", the totals row
+// last; or one column's texts.
+QStringList gridRows(const ui::QueryScreen &screen);
+QStringList gridColumn(const ui::QueryScreen &screen, int column);
+
+// Goods sold by the box (盒) added through the master-data operation: codes from 10000001 in the
+// order given, mnemonics made from the names.
+void addBoxedGoods(shell::Session &session, const QStringList &names);
 
 // Types text into a field as key presses (Chinese included, which QTest::keyClicks refuses).
 void typeInto(QWidget *field, const QString &text);

@@ -2,8 +2,11 @@
 
 #include "shell/session.h"
 #include "ui/common/gridlayouts.h"
+#include "ui/common/printing.h"
 
 #include <QString>
+
+#include <functional>
 
 class QTableView;
 
@@ -22,6 +25,12 @@ struct Workspace
     core::Connection &master;
     QString accountSetName;
     GridLayouts &layouts;
+    // Opens (or brings forward) the screen of an operation and returns it; nullptr when the
+    // operator lacks its right or no screen is registered. Set by the main window; a screen
+    // shown without one (a test, a screenshot) finds it empty.
+    std::function<QWidget *(const QString &area, int position)> openScreen {};
+    // How screens print (see printing.h); empty until printing is built.
+    PrintHandler print {};
 
     // Restores a grid's column widths and order for this screen and operator and keeps them.
     void rememberColumns(QTableView *grid, const QString &screen)

@@ -5,6 +5,7 @@
 #include "shell/session.h"
 #include "ui/common/grid.h"
 #include "ui/common/progress.h"
+#include "ui/common/texts.h"
 #include "ui/masterdata/fields.h"
 #include "ui/masterdata/texts.h"
 
@@ -94,7 +95,7 @@ ImportDialog::ImportDialog(const shell::Session &session, const masterdata::Mast
 void ImportDialog::chooseFile()
 {
     const QString path = QFileDialog::getOpenFileName(
-        this, mdtexts::importTitle, QDir::homePath(), mdtexts::xlsxFilter);
+        this, mdtexts::importTitle, QDir::homePath(), texts::xlsxFilter());
     if (!path.isEmpty())
         load(path);
 }

@@ -7,6 +7,7 @@
 #include "masterdata/transfer.h"
 #include "shell/rights.h"
 #include "ui/common/reading.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/masterdata/forms.h"
 #include "ui/masterdata/importdialog.h"
@@ -154,7 +155,7 @@ QWidget *MasterListScreen::buildButtons()
     }
     if (masterdata::isImportable(m_kind))
         button(mdtexts::importButton, &MasterListScreen::chooseImportFile);
-    button(mdtexts::exportButton, &MasterListScreen::chooseExportFile);
+    button(texts::exportButton(), &MasterListScreen::chooseExportFile);
     return box;
 }
 
@@ -220,7 +221,7 @@ void MasterListScreen::reload()
     QList<QSqlRecord> rows;
     readSafely(m_workspace.session.ui(), [&] { rows = fetch(m_search->text()); });
     m_model->setRows(std::move(rows));
-    m_count->setText(mdtexts::rowCount(m_model->rowCount()));
+    m_count->setText(texts::rowCount(m_model->rowCount()));
     selectKey(current);
     if (!m_grid->currentIndex().isValid() && m_model->rowCount() > 0)
         m_grid->selectRow(0);
@@ -325,9 +326,9 @@ void MasterListScreen::toggleDisabled()
 
 void MasterListScreen::chooseExportFile()
 {
-    const QString path = QFileDialog::getSaveFileName(this, mdtexts::exportTitle,
+    const QString path = QFileDialog::getSaveFileName(this, texts::exportTitle(),
         QDir::home().filePath(QString::fromUtf8(m_kind.label) + QStringLiteral(".xlsx")),
-        mdtexts::xlsxFilter);
+        texts::xlsxFilter());
     if (!path.isEmpty())
         exportTo(path);
 }
@@ -335,13 +336,13 @@ void MasterListScreen::chooseExportFile()
 void MasterListScreen::exportTo(const QString &path)
 {
     const Outcome outcome = masterdata::exportMasterRows(m_workspace.session.db(), m_kind, path);
-    m_workspace.session.ui().inform(outcome ? mdtexts::exported(path) : outcome.message());
+    m_workspace.session.ui().inform(outcome ? texts::exported(path) : outcome.message());
 }
 
 void MasterListScreen::chooseImportFile()
 {
     const QString path = QFileDialog::getOpenFileName(
-        this, mdtexts::importTitle, QDir::homePath(), mdtexts::xlsxFilter);
+        this, mdtexts::importTitle, QDir::homePath(), texts::xlsxFilter());
     if (!path.isEmpty())
         importFrom(path);
 }

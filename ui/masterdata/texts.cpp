@@ -2,16 +2,6 @@
 
 namespace medistock::ui::mdtexts {
 
-QString rowCount(int rows)
-{
-    return QStringLiteral("记录数：%1").arg(rows);
-}
-
-QString exported(const QString &path)
-{
-    return QStringLiteral("已导出到：") + path;
-}
-
 QString listTitle(const QString &label)
 {
     return label + QStringLiteral("设置");

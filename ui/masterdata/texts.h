@@ -16,17 +16,12 @@ inline const QString edit = QStringLiteral("修改(F2)");
 inline const QString remove = QStringLiteral("删除(&D)");
 inline const QString disable = QStringLiteral("禁用");
 inline const QString enable = QStringLiteral("启用");
-inline const QString exportButton = QStringLiteral("导出(&X)");
 inline const QString importButton = QStringLiteral("导入(&I)");
 inline const QString basicLists = QStringLiteral("基础资料");
 inline const QString yesMark = QStringLiteral("是");
 inline const QString chooseRowFirst = QStringLiteral("请先选择一行资料！");
-inline const QString exportTitle = QStringLiteral("导出到Excel表格");
 inline const QString importTitle = QStringLiteral("从Excel表格导入");
-inline const QString xlsxFilter = QStringLiteral("Excel表格 (*.xlsx)");
 inline const QString exporting = QStringLiteral("正在导出，请稍候……");
-QString rowCount(int rows); // "记录数：12"
-QString exported(const QString &path); // "已导出到：/home/…/商品.xlsx"
 QString listTitle(const QString &label); // "单位设置"
 
 // Goods classes

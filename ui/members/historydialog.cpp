@@ -7,6 +7,7 @@
 #include "members/member.h"
 #include "ui/common/grid.h"
 #include "ui/common/reading.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/masterdata/texts.h"
 #include "ui/members/texts.h"
@@ -59,7 +60,7 @@ HistoryDialog::HistoryDialog(Workspace &workspace, const QString &member, QWidge
 
     auto *top = new QHBoxLayout;
     top->addWidget(new QLabel(m ? mbtexts::memberLine(m->card, m->name) : member, this), 1);
-    top->addWidget(new QLabel(mdtexts::rowCount(m_grid->rowCount()), this));
+    top->addWidget(new QLabel(texts::rowCount(m_grid->rowCount()), this));
     auto *exportButton = new QPushButton(mbtexts::exportButton, this);
     auto *close = new QPushButton(mbtexts::close, this);
     connect(exportButton, &QPushButton::clicked, this, &HistoryDialog::exportGrid);
@@ -74,9 +75,9 @@ HistoryDialog::HistoryDialog(Workspace &workspace, const QString &member, QWidge
 
 void HistoryDialog::exportGrid()
 {
-    const QString path = QFileDialog::getSaveFileName(this, mdtexts::exportTitle,
+    const QString path = QFileDialog::getSaveFileName(this, texts::exportTitle(),
         QDir::home().filePath(mbtexts::historyTitle + QStringLiteral(".xlsx")),
-        mdtexts::xlsxFilter);
+        texts::xlsxFilter());
     if (path.isEmpty())
         return;
     QList<QVariantList> rows;
@@ -88,7 +89,7 @@ void HistoryDialog::exportGrid()
     }
     const Outcome written
         = core::writeXlsx(path, mbtexts::historyTitle, mbtexts::historyColumns, rows);
-    m_workspace.session.ui().inform(written ? mdtexts::exported(path) : written.message());
+    m_workspace.session.ui().inform(written ? texts::exported(path) : written.message());
 }
 
 } // namespace medistock::ui

@@ -11,6 +11,7 @@
 #include "ui/shell/texts.h"
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -43,6 +44,13 @@ MainWindow::MainWindow(Workspace &workspace, const ScreenRegistry &registry, QWi
     , m_tabs(new QTabWidget(this))
 {
     buildSystemMenu();
+    m_workspace.openScreen = [this](const QString &area, int position) -> QWidget * {
+        openOperation(area, position);
+        const QWidget *current = m_tabs->currentWidget();
+        return current && current->property(screenProperty).toString() == screenKey(area, position)
+            ? m_tabs->currentWidget()
+            : nullptr;
+    };
     m_tabs->setTabsClosable(true);
     m_tabs->setMovable(true);
     m_tabs->setDocumentMode(true);
@@ -76,6 +84,22 @@ MainWindow::MainWindow(Workspace &workspace, const ScreenRegistry &registry, QWi
     }
     refreshTitleAndStatus();
     resize(1180, 760);
+}
+
+MainWindow::~MainWindow()
+{
+    m_workspace.openScreen = {};
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    for (int i = 0; i < m_tabs->count(); ++i)
+        if (!m_tabs->widget(i)->close()) {
+            m_tabs->setCurrentIndex(i);
+            event->ignore();
+            return;
+        }
+    event->accept();
 }
 
 void MainWindow::buildSystemMenu()
@@ -184,10 +208,12 @@ void MainWindow::openOperation(const QString &area, int position)
 
 void MainWindow::closeTab(int index)
 {
-    if (QWidget *screen = m_tabs->widget(index)) {
-        m_tabs->removeTab(index);
-        screen->deleteLater();
-    }
+    QWidget *screen = m_tabs->widget(index);
+    // A screen holding unsaved work may refuse to close (its closeEvent asks).
+    if (!screen || !screen->close())
+        return;
+    m_tabs->removeTab(index);
+    screen->deleteLater();
 }
 
 void MainWindow::showCompany()

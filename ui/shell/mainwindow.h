@@ -15,12 +15,14 @@ struct Workspace;
 // The main window: the eight areas as picture buttons, each opening a menu of its operations in
 // order; an entry is enabled when the operator holds its right and a screen is registered for
 // it. Screens open as tabs (Esc closes the current one); the status bar shows the company, the
-// account set, the operator and the date with its weekday.
+// account set, the operator and the date with its weekday. While it exists, screens open other
+// screens through Workspace::openScreen.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
     MainWindow(Workspace &workspace, const ScreenRegistry &registry, QWidget *parent = nullptr);
+    ~MainWindow() override;
 
     // The picture button of an area ("cggl" ... "qtcz"), and the menu entry of an operation.
     QToolButton *areaButton(const QString &area) const;
@@ -34,6 +36,10 @@ public slots:
     void openOperation(const QString &area, int position);
     void showCompany();
     void changeOwnPassword();
+
+protected:
+    // Every screen is asked first; one holding unsaved work may keep the window open.
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void buildSystemMenu();

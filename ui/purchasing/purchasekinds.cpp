@@ -1,0 +1,256 @@
+#include "ui/purchasing/purchasekinds.h"
+
+#include "accounts/texts.h"
+#include "core/interaction.h"
+#include "masterdata/texts.h"
+#include "purchasing/kinds.h"
+#include "purchasing/proposals.h"
+#include "purchasing/purchasereturn.h"
+#include "purchasing/receipt.h"
+#include "purchasing/texts.h"
+#include "shell/session.h"
+#include "ui/documents/documentscreen.h"
+#include "ui/purchasing/checkdialog.h"
+#include "ui/purchasing/receiptlinesdialog.h"
+#include "ui/purchasing/texts.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSqlRecord>
+
+namespace medistock::ui {
+
+namespace {
+
+QString column(const char *name)
+{
+    return QString::fromLatin1(name);
+}
+
+// An amount field shows nothing for 0, so that an untouched document shows no noise.
+QString amountText(double value)
+{
+    return value == 0 ? QString() : QString::number(value, 'g', 15);
+}
+
+QLineEdit *amountField(QWidget *parent)
+{
+    auto *field = new QLineEdit(parent);
+    field->setAlignment(Qt::AlignRight);
+    return field;
+}
+
+} // namespace
+
+PurchaseScreenKind::PurchaseScreenKind(const purchasing::PurchaseKind &kind)
+    : m_kind(kind)
+{ }
+
+const documents::DocumentKind &PurchaseScreenKind::entry() const
+{
+    return m_kind.entry;
+}
+
+int PurchaseScreenKind::checkRight() const
+{
+    return m_kind.checkRight;
+}
+
+int PurchaseScreenKind::uncheckRight() const
+{
+    return m_kind.uncheckRight;
+}
+
+QList<std::pair<QString, QWidget *>> PurchaseScreenKind::createHeaderFields(QWidget *parent)
+{
+    QList<std::pair<QString, QWidget *>> fields;
+    if (*m_kind.supplierNumber) {
+        m_supplierNumber = new QLineEdit(parent);
+        fields.append({ pctexts::supplierNumber, m_supplierNumber });
+    }
+    m_invoiceNumber = new QLineEdit(parent);
+    m_invoiceAmount = amountField(parent);
+    fields.append({ pctexts::invoiceNumber, m_invoiceNumber });
+    fields.append({ pctexts::invoiceAmount, m_invoiceAmount });
+    if (*m_kind.money.freight) {
+        m_freight = amountField(parent);
+        m_packing = amountField(parent);
+        m_freightTerms = new QComboBox(parent);
+        m_freightTerms->addItems(
+            { QString(), accounts::texts::wePayFreight(), accounts::texts::theyPayFreight() });
+        fields.append({ pctexts::freight, m_freight });
+        fields.append({ pctexts::packing, m_packing });
+        fields.append({ pctexts::freightTerms, m_freightTerms });
+    }
+    return fields;
+}
+
+void PurchaseScreenKind::loadHeader(const QSqlRecord &header)
+{
+    const accounts::MoneyColumns &m = m_kind.money;
+    const auto text = [&](const char *name) {
+        return *name ? header.value(column(name)).toString() : QString();
+    };
+    const auto number
+        = [&](const char *name) { return *name ? header.value(column(name)).toDouble() : 0.0; };
+    m_saved.supplierNumber = text(m_kind.supplierNumber);
+    m_saved.settlementMode = text(m_kind.mode);
+    m_saved.account = text(m.account);
+    m_saved.paid = number(m.paid);
+    m_saved.invoiceNumber = text(m.invoiceNumber);
+    m_saved.invoiceAmount = number(m.invoiceAmount);
+    m_saved.freight = number(m.freight);
+    m_saved.packing = number(m.packing);
+    m_saved.freightTerms = text(m.freightMode);
+    if (m_supplierNumber)
+        m_supplierNumber->setText(m_saved.supplierNumber);
+    m_invoiceNumber->setText(m_saved.invoiceNumber);
+    m_invoiceAmount->setText(amountText(m_saved.invoiceAmount));
+    if (m_freight) {
+        m_freight->setText(amountText(m_saved.freight));
+        m_packing->setText(amountText(m_saved.packing));
+        m_freightTerms->setCurrentIndex(
+            std::max(0, m_freightTerms->findText(m_saved.freightTerms)));
+    }
+}
+
+void PurchaseScreenKind::clearHeader()
+{
+    m_saved = {};
+    for (QLineEdit *field :
+        { m_supplierNumber, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
+        if (field)
+            field->clear();
+    if (m_freightTerms)
+        m_freightTerms->setCurrentIndex(0);
+}
+
+void PurchaseScreenKind::setHeaderReadOnly(bool readOnly)
+{
+    for (QLineEdit *field :
+        { m_supplierNumber, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
+        if (field)
+            field->setReadOnly(readOnly);
+    if (m_freightTerms)
+        m_freightTerms->setEnabled(!readOnly);
+}
+
+Result<purchasing::PurchaseHeader> PurchaseScreenKind::header(const shell::Session &session) const
+{
+    purchasing::PurchaseHeader h = m_saved;
+    if (m_supplierNumber)
+        h.supplierNumber = m_supplierNumber->text();
+    h.invoiceNumber = m_invoiceNumber->text();
+    h.freightTerms = m_freightTerms ? m_freightTerms->currentText() : QString();
+    const std::pair<QLineEdit *, double *> amounts[] = { { m_invoiceAmount, &h.invoiceAmount },
+        { m_freight, &h.freight }, { m_packing, &h.packing } };
+    const QString labels[] = { pctexts::invoiceAmount, pctexts::freight, pctexts::packing };
+    for (int i = 0; i < 3; ++i) {
+        const auto &[field, value] = amounts[i];
+        if (!field)
+            continue;
+        const QString typed = field->text().trimmed();
+        bool ok = true;
+        *value = typed.isEmpty() ? 0 : typed.toDouble(&ok);
+        if (!ok) {
+            const QString text = masterdata::texts::notANumber(labels[i], typed);
+            session.ui().inform(text);
+            return Outcome::refused(text);
+        }
+    }
+    return h;
+}
+
+double PurchaseScreenKind::proposePrice(const shell::Session &session,
+    const documents::GoodsChoice &goods, const QString &unit, const QString &) const
+{
+    return purchasing::proposedPurchasePrice(session, goods.code, unit);
+}
+
+Outcome PurchaseScreenKind::check(shell::Session &session, const QString &number, QWidget *parent)
+{
+    PurchaseCheckDialog dialog(session, m_kind, number, parent);
+    if (!dialog.loaded() || dialog.exec() != QDialog::Accepted)
+        return Outcome::refused(QString());
+    const purchasing::CheckInput input = dialog.input();
+    return &m_kind == &purchasing::purchaseReceipt()
+        ? purchasing::checkPurchaseReceipt(session, number, input)
+        : purchasing::checkPurchaseReturn(session, number, input);
+}
+
+ReceiptScreenKind::ReceiptScreenKind()
+    : PurchaseScreenKind(purchasing::purchaseReceipt())
+{ }
+
+QString ReceiptScreenKind::dueLabel() const
+{
+    return pctexts::payable;
+}
+
+Result<QString> ReceiptScreenKind::save(
+    shell::Session &session, const documents::DocumentDraft &draft)
+{
+    const Result<purchasing::PurchaseHeader> h = header(session);
+    if (!h)
+        return h.outcome();
+    return purchasing::savePurchaseReceipt(session, { draft, h.value() });
+}
+
+Outcome ReceiptScreenKind::uncheck(shell::Session &session, const QString &number)
+{
+    return purchasing::uncheckPurchaseReceipt(session, number);
+}
+
+Outcome ReceiptScreenKind::remove(shell::Session &session, const QString &number)
+{
+    return purchasing::deletePurchaseReceipt(session, number);
+}
+
+ReturnScreenKind::ReturnScreenKind()
+    : PurchaseScreenKind(purchasing::purchaseReturn())
+{ }
+
+QString ReturnScreenKind::dueLabel() const
+{
+    return pctexts::receivable;
+}
+
+void ReturnScreenKind::loadLine(const documents::DocumentLineRow &stored, LineEntry &line) const
+{
+    const qint64 id2 = stored.stored.value(QStringLiteral("id2")).toLongLong();
+    if (id2 > 0)
+        line.columns.set(QStringLiteral("id2"), id2);
+}
+
+Result<QString> ReturnScreenKind::save(
+    shell::Session &session, const documents::DocumentDraft &draft)
+{
+    const Result<purchasing::PurchaseHeader> h = header(session);
+    if (!h)
+        return h.outcome();
+    return purchasing::savePurchaseReturn(session, { draft, h.value() });
+}
+
+Outcome ReturnScreenKind::uncheck(shell::Session &session, const QString &number)
+{
+    return purchasing::uncheckPurchaseReturn(session, number);
+}
+
+Outcome ReturnScreenKind::remove(shell::Session &session, const QString &number)
+{
+    return purchasing::deletePurchaseReturn(session, number);
+}
+
+void ReturnScreenKind::addActions(DocumentScreen &screen)
+{
+    auto *button = new QPushButton(pctexts::fromReceipt, &screen);
+    QObject::connect(button, &QPushButton::clicked, &screen, [&screen] {
+        ReceiptLinesDialog dialog(screen);
+        if (dialog.exec() == QDialog::Accepted)
+            dialog.takeInto(screen);
+    });
+    screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
+}
+
+} // namespace medistock::ui
