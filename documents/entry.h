@@ -117,6 +117,16 @@ Result<double> readLineNumber(int row, LineNumber which, const QString &typed);
 // A header amount (the whole-document discount, the paid amount, an invoice amount, freight): money
 // from 0 to 1 000 000 000 000, not NaN; the refusal text naming `label`, empty when it fits.
 QString headerAmountProblem(const QString &label, double value);
+// A header amount as typed on a screen, read and checked as above; an empty text reads 0. The
+// refusal is not told.
+Result<double> readHeaderAmount(const QString &label, const QString &typed);
+// The same for several amounts of one header, in the order given: the first refusal, or empty.
+struct LabelledAmount
+{
+    QString label;
+    double value;
+};
+QString headerAmountsProblem(const QList<LabelledAmount> &amounts);
 
 // Whatever a kind's rule put into its header and line columns: numbers the columns can hold
 // (finite, within ±1 000 000 000 000). Told and refused otherwise; saveDocument runs it after the

@@ -101,6 +101,26 @@ QString quantityField(int row)
     return line(row) + QStringLiteral("数量");
 }
 
+QString paidField(bool comesIn)
+{
+    return comesIn ? QStringLiteral("实收金额") : QStringLiteral("实付金额");
+}
+
+QString invoiceAmountField()
+{
+    return QStringLiteral("发票金额");
+}
+
+QString freightField()
+{
+    return QStringLiteral("运费");
+}
+
+QString packingField()
+{
+    return QStringLiteral("包装费");
+}
+
 QString priceField(int row)
 {
     return line(row) + QStringLiteral("单价");

@@ -36,6 +36,12 @@ QString discountRateField(int row);
 QString baseQuantityField(int row);
 QString lineTotalField(int row);
 
+// The typed amounts of a header as number refusals name them
+QString paidField(bool comesIn); // "实收金额" when the money comes in, else "实付金额"
+QString invoiceAmountField(); // "发票金额"
+QString freightField(); // "运费"
+QString packingField(); // "包装费"
+
 // Saving and deleting
 QString documentMissing(const QString &number);
 QString checkedCannotChange(const QString &number);

@@ -283,6 +283,19 @@ QString headerAmountProblem(const QString &label, double value)
     return core::numberProblem(label, value, core::NumberKind::Amount);
 }
 
+Result<double> readHeaderAmount(const QString &label, const QString &typed)
+{
+    return core::readNumber(label, typed, core::NumberKind::Amount, 0);
+}
+
+QString headerAmountsProblem(const QList<LabelledAmount> &amounts)
+{
+    for (const LabelledAmount &amount : amounts)
+        if (QString problem = headerAmountProblem(amount.label, amount.value); !problem.isEmpty())
+            return problem;
+    return QString();
+}
+
 Outcome checkColumnNumbers(
     const shell::Session &session, const DocumentKind &kind, const ValidDocument &doc)
 {

@@ -36,10 +36,6 @@ QString freightTermsInvalid(const QString &terms)
     return QStringLiteral("付费方式“%1”不正确，应为“我方付运费”或“对方付运费”！").arg(terms);
 }
 
-QString amountNegative()
-{
-    return QStringLiteral("实付金额、发票金额、运费和包装费不能为负数！");
-}
 
 QString receiptLineMissing(int row)
 {

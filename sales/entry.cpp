@@ -179,7 +179,7 @@ void markLines(const shell::Session &session, const ValidDocument &doc, const QS
 
 Outcome saleRule(const shell::Session &session, SaleHeader &header, ValidDocument &doc)
 {
-    Outcome outcome = checkSaleHeader(session, header);
+    Outcome outcome = checkSaleHeader(session, header, false);
     if (outcome)
         outcome = checkOrderLines(session, doc);
     if (outcome)
@@ -200,7 +200,7 @@ Outcome saleRule(const shell::Session &session, SaleHeader &header, ValidDocumen
 
 Outcome orderRule(const shell::Session &session, SaleHeader &header, ValidDocument &doc)
 {
-    const Outcome outcome = checkSaleHeader(session, header);
+    const Outcome outcome = checkSaleHeader(session, header, false);
     if (!outcome)
         return outcome;
     setSaleHeaderColumns(session, header, doc, true);

@@ -26,7 +26,6 @@ QString expiredBatchRefused(
 // Header refusals of the sales documents
 QString settlementModeInvalid(const QString &mode);
 QString freightTermsInvalid(const QString &terms);
-QString amountNegative();
 
 // Lines taken over from orders and lines returned against a sale
 QString orderMissing(const QString &number);
