@@ -340,14 +340,16 @@ TEST_F(PurchasingTest, TheSaveChecksThePurchaseHeader)
     EXPECT_EQ(savePurchaseReceipt(session(), d).message(), QStringLiteral("运费不能为负数！"));
     d.header.freight = 0;
     d.header.invoiceAmount = std::nan("");
-    EXPECT_EQ(savePurchaseReceipt(session(), d).message(), QStringLiteral("发票金额“nan”不是数字！"));
+    EXPECT_EQ(
+        savePurchaseReceipt(session(), d).message(), QStringLiteral("发票金额“nan”不是数字！"));
     d.header.invoiceAmount = 0;
     d.header.packing = 1e12 + 1;
     EXPECT_EQ(savePurchaseReceipt(session(), d).message(),
         QStringLiteral("包装费“1000000000001”超出范围，应在 0 到 1000000000000 之间！"));
     d.header.packing = 0;
     d.header.paid = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(savePurchaseReceipt(session(), d).message(), QStringLiteral("实付金额“inf”不是数字！"));
+    EXPECT_EQ(
+        savePurchaseReceipt(session(), d).message(), QStringLiteral("实付金额“inf”不是数字！"));
     EXPECT_EQ(differences(before, snapshot()), QStringList {});
 }
 

@@ -466,7 +466,8 @@ TEST_F(ReceiptScreenTest, AbsurdNumbersAreRefusedAsOnTheCommandLine)
         EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_jhd")), 0);
         return ui.informed.join(QLatin1Char('|'));
     };
-    EXPECT_EQ(refusalOfSave(), QStringLiteral("第1行：数量“1e+20”超出范围，应在 0 到 100000000 之间！"));
+    EXPECT_EQ(
+        refusalOfSave(), QStringLiteral("第1行：数量“1e+20”超出范围，应在 0 到 100000000 之间！"));
     EXPECT_EQ(cell(screen, 0, ui::LineField::Quantity), QStringLiteral("1e+20"));
     EXPECT_EQ(setCell(ui::LineField::Quantity, QStringLiteral("2")), QString());
     EXPECT_EQ(setCell(ui::LineField::Price, QStringLiteral("NaN")),
@@ -482,8 +483,8 @@ TEST_F(ReceiptScreenTest, AbsurdNumbersAreRefusedAsOnTheCommandLine)
     EXPECT_EQ(refusalOfSave(), QStringLiteral("优惠金额“inf”不是数字！"));
     screen.discountField()->clear();
     receiptKind->freightField()->setText(QStringLiteral("1e308"));
-    EXPECT_EQ(refusalOfSave(),
-        QStringLiteral("运费“1e308”超出范围，应在 0 到 1000000000000 之间！"));
+    EXPECT_EQ(
+        refusalOfSave(), QStringLiteral("运费“1e308”超出范围，应在 0 到 1000000000000 之间！"));
     receiptKind->freightField()->clear();
     keys.press(Qt::Key_F3);
     ASSERT_EQ(screen.number(), QStringLiteral("CJ25031410001"));

@@ -53,10 +53,11 @@ void DocumentScreen::fillLine(int row, const documents::GoodsChoice &goods)
 
 void DocumentScreen::checkNumber(int row, LineField field, const QString &text)
 {
-    const documents::LineNumber which = field == LineField::Quantity ? documents::LineNumber::Quantity
-        : field == LineField::Price         ? documents::LineNumber::Price
-        : field == LineField::Discount      ? documents::LineNumber::DiscountRate
-                                            : documents::LineNumber::TaxRate;
+    const documents::LineNumber which = field == LineField::Quantity
+        ? documents::LineNumber::Quantity
+        : field == LineField::Price    ? documents::LineNumber::Price
+        : field == LineField::Discount ? documents::LineNumber::DiscountRate
+                                       : documents::LineNumber::TaxRate;
     // What is typed stays in its cell; the save refuses it with the same words.
     const Result<double> read = documents::readLineNumber(row + 1, which, text);
     if (!read)
