@@ -3,6 +3,7 @@
 // of the customer's rows get a new running balance. Other customers' rows are never read.
 #include "accounts/ledger.h"
 #include "accounts/registrations.h"
+#include "bench/keep.h"
 #include "core/connection.h"
 #include "core/datafolder.h"
 #include "core/interaction.h"
@@ -82,7 +83,7 @@ private:
 
 LargeLedger &ledger()
 {
-    static LargeLedger instance;
+    static LargeLedger &instance = bench::keepForRun(std::make_unique<LargeLedger>());
     return instance;
 }
 

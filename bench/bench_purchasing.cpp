@@ -3,6 +3,7 @@
 // stock posting), and unchecking it. Each measurement is one operation with its transaction; the
 // operation that puts the set back runs with the timer paused:
 //   ./build/bench/bench_purchasing
+#include "bench/keep.h"
 #include "bench/stockledger.h"
 #include "core/dberror.h"
 #include "purchasing/entry.h"
@@ -37,7 +38,7 @@ struct Purchasing
 
 Purchasing &purchasing()
 {
-    static Purchasing instance;
+    static Purchasing &instance = bench::keepForRun(std::make_unique<Purchasing>());
     return instance;
 }
 

@@ -3,6 +3,7 @@
 // each (all unchecked again between repetitions). The sales are written as saving leaves them;
 // the account set is the stock benchmark's bulk-loaded one (bench/stockledger.cpp), copied fresh:
 //   ./build/bench/bench_sales
+#include "bench/keep.h"
 #include "bench/stockledger.h"
 #include "core/dberror.h"
 #include "core/transaction.h"
@@ -64,9 +65,9 @@ void addSale(core::Connection &db, const QString &number, int firstGoods, int li
 
 SalesSet &salesSet()
 {
-    static std::unique_ptr<SalesSet> set;
+    static SalesSet *set = nullptr;
     if (!set) {
-        set = std::make_unique<SalesSet>();
+        set = &bench::keepForRun(std::make_unique<SalesSet>());
         core::Transaction transaction(set->set.db());
         addSale(set->set.db(), saleNumber(0), 100, 50);
         for (int i = 1; i <= 1000; ++i)

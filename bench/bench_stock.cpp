@@ -7,6 +7,7 @@
 // the ledger back runs with the timer paused. The account sets are built once by the bulk loader
 // (bench/stockledger.cpp) into the temporary folder and copied fresh for every run:
 //   ./build/bench/bench_stock
+#include "bench/keep.h"
 #include "bench/stockledger.h"
 #include "core/connection.h"
 #include "core/dberror.h"
@@ -28,10 +29,10 @@ const bench::LedgerShape tenThousandRows { 101, 10000, 0 };
 
 bench::BenchSet &benchSet(const bench::LedgerShape &shape)
 {
-    static std::map<int, std::unique_ptr<bench::BenchSet>> sets;
-    std::unique_ptr<bench::BenchSet> &set = sets[shape.rows];
+    static std::map<int, bench::BenchSet *> sets;
+    bench::BenchSet *&set = sets[shape.rows];
     if (!set)
-        set = std::make_unique<bench::BenchSet>(shape);
+        set = &bench::keepForRun(std::make_unique<bench::BenchSet>(shape));
     return *set;
 }
 

@@ -7,6 +7,7 @@ packages=(
     cmake g++ ninja-build ccache pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-translations-l10n
     libqt6sql6-sqlite libqt6sql6-psql qt6-svg-dev libqt6svg6 libgl-dev
+    qt6-charts-dev libqt6charts6
     libsqlite3-dev libsodium-dev libicu-dev libxlsxwriter-dev libzip-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     fonts-noto-cjk xvfb xauth

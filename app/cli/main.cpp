@@ -22,6 +22,7 @@ int main(int argc, char *argv[])
     medistock::cli::addStockCommands(registry);
     medistock::cli::addPurchasingCommands(registry);
     medistock::cli::addSalesCommands(registry);
+    medistock::cli::addGspCommands(registry);
     medistock::cli::addMembersCommands(registry);
 
     const int status = medistock::cli::runCli(registry, app.arguments().mid(1), out, err);

@@ -50,6 +50,9 @@ void addStockCommands(Registry &registry);
 // The purchase receipt "CJ" and return "CT" in the document registry.
 void addPurchasingCommands(Registry &registry);
 void addSalesCommands(Registry &registry);
+// gsp (the GSP records), with gsp-add and gsp-delete.
+void addGspCommands(Registry &registry);
+void addGspEntryCommands(Registry &registry);
 // Members, points, top-ups, gifts and the till's documents.
 void addMembersCommands(Registry &registry);
 

@@ -8,6 +8,7 @@
 #include "ui/common/messagebox.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
@@ -43,6 +44,7 @@ void registerScreens(ui::ScreenRegistry &registry)
 {
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
@@ -82,5 +84,6 @@ int main(int argc, char *argv[])
     registerScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.showMaximized();
+    ui::addGspReminders(window, workspace);
     return app.exec();
 }

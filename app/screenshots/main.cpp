@@ -3,6 +3,7 @@
 // program can be seen without a display. Runs on the offscreen platform unless another one is
 // chosen.
 #include "app/screenshots/documents.h"
+#include "app/screenshots/gsp.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "core/accountsets.h"
@@ -17,6 +18,7 @@
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
+#include "ui/gsp/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/purchasing/registration.h"
@@ -252,6 +254,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::ScreenRegistry registry;
     ui::registerShellScreens(registry);
     ui::registerMasterDataScreens(registry);
+    ui::registerGspScreens(registry);
     ui::registerPurchasingScreens(registry);
     ui::registerStockScreens(registry);
     ui::registerMemberScreens(registry);
@@ -284,6 +287,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
                            shooter.shootOver(over, dialog, name);
                        } },
         window, workspace);
+    shootGsp(shoot, window, workspace);
 }
 
 } // namespace

@@ -110,14 +110,7 @@ QStringList PurchasingTest::differences(const QString &before, const QString &af
 
 QStringList PurchasingTest::rows(const QString &sql, const QVariantList &params)
 {
-    QStringList lines;
-    for (const QSqlRecord &row : db().rows(sql, params)) {
-        QStringList values;
-        for (int i = 0; i < row.count(); ++i)
-            values.append(row.value(i).toString());
-        lines.append(values.join(QLatin1Char('|')));
-    }
-    return lines;
+    return queryRows(db(), sql, params);
 }
 
 double PurchasingTest::figure(const QString &sql, const QVariantList &params)

@@ -82,6 +82,18 @@ QStringList dumpTable(core::Connection &connection, const QString &table)
     return lines;
 }
 
+QStringList queryRows(core::Connection &connection, const QString &sql, const QVariantList &params)
+{
+    QStringList lines;
+    for (const QSqlRecord &row : connection.rows(sql, params)) {
+        QStringList values;
+        for (int i = 0; i < row.count(); ++i)
+            values.append(row.value(i).toString());
+        lines.append(values.join(QLatin1Char('|')));
+    }
+    return lines;
+}
+
 int rowCount(core::Connection &connection, const QString &table)
 {
     return connection.firstValue(QStringLiteral("select count(*) from ") + table).toInt();
@@ -110,17 +122,10 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
 QStringList tableRows(core::Connection &connection, const QString &table, const QString &columns,
     const QString &where, const QVariantList &params)
 {
-    QStringList lines;
     const QString sql
         = QStringLiteral("select %1 from %2%3 order by id")
               .arg(columns, table, where.isEmpty() ? QString() : QStringLiteral(" where ") + where);
-    for (const QSqlRecord &row : connection.rows(sql, params)) {
-        QStringList values;
-        for (int i = 0; i < row.count(); ++i)
-            values.append(row.value(i).toString());
-        lines.append(values.join(QLatin1Char('|')));
-    }
-    return lines;
+    return queryRows(connection, sql, params);
 }
 
 QStringList differences(const QString &before, const QString &after)

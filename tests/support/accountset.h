@@ -75,6 +75,9 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
 // The rows of one table as text lines.
 QStringList dumpTable(core::Connection &connection, const QString &table);
 int rowCount(core::Connection &connection, const QString &table);
+// The rows a query reads, each as its values joined by "|".
+QStringList queryRows(
+    core::Connection &connection, const QString &sql, const QVariantList &params = {});
 // The rows of a table as "a|b|c" over the given columns, in id order, narrowed by `where`.
 QStringList tableRows(core::Connection &connection, const QString &table, const QString &columns,
     const QString &where = {}, const QVariantList &params = {});

@@ -65,6 +65,7 @@ TEST_F(SettingsScreenTest, ANewSetShowsTheDefaults)
     EXPECT_EQ(screen.spinBox(QStringLiteral("cs_xsws"))->value(), 2);
     EXPECT_EQ(screen.spinBox(QStringLiteral("cs_jews"))->value(), 2);
     EXPECT_EQ(screen.lineEdit(QStringLiteral("cs_hbfh"))->text(), QStringLiteral("￥"));
+    EXPECT_EQ(screen.spinBox(QStringLiteral("cs_cs031"))->text(), QStringLiteral("默认（180天）"));
 }
 
 TEST_F(SettingsScreenTest, SettingsSavedOnTheScreenAreReadBackByANewSession)
@@ -77,6 +78,7 @@ TEST_F(SettingsScreenTest, SettingsSavedOnTheScreenAreReadBackByANewSession)
     screen.spinBox(QStringLiteral("cs_xsws"))->setValue(3);
     screen.spinBox(QStringLiteral("cs_jews"))->setValue(1);
     screen.lineEdit(QStringLiteral("cs_hbfh"))->setText(QStringLiteral("元"));
+    screen.spinBox(QStringLiteral("cs_cs031"))->setValue(90);
     screen.saveButton()->click();
     EXPECT_EQ(ui.informed, QStringList { QStringLiteral("系统设置已保存！") });
 
@@ -93,6 +95,7 @@ TEST_F(SettingsScreenTest, SettingsSavedOnTheScreenAreReadBackByANewSession)
     EXPECT_EQ(params.quantityDecimals(), 3);
     EXPECT_EQ(params.amountDecimals(), 1);
     EXPECT_EQ(params.text("cs_hbfh"), QStringLiteral("元"));
+    EXPECT_EQ(params.integer("cs_cs031"), 90);
     // the untouched options kept their values
     EXPECT_TRUE(params.flag("cs_xgdj"));
     EXPECT_TRUE(params.flag("cs_posrq"));

@@ -1,6 +1,7 @@
 #include "ui/common/grid.h"
 
 #include <QHeaderView>
+#include <QTableView>
 #include <QTableWidget>
 
 namespace medistock::ui {
@@ -19,6 +20,22 @@ QTableWidget *makeGrid(const QStringList &captions, QWidget *parent)
     grid->horizontalHeader()->setStretchLastSection(true);
     grid->horizontalHeader()->setHighlightSections(false);
     return grid;
+}
+
+QTableView *makeTableView(QWidget *parent)
+{
+    auto *view = new QTableView(parent);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->setAlternatingRowColors(true);
+    view->setWordWrap(false);
+    view->verticalHeader()->setVisible(false);
+    view->verticalHeader()->setDefaultSectionSize(26);
+    view->horizontalHeader()->setSectionsMovable(true);
+    view->horizontalHeader()->setStretchLastSection(true);
+    view->horizontalHeader()->setHighlightSections(false);
+    return view;
 }
 
 void fillGrid(QTableWidget *grid, const QList<QStringList> &rows)

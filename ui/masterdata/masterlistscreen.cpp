@@ -6,6 +6,7 @@
 #include "masterdata/texts.h"
 #include "masterdata/transfer.h"
 #include "shell/rights.h"
+#include "ui/common/grid.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
@@ -41,17 +42,7 @@ QString str(const char *text)
 
 QTableView *makeView(QWidget *parent)
 {
-    auto *view = new QTableView(parent);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setAlternatingRowColors(true);
-    view->setWordWrap(false);
-    view->verticalHeader()->setVisible(false);
-    view->verticalHeader()->setDefaultSectionSize(26);
-    view->horizontalHeader()->setSectionsMovable(true);
-    view->horizontalHeader()->setStretchLastSection(true);
-    view->horizontalHeader()->setHighlightSections(false);
+    QTableView *view = makeTableView(parent);
     view->horizontalHeader()->setDefaultSectionSize(110);
     return view;
 }

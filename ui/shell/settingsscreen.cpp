@@ -132,6 +132,14 @@ QWidget *SettingsScreen::buildNumbersPage()
     currency->setMaxLength(4);
     currency->setMaximumWidth(80);
     form->addRow(shelltexts::currencySymbol, currency);
+    // The days within which a batch counts as near expiry (status bar, expiry query); 0 keeps
+    // the usual 180.
+    auto *nearExpiry = new QSpinBox(page);
+    nearExpiry->setObjectName(QStringLiteral("cs_cs031"));
+    nearExpiry->setRange(0, 36500);
+    nearExpiry->setSpecialValueText(shelltexts::nearExpiryDefault);
+    nearExpiry->setMinimumWidth(80);
+    form->addRow(shelltexts::nearExpiryDays, nearExpiry);
     return page;
 }
 
@@ -159,6 +167,7 @@ void SettingsScreen::load()
     spinBox(QStringLiteral("cs_xsws"))->setValue(params.quantityDecimals());
     spinBox(QStringLiteral("cs_jews"))->setValue(params.amountDecimals());
     lineEdit(QStringLiteral("cs_hbfh"))->setText(params.text("cs_hbfh"));
+    spinBox(QStringLiteral("cs_cs031"))->setValue(params.integer("cs_cs031"));
 }
 
 void SettingsScreen::save()
@@ -169,6 +178,7 @@ void SettingsScreen::save()
     for (const char *column : decimalColumns)
         changes.insert(QString::fromLatin1(column), spinBox(QString::fromLatin1(column))->value());
     changes.insert(QStringLiteral("cs_hbfh"), lineEdit(QStringLiteral("cs_hbfh"))->text());
+    changes.insert(QStringLiteral("cs_cs031"), spinBox(QStringLiteral("cs_cs031"))->value());
     if (shell::saveParameters(m_workspace.session, changes))
         m_workspace.session.ui().inform(shelltexts::settingsSaved);
 }
