@@ -17,16 +17,17 @@ struct CodeColumn
     const char *table;
     const char *column;
 };
-constexpr CodeColumn codeColumns[] = { { "jxc_xtzt", "zt_sn" }, { "jxc_admin", "a_sn" },
-    { "jxc_role", "r_sn" }, { "jxc_goods", "g_sn" }, { "jxc_khxx", "kh_sn" },
-    { "jxc_ghsxx", "ghs_sn" }, { "jxc_ckxx", "ck_sn" }, { "jxc_user", "u_sn" },
-    { "jxc_hyxx", "hy_sn" }, { "jxc_hyfl", "hl_sn" }, { "jxc_hyyh", "hh_sn" },
-    { "jxc_hyczzs", "hs_sn" }, { "jxc_zpxx", "zp_sn" }, { "jxc_dw", "dw_sn" },
-    { "jxc_ggxh", "gg_sn" }, { "jxc_color", "color_sn" }, { "jxc_yjlx", "lx_sn" },
-    { "jxc_tym", "tym_sn" }, { "jxc_hjxx", "hj_sn" }, { "jxc_gspcs", "gsp_sn" },
-    { "jxc_dept", "de_sn" }, { "jxc_khtype", "kt_sn" }, { "jxc_ghstype", "gt_sn" },
-    { "jxc_zone", "z_sn" }, { "jxc_fkfs", "fk_sn" }, { "jxc_kdgs", "kg_sn" },
-    { "jxc_yhzh", "yh_sn" }, { "jxc_khhtgl", "ht_sn" }, { "jxc_fd", "fd_sn" } };
+constexpr CodeColumn codeColumns[]
+    = { { "jxc_xtzt", "zt_sn" }, { "jxc_admin", "a_sn" }, { "jxc_role", "r_sn" },
+          { "jxc_goods", "g_sn" }, { "jxc_khxx", "kh_sn" }, { "jxc_ghsxx", "ghs_sn" },
+          { "jxc_ckxx", "ck_sn" }, { "jxc_user", "u_sn" }, { "jxc_hyxx", "hy_sn" },
+          { "jxc_hyfl", "hl_sn" }, { "jxc_hyyh", "hh_sn" }, { "jxc_hyczzs", "hs_sn" },
+          { "jxc_zpxx", "zp_sn" }, { "jxc_dw", "dw_sn" }, { "jxc_ggxh", "gg_sn" },
+          { "jxc_color", "color_sn" }, { "jxc_yjlx", "lx_sn" }, { "jxc_tym", "tym_sn" },
+          { "jxc_hjxx", "hj_sn" }, { "jxc_gspcs", "gsp_sn" }, { "jxc_dept", "de_sn" },
+          { "jxc_khtype", "kt_sn" }, { "jxc_ghstype", "gt_sn" }, { "jxc_zone", "z_sn" },
+          { "jxc_fkfs", "fk_sn" }, { "jxc_kdgs", "kg_sn" }, { "jxc_yhzh", "yh_sn" },
+          { "jxc_khhtgl", "ht_sn" }, { "jxc_fd", "fd_sn" }, { "jxc_yghmc", "u_sn" } };
 
 // The document numbers: each kind's prefix with the table (and number column) that keeps it.
 // The money ledger jxc_ysyfk numbers the rows that registrations write under their own kinds;
@@ -54,7 +55,8 @@ constexpr NumberedTable numberedTables[] = { { "CP", "jxc_cgplan", "gl_djh" },
     { "DH", "jxc_dhd", "gl_djh" }, { "XF", "jxc_hyxf", "gl_djh" }, { "SM", "jxc_smshy", "gl_djh" },
     { "CL", "jxc_cljcd", "gl_djh" }, { "JX", "jxc_jxqd", "gl_djh" },
     { "XS", "jxc_posxsd", "gl_djh" }, { "XT", "jxc_posxsd", "gl_djh" },
-    { "ZS", "jxc_zsd", "gl_djh" } };
+    { "ZS", "jxc_zsd", "gl_djh" }, { "JC", "jxc_cljcd", "gl_djh" },
+    { "QC", "jxc_goodslist", "gl_djh" } };
 
 QString str(const char *text)
 {
