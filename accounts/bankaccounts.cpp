@@ -3,10 +3,11 @@
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
 #include "accounts/texts.h"
-#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/operation.h"
+#include "core/rounding.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
 #include "shell/session.h"
@@ -156,6 +157,11 @@ Outcome setOpeningAmount(shell::Session &session, const QString &name, double am
     const qint64 id = accountId(db, name);
     if (id == 0)
         return core::refuse(session.ui(), texts::accountMissing(name));
+    // An account may start overdrawn: money either way.
+    const QString problem
+        = core::numberProblem(texts::openingField(), amount, core::NumberKind::SignedAmount);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     if (hasBusiness(db, name) && !session.ui().ask(texts::openingWithBusinessQuestion()))
         return Outcome::refused(QString());
     return core::guarded(session.ui(), [&] {

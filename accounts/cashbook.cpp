@@ -4,6 +4,7 @@
 #include "accounts/runningbalance.h"
 #include "accounts/texts.h"
 #include "core/connection.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/transaction.h"
 #include "shell/session.h"
@@ -90,6 +91,10 @@ Outcome validateMovement(shell::Session &session, const MovementDraft &draft)
         return core::refuse(session.ui(), texts::dateInvalid());
     if (!(draft.amount > 0))
         return core::refuse(session.ui(), texts::amountNotPositive());
+    const QString problem
+        = core::numberProblem(texts::amountField(), draft.amount, core::NumberKind::Amount);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     if (!bankAccountExists(db, draft.account))
         return core::refuse(session.ui(), texts::accountMissing(draft.account));
     if (draft.kind == MovementKind::Transfer) {

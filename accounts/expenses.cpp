@@ -3,11 +3,12 @@
 #include "accounts/cashbook.h"
 #include "accounts/documentsupport.h"
 #include "accounts/texts.h"
-#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/lookups.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/operation.h"
+#include "core/rounding.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
 #include "shell/session.h"
@@ -81,6 +82,10 @@ Outcome validate(shell::Session &session, const ExpenseDraft &draft)
         return core::refuse(session.ui(), texts::dateInvalid());
     if (!(draft.amount > 0))
         return core::refuse(session.ui(), texts::amountNotPositive());
+    const QString problem
+        = core::numberProblem(texts::amountField(), draft.amount, core::NumberKind::Amount);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     if (!typeExists(db, draft.type, 0))
         return core::refuse(session.ui(), texts::expenseTypeMissing(draft.type));
     if (!draft.salesman.isEmpty() && !employeeExists(db, draft.salesman))
@@ -233,7 +238,8 @@ Outcome uncheckExpense(shell::Session &session, const QString &number)
         db.exec(QStringLiteral("update jxc_yyfy set fy_chk='0' where gl_djh=?"), { number });
         if (found->account != noAccountName())
             deleteCashRowsOf(db, number);
-        session.log(texts::expenseUncheckedLog(found->kind, number, core::plainNumber(found->amount)));
+        session.log(
+            texts::expenseUncheckedLog(found->kind, number, core::plainNumber(found->amount)));
         transaction.commit();
         return Outcome::done();
     });

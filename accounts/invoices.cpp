@@ -3,11 +3,12 @@
 #include "accounts/documentsupport.h"
 #include "accounts/runningbalance.h"
 #include "accounts/texts.h"
-#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/lookups.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/operation.h"
+#include "core/rounding.h"
 #include "core/transaction.h"
 #include "shell/session.h"
 #include "shell/settings.h"
@@ -69,6 +70,11 @@ Outcome validateDraft(shell::Session &session, const InvoicingDraft &draft)
         return core::refuse(session.ui(), texts::dateInvalid());
     if (draft.amount == 0)
         return core::refuse(session.ui(), texts::amountZero());
+    // A red invoice takes an amount back: money either way.
+    const QString problem = core::numberProblem(
+        texts::invoiceAmountField(), draft.amount, core::NumberKind::SignedAmount);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     if (!draft.salesman.isEmpty() && !employeeExists(db, draft.salesman))
         return core::refuse(session.ui(), texts::employeeMissing(draft.salesman));
     return Outcome::done();
@@ -215,6 +221,10 @@ Outcome registerInvoice(
         return allowed;
     if (!(entry.invoiceDate.isEmpty() || isDateText(entry.invoiceDate)))
         return core::refuse(session.ui(), texts::dateInvalid());
+    const QString problem = core::numberProblem(
+        texts::invoiceAmountField(), entry.amount, core::NumberKind::SignedAmount);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     return core::guarded(session.ui(), [&] {
         core::Transaction transaction(db);
         db.exec(

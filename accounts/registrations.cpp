@@ -4,11 +4,12 @@
 #include "accounts/documentsupport.h"
 #include "accounts/postings.h"
 #include "accounts/texts.h"
-#include "core/rounding.h"
 #include "core/connection.h"
 #include "core/lookups.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/operation.h"
+#include "core/rounding.h"
 #include "core/transaction.h"
 #include "shell/session.h"
 #include "shell/settings.h"
@@ -81,6 +82,15 @@ Outcome validate(shell::Session &session, const RegistrationDraft &draft)
         return core::refuse(session.ui(), texts::partyMissing(party, draft.party));
     if (!draft.salesman.isEmpty() && !employeeExists(db, draft.salesman))
         return core::refuse(session.ui(), texts::employeeMissing(draft.salesman));
+    // Entries may lower a debt as well as raise it: money either way, within the limits.
+    const std::pair<QString, double> amounts[] = { { texts::dueField(party), draft.due },
+        { texts::paidField(party), draft.paid }, { texts::discountField(), draft.discount },
+        { texts::writtenOffField(), draft.changeWrittenOff } };
+    for (const auto &[field, value] : amounts) {
+        const QString problem = core::numberProblem(field, value, core::NumberKind::SignedAmount);
+        if (!problem.isEmpty())
+            return core::refuse(session.ui(), problem);
+    }
     const bool empty = isCollection(draft.kind) ? draft.paid == 0 && draft.changeWrittenOff == 0
                                                 : draft.due == 0 && draft.paid == 0;
     if (empty)

@@ -60,6 +60,41 @@ QString amountNotPositive()
     return QStringLiteral("金额必须大于零！");
 }
 
+QString dueField(PartyKind kind)
+{
+    return kind == PartyKind::Customer ? QStringLiteral("应收金额") : QStringLiteral("应付金额");
+}
+
+QString paidField(PartyKind kind)
+{
+    return kind == PartyKind::Customer ? QStringLiteral("实收金额") : QStringLiteral("实付金额");
+}
+
+QString discountField()
+{
+    return QStringLiteral("优惠金额");
+}
+
+QString writtenOffField()
+{
+    return QStringLiteral("抹零金额");
+}
+
+QString amountField()
+{
+    return QStringLiteral("金额");
+}
+
+QString invoiceAmountField()
+{
+    return QStringLiteral("开票金额");
+}
+
+QString openingField()
+{
+    return QStringLiteral("期初金额");
+}
+
 QString partyMissing(PartyKind kind, const QString &code)
 {
     return quoted(partyWord(kind), code, QStringLiteral("不存在！"));

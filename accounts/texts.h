@@ -13,6 +13,14 @@ namespace medistock::accounts::texts {
 QString dateInvalid();
 QString amountZero();
 QString amountNotPositive();
+// The money fields as number refusals name them (core/numbers.h states the limits)
+QString dueField(PartyKind kind); // "应收金额" / "应付金额"
+QString paidField(PartyKind kind); // "实收金额" / "实付金额"
+QString discountField(); // "优惠金额"
+QString writtenOffField(); // "抹零金额"
+QString amountField(); // "金额"
+QString invoiceAmountField(); // "开票金额"
+QString openingField(); // "期初金额"
 QString partyMissing(PartyKind kind, const QString &code);
 QString employeeMissing(const QString &code);
 QString employeeNameMissing(const QString &name);

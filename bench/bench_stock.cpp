@@ -1,15 +1,20 @@
 // Posting into a large goods ledger: a 50-line purchase receipt dated today, the same dated a
 // year back (every later row of its goods reruns), its reversal, and one line of a busy goods
 // (20,000 ledger rows) dated a year back; the receipt of today also on a ledger of 10,000 rows.
+// Also opening such a set: the checks every open runs before it may write (quick_check reads the
+// whole file) and the open itself.
 // Each measurement is one posting or reversal with its commit; the opposite operation that puts
 // the ledger back runs with the timer paused. The account sets are built once by the bulk loader
 // (bench/stockledger.cpp) into the temporary folder and copied fresh for every run:
 //   ./build/bench/bench_stock
 #include "bench/keep.h"
 #include "bench/stockledger.h"
+#include "core/connection.h"
 #include "core/dberror.h"
 #include "core/transaction.h"
 #include "stock/purchasereceipt.h"
+
+#include <QFileInfo>
 
 #include <benchmark/benchmark.h>
 
@@ -79,8 +84,32 @@ void measureReversal(benchmark::State &state, bench::LedgerShape shape, QString 
     }
 }
 
+void measureOpening(benchmark::State &state, bench::LedgerShape shape)
+{
+    try {
+        bench::BenchSet &set = benchSet(shape);
+        for (auto _ : state) {
+            auto opened = core::Connection::openSqlite(set.path());
+            benchmark::DoNotOptimize(opened.get());
+        }
+        state.counters["file_mb"] = double(QFileInfo(set.path()).size()) / 1e6;
+    } catch (const core::DbError &error) {
+        state.SkipWithError(error.what());
+    }
+}
+
 } // namespace
 
+BENCHMARK_CAPTURE(measureOpening, e_open_10k, tenThousandRows)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(15)
+    ->ReportAggregatesOnly(true);
+BENCHMARK_CAPTURE(measureOpening, e_open_1M, millionRows)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(15)
+    ->ReportAggregatesOnly(true);
 BENCHMARK_CAPTURE(measurePosting, a_receipt_today_10k, tenThousandRows, bench::receiptToday)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)

@@ -340,7 +340,7 @@ BenchSet::BenchSet(const LedgerShape &shape)
     const QString cached = cachePath(shape);
     if (!QFile::exists(cached))
         build(shape, cached);
-    const QString working = m_dir.filePath(QStringLiteral("jxc.db"));
+    const QString working = path();
     if (!QFile::copy(cached, working))
         throw core::DbError(QStringLiteral("cannot copy ") + cached);
     m_connection = core::Connection::openSqlite(working);

@@ -44,6 +44,8 @@ public:
 
     shell::Session &session() { return *m_session; }
     core::Connection &db() { return *m_connection; }
+    // The working copy's file.
+    QString path() const { return m_dir.filePath(QStringLiteral("jxc.db")); }
     int ledgerRows();
 
 private:

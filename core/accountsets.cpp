@@ -28,12 +28,14 @@ void removeFiles(const QString &path)
 }
 
 // Copies the master file (consistently, even while others write to it) and re-creates every table
-// of the copy with the new set's company row.
+// of the copy with the new set's company row. The copy gets an identity of its own, so that no
+// WAL of the master's is ever taken for its own; closing it leaves it whole, without a WAL.
 void buildSetFile(Connection &master, const QString &path, const SeedContext &seeds)
 {
     removeFiles(path);
     master.exec(QStringLiteral("vacuum into ?"), { path });
     auto copy = Connection::openSqlite(path);
+    copy->giveFileIdentity(true);
     const Outcome created = createAllTables(*copy, seeds);
     if (!created)
         throw DbError(created.message());

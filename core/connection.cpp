@@ -1,7 +1,11 @@
 #include "core/connection.h"
 
 #include "core/dberror.h"
+#include "core/dbfile.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -14,11 +18,43 @@ namespace {
 
 std::atomic<int> connectionCounter { 0 };
 
-QString errorText(const QSqlError &error)
+// SQLite's primary result codes that the operator can do something about.
+enum SqliteCode {
+    Busy = 5,
+    Locked = 6,
+    ReadOnly = 8,
+    IoError = 10,
+    Corrupt = 11,
+    Full = 13,
+    CantOpen = 14,
+    NotADatabase = 26,
+};
+
+// The operator's words for an error of the file at `path` (empty on PostgreSQL).
+QString errorText(const QSqlError &error, const QString &path)
 {
     QString text = error.databaseText().trimmed();
     if (text.isEmpty())
         text = error.text().trimmed();
+    const QString file = QDir::toNativeSeparators(path);
+    if (path.isEmpty())
+        return QStringLiteral("数据库错误：") + text;
+    switch (error.nativeErrorCode().toInt() & 0xff) {
+    case Busy:
+    case Locked:
+        return QStringLiteral("帐套文件“%1”正被其他工作站使用，请稍后再试。").arg(file);
+    case ReadOnly:
+    case CantOpen:
+        return QStringLiteral("帐套文件“%1”不能读写，请检查这个文件和所在磁盘、文件夹的权限。")
+            .arg(file);
+    case IoError:
+        return QStringLiteral("读写帐套文件“%1”时出错，请检查磁盘是否有故障。").arg(file);
+    case Full:
+        return QStringLiteral("磁盘已满，帐套文件“%1”无法写入。请清理磁盘空间后再试。").arg(file);
+    case Corrupt:
+    case NotADatabase:
+        return damagedFileText(path);
+    }
     return QStringLiteral("数据库错误：") + text;
 }
 
@@ -31,12 +67,34 @@ QVariant bindable(const QVariant &value)
     return value;
 }
 
-[[noreturn]] void fail(const QSqlError &error)
+bool isBusy(const QSqlError &error)
 {
-    throw DbError(errorText(error));
+    const int code = error.nativeErrorCode().toInt() & 0xff;
+    return code == Busy || code == Locked;
+}
+
+// Whether a connection of this process has the SQLite file open.
+bool openInThisProcess(const QString &path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    for (const QString &name : QSqlDatabase::connectionNames()) {
+        const QSqlDatabase db = QSqlDatabase::database(name, false);
+        if (db.isOpen() && db.driverName() == QLatin1String("QSQLITE")
+            && QFileInfo(db.databaseName()).canonicalFilePath() == file)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
+
+void Connection::fail(const QSqlError &error)
+{
+    const bool busy = isBusy(error);
+    if (busy)
+        ++m_busyErrors;
+    throw DbError(errorText(error, m_path), busy);
+}
 
 // A checked-out prepared statement: binds, executes and gives the query back to the cache when it
 // goes out of scope, finished, so that no open read cursor holds a table.
@@ -99,24 +157,66 @@ Connection::~Connection()
 
 std::unique_ptr<Connection> Connection::openSqlite(const QString &path)
 {
-    const QString name = QStringLiteral("medistock-%1").arg(++connectionCounter);
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-    db.setDatabaseName(path);
-    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=15000"));
-    if (!db.open()) {
-        const QString text = errorText(db.lastError());
-        db = QSqlDatabase();
-        QSqlDatabase::removeDatabase(name);
-        throw DbError(text);
+    // A file that is there is checked before anything may write to it; a new one is made. A file
+    // this process has open already was checked then; reading its bytes again would even do
+    // harm, as closing any handle on it drops the locks SQLite holds on it for this process.
+    if (QFileInfo(path).exists() && !openInThisProcess(path)) {
+        QString refusal = inspectDatabaseFile(path);
+        if (refusal.isEmpty())
+            refusal = verifyDatabaseFile(path);
+        if (!refusal.isEmpty())
+            throw DbError(refusal);
     }
-    std::unique_ptr<Connection> connection(
-        new Connection(db, Dialect::Sqlite, path, PostgresOptions()));
+    const QString name = QStringLiteral("medistock-%1").arg(++connectionCounter);
+    std::unique_ptr<Connection> connection;
+    {
+        // The handle lives in this block only, so that when the connection is dropped nothing
+        // else still holds the database Qt is asked to remove.
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        db.setDatabaseName(path);
+        db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=15000"));
+        if (!db.open()) {
+            const QString text = errorText(db.lastError(), path);
+            db = QSqlDatabase();
+            QSqlDatabase::removeDatabase(name);
+            throw DbError(text);
+        }
+        connection.reset(new Connection(db, Dialect::Sqlite, path, PostgresOptions()));
+    }
     // WAL lets several copies of the program read while one writes; the cache keeps the ledger
     // indexes in memory on large account sets.
     connection->execDirect(QStringLiteral("pragma journal_mode=wal"));
     connection->execDirect(QStringLiteral("pragma cache_size=-65536"));
     connection->execDirect(QStringLiteral("pragma temp_store=memory"));
+    if (connection->fileIdentity() == 0)
+        connection->giveFileIdentity(false);
     return connection;
+}
+
+void Connection::setBusyTimeout(int milliseconds)
+{
+    // Pragmas take no bound values; the number is the program's own.
+    execDirect(QStringLiteral("pragma busy_timeout=%1").arg(milliseconds));
+}
+
+qint32 Connection::fileIdentity()
+{
+    return firstValue(QStringLiteral("pragma user_version")).toInt();
+}
+
+void Connection::giveFileIdentity(bool renew)
+{
+    // Pragmas take no bound values; the number is the program's own, never typed.
+    const qint32 identity = qint32(QRandomGenerator::system()->bounded(1, 0x7fffffff));
+    beginWrite();
+    try {
+        if (renew || fileIdentity() == 0)
+            execDirect(QStringLiteral("pragma user_version=%1").arg(identity));
+        commitWrite();
+    } catch (...) {
+        rollbackWrite();
+        throw;
+    }
 }
 
 std::unique_ptr<Connection> Connection::openPostgres(const PostgresOptions &options)
@@ -129,7 +229,7 @@ std::unique_ptr<Connection> Connection::openPostgres(const PostgresOptions &opti
     db.setUserName(options.user);
     db.setPassword(options.password);
     if (!db.open()) {
-        const QString text = errorText(db.lastError());
+        const QString text = errorText(db.lastError(), QString());
         db = QSqlDatabase();
         QSqlDatabase::removeDatabase(name);
         throw DbError(text);
@@ -291,6 +391,9 @@ void Connection::commitWrite()
         throw DbError(QStringLiteral("数据库错误：事务中有操作未完成，全部改动已撤销"));
     }
     try {
+        // The header page goes into every commit, so that the WAL carries the file's identity.
+        if (m_dialect == Dialect::Sqlite)
+            execDirect(QStringLiteral("pragma application_id=%1").arg(applicationId));
         execDirect(QStringLiteral("commit"));
     } catch (const DbError &) {
         rollbackWrite();

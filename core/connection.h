@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 
+class QSqlError;
 class QSqlQuery;
 
 namespace medistock::core {
@@ -31,7 +32,9 @@ public:
         QString password;
     };
 
-    // Opens (creating if missing) an SQLite file in WAL mode with a busy timeout.
+    // Opens an SQLite file in WAL mode with a busy timeout. A file that is there must pass the
+    // checks of core/dbfile.h first (read-only, so a damaged or foreign file is never written to);
+    // their refusal is thrown as DbError. A missing file is made, with an identity of its own.
     static std::unique_ptr<Connection> openSqlite(const QString &path);
     static std::unique_ptr<Connection> openPostgres(const PostgresOptions &options);
 
@@ -68,6 +71,18 @@ public:
     // Runs a statement without parameters and without keeping it prepared (DDL, pragmas).
     void execDirect(const QString &sql);
 
+    // How long a statement waits for another connection's lock before it gives up busy (15 s
+    // from opening; tests shorten it). How many statements have given up busy so far: each is
+    // followed by a retry of its operation or, past core::busyAttempts, by its failure.
+    void setBusyTimeout(int milliseconds);
+    int busyErrors() const { return m_busyErrors; }
+
+    // The SQLite file's identity (its header's user_version, see core/dbfile.h); 0 when it has
+    // none yet. giveFileIdentity gives it one if it has none, or a new one when `renew` (a copy
+    // of another file must not keep that file's identity).
+    qint32 fileIdentity();
+    void giveFileIdentity(bool renew);
+
     // Table and column names of the connected database.
     bool tableExists(const QString &table);
     QStringList columnNames(const QString &table);
@@ -83,6 +98,8 @@ public:
 
 private:
     Connection(QSqlDatabase db, Dialect dialect, QString path, PostgresOptions postgres);
+    // Throws the error as DbError, counting it when it is a busy one.
+    [[noreturn]] void fail(const QSqlError &error);
     class Statement;
     // A prepared statement from the cache, or a fresh one when the cached one is in use.
     Statement take(const QString &sql, const QVariantList &params);
@@ -96,6 +113,7 @@ private:
     QHash<QString, bool> m_busy;
     int m_depth = 0;
     bool m_rollbackOnly = false;
+    int m_busyErrors = 0;
 };
 
 } // namespace medistock::core

@@ -75,6 +75,10 @@ Result<InitReport> initDataFolder(const QString &folder, const SeedContext &cont
         removeDatabaseFiles(building);
         return built;
     }
+    // No master file is there, so a WAL under its name is a leftover of another file: SQLite
+    // would replay it into the new one.
+    QFile::remove(report.masterPath + QStringLiteral("-wal"));
+    QFile::remove(report.masterPath + QStringLiteral("-shm"));
     if (!QFile::rename(building, report.masterPath)) {
         removeDatabaseFiles(building);
         return Outcome::failed(QStringLiteral("无法创建主帐套文件：") + report.masterPath);

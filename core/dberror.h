@@ -11,16 +11,20 @@ namespace medistock::core {
 class DbError : public std::runtime_error
 {
 public:
-    explicit DbError(const QString &message)
+    explicit DbError(const QString &message, bool busy = false)
         : std::runtime_error(message.toStdString())
         , m_message(message)
+        , m_busy(busy)
     { }
 
     // The Chinese text shown to the operator.
     const QString &message() const { return m_message; }
+    // Another connection held the database past the busy timeout: trying again may succeed.
+    bool busy() const { return m_busy; }
 
 private:
     QString m_message;
+    bool m_busy;
 };
 
 } // namespace medistock::core

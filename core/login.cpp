@@ -5,7 +5,6 @@
 #include "core/operation.h"
 #include "core/oplog.h"
 #include "core/password.h"
-#include "core/textclean.h"
 #include "core/transaction.h"
 
 #include <QSqlRecord>
@@ -46,21 +45,24 @@ Result<OperatorIdentity> login(Connection &connection, const Clock &clock, Inter
         const QSqlRecord row = connection.firstRow(
             QStringLiteral("select a_name,a_sn,r_sn,a_pwd,a_jyt from jxc_admin where a_name=?"),
             { name });
-        const QString typed = cleanText(password);
         const QString stored = row.value(3).toString();
-        if (row.isEmpty() || !verifyPassword(stored, typed))
+        if (row.isEmpty() || !verifyPassword(stored, password))
             return refuse(interaction, wrongPasswordText());
         if (row.value(4).toInt() != 0)
             return refuse(interaction, QStringLiteral("操作员：%1 已停用，不能登录！").arg(name));
 
-        Transaction transaction(connection);
-        if (!stored.isEmpty() && !isPasswordHash(stored))
-            connection.exec(
-                QStringLiteral("update jxc_admin set a_pwd=? where a_name=? and a_pwd=?"),
-                { hashPassword(typed), name, stored });
-        if (mode == LoginMode::Desktop)
-            writeLog(connection, clock, name, QStringLiteral("登录系统"));
-        transaction.commit();
+        // A login that writes nothing takes no write lock: every command logs in.
+        const bool legacy = !stored.isEmpty() && !isPasswordHash(stored);
+        if (legacy || mode == LoginMode::Desktop) {
+            Transaction transaction(connection);
+            if (legacy)
+                connection.exec(
+                    QStringLiteral("update jxc_admin set a_pwd=? where a_name=? and a_pwd=?"),
+                    { hashPassword(password), name, stored });
+            if (mode == LoginMode::Desktop)
+                writeLog(connection, clock, name, QStringLiteral("登录系统"));
+            transaction.commit();
+        }
         result = OperatorIdentity { row.value(0).toString(), row.value(1).toString(),
             row.value(2).toString() };
         return Outcome::done();

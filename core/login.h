@@ -33,8 +33,9 @@ QStringList loginOperators(Connection &connection);
 // Whether the hint "初始密码为空" is to be shown for the operator.
 bool hasEmptyPassword(Connection &connection, const QString &name);
 
-// Checks name and password (the password after text cleaning). A wrong password is told through
-// the interaction and refused; a plain legacy password is replaced by its hash on success.
+// Checks name and password (taken whole; see core/password.h for the legacy plain password). A
+// wrong password is told through the interaction and refused, writing nothing; a plain legacy
+// password is replaced by the hash of what was typed on success.
 Result<OperatorIdentity> login(Connection &connection, const Clock &clock, Interaction &interaction,
     const QString &name, const QString &password, LoginMode mode);
 

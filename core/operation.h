@@ -4,8 +4,6 @@
 #include "core/interaction.h"
 #include "core/outcome.h"
 
-#include <utility>
-
 namespace medistock::core {
 
 // Tells the operator a refusal and returns it as the operation's outcome.
@@ -15,15 +13,26 @@ inline Outcome refuse(Interaction &interaction, const QString &message)
     return Outcome::refused(message);
 }
 
+// How often an operation runs when another workstation keeps the database busy: each try waits
+// the connection's busy timeout first.
+constexpr int busyAttempts = 3;
+
 // Runs an operation's body and turns a database error into a shown, failed outcome. The body's
-// transaction guard has already rolled everything back by the time the error arrives here.
+// transaction guard has already rolled everything back by the time the error arrives here. When
+// the database stayed busy past the busy timeout the whole body runs again (it re-reads what it
+// decides on, the document's status among it, so nothing it read before counts), up to
+// busyAttempts times. Bodies ask their questions before they are guarded.
 template<class Body> Outcome guarded(Interaction &interaction, Body &&body)
 {
-    try {
-        return std::forward<Body>(body)();
-    } catch (const DbError &error) {
-        interaction.inform(error.message());
-        return Outcome::failed(error.message());
+    for (int attempt = 1;; ++attempt) {
+        try {
+            return body();
+        } catch (const DbError &error) {
+            if (error.busy() && attempt < busyAttempts)
+                continue;
+            interaction.inform(error.message());
+            return Outcome::failed(error.message());
+        }
     }
 }
 

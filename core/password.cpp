@@ -1,5 +1,7 @@
 #include "core/password.h"
 
+#include "core/textclean.h"
+
 #include <sodium.h>
 
 #include <stdexcept>
@@ -38,7 +40,7 @@ bool verifyPassword(const QString &stored, const QString &typed)
     if (stored.isEmpty())
         return typed.isEmpty();
     if (!isPasswordHash(stored))
-        return stored == typed;
+        return stored == cleanText(typed);
     ensureSodium();
     const QByteArray hash = stored.toLatin1();
     const QByteArray utf8 = typed.toUtf8();

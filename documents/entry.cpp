@@ -258,6 +258,8 @@ Result<QString> saveDocument(const shell::Session &session, const DocumentKind &
     ValidDocument &doc = valid.value();
     if (rule && !(outcome = core::guarded(session.ui(), [&] { return rule(session, doc); })))
         return outcome;
+    if (!(outcome = checkColumnNumbers(session, kind, doc)))
+        return outcome;
     QString number;
     outcome = core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());

@@ -102,10 +102,37 @@ struct ValidDocument
     ColumnValues discountColumns; // the kind's own columns of a new discount line
 };
 
-// Checks a draft: date, party, warehouses, employee, then each line's goods, unit, numbers and
-// dates, in that order; the first fault is told and refused. Reads only.
+// Checks a draft: date, party, warehouses, employee, the discount, then each line's goods, unit,
+// numbers, dates and what its figures add up to, in that order; the first fault is told and
+// refused. Reads only.
 Result<ValidDocument> validateDraft(
     const shell::Session &session, const DocumentKind &kind, const DocumentDraft &draft);
+
+// The numbers typed on a document, checked as the save checks them (core/numbers.h has the limits):
+// screens call these as a cell or field is left, so that it shows the refusal the save would.
+// A line's quantity (0 to 100 000 000), price (0 to 100 000 000), tax rate (percent, 0 to 100;
+// empty reads 0) and discount rate (0 to 1; empty reads 1); `row` counts from 1.
+enum class LineNumber { Quantity, Price, TaxRate, DiscountRate };
+Result<double> readLineNumber(int row, LineNumber which, const QString &typed);
+// A header amount (the whole-document discount, the paid amount, an invoice amount, freight): money
+// from 0 to 1 000 000 000 000, not NaN; the refusal text naming `label`, empty when it fits.
+QString headerAmountProblem(const QString &label, double value);
+// A header amount as typed on a screen, read and checked as above; an empty text reads 0. The
+// refusal is not told.
+Result<double> readHeaderAmount(const QString &label, const QString &typed);
+// The same for several amounts of one header, in the order given: the first refusal, or empty.
+struct LabelledAmount
+{
+    QString label;
+    double value;
+};
+QString headerAmountsProblem(const QList<LabelledAmount> &amounts);
+
+// Whatever a kind's rule put into its header and line columns: numbers the columns can hold
+// (finite, within ±1 000 000 000 000). Told and refused otherwise; saveDocument runs it after the
+// rule, and a kind that builds its columns elsewhere calls it before its transaction.
+Outcome checkColumnNumbers(
+    const shell::Session &session, const DocumentKind &kind, const ValidDocument &doc);
 
 // A kind's own rules, run after the shared checks and before the save's transaction: it may
 // refuse (telling why), ask the operator, change figures or add columns.

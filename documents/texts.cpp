@@ -91,39 +91,59 @@ QString unitWithoutFactor(int row, const QString &goodsName, const QString &unit
     return line(row) + QStringLiteral("商品“%1”的单位“%2”没有转换系数！").arg(goodsName, unit);
 }
 
-QString quantityNotNumber(int row, const QString &text)
-{
-    return line(row) + QStringLiteral("数量“%1”不是数字！").arg(text);
-}
-
 QString quantityZero(int row)
 {
     return line(row) + QStringLiteral("数量不能为零！");
 }
 
-QString quantityNegative(int row)
+QString quantityField(int row)
 {
-    return line(row) + QStringLiteral("数量不能为负数！");
+    return line(row) + QStringLiteral("数量");
 }
 
-QString priceNotNumber(int row, const QString &text)
+QString paidField(bool comesIn)
 {
-    return line(row) + QStringLiteral("单价“%1”不是数字！").arg(text);
+    return comesIn ? QStringLiteral("实收金额") : QStringLiteral("实付金额");
 }
 
-QString priceNegative(int row)
+QString invoiceAmountField()
 {
-    return line(row) + QStringLiteral("单价不能为负数！");
+    return QStringLiteral("发票金额");
 }
 
-QString taxRateNotNumber(int row, const QString &text)
+QString freightField()
 {
-    return line(row) + QStringLiteral("税率“%1”不是有效的数字！").arg(text);
+    return QStringLiteral("运费");
 }
 
-QString discountRateNotNumber(int row, const QString &text)
+QString packingField()
 {
-    return line(row) + QStringLiteral("折扣“%1”不是有效的数字！").arg(text);
+    return QStringLiteral("包装费");
+}
+
+QString priceField(int row)
+{
+    return line(row) + QStringLiteral("单价");
+}
+
+QString taxRateField(int row)
+{
+    return line(row) + QStringLiteral("税率");
+}
+
+QString discountRateField(int row)
+{
+    return line(row) + QStringLiteral("折扣");
+}
+
+QString baseQuantityField(int row)
+{
+    return line(row) + QStringLiteral("基本单位数量");
+}
+
+QString lineTotalField(int row)
+{
+    return line(row) + QStringLiteral("价税合计");
 }
 
 QString producedInvalid(int row, const QString &date)

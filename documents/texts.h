@@ -23,16 +23,24 @@ QString goodsDisabled(int row, const QString &name);
 QString discountGoodsEntered(int row);
 QString unitMissing(int row, const QString &goodsName, const QString &unit);
 QString unitWithoutFactor(int row, const QString &goodsName, const QString &unit);
-QString quantityNotNumber(int row, const QString &text);
 QString quantityZero(int row);
-QString quantityNegative(int row);
-QString priceNotNumber(int row, const QString &text);
-QString priceNegative(int row);
-QString taxRateNotNumber(int row, const QString &text);
-QString discountRateNotNumber(int row, const QString &text);
 QString producedInvalid(int row, const QString &date);
 QString expiryInvalid(int row, const QString &date);
 QString expiryBeforeProduced(int row);
+
+// The numbers of a line as number refusals name them ("第1行：数量")
+QString quantityField(int row);
+QString priceField(int row);
+QString taxRateField(int row);
+QString discountRateField(int row);
+QString baseQuantityField(int row);
+QString lineTotalField(int row);
+
+// The typed amounts of a header as number refusals name them
+QString paidField(bool comesIn); // "实收金额" when the money comes in, else "实付金额"
+QString invoiceAmountField(); // "发票金额"
+QString freightField(); // "运费"
+QString packingField(); // "包装费"
 
 // Saving and deleting
 QString documentMissing(const QString &number);

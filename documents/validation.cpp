@@ -2,8 +2,10 @@
 
 #include "core/connection.h"
 #include "core/lookups.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/rounding.h"
+#include "core/schemacatalogue.h"
 #include "core/textclean.h"
 #include "documents/expiry.h"
 #include "documents/texts.h"
@@ -18,25 +20,47 @@ namespace medistock::documents {
 
 namespace {
 
+// A caption for a column in refusals: the screens' label, else its name.
+QString columnLabel(const char *table, const char *column)
+{
+    if (const core::TableDef *def = core::findTable(QString::fromLatin1(table)))
+        for (const core::ColumnDef &c : def->columns)
+            if (qstrcmp(c.name, column) == 0 && *c.label)
+                return QString::fromUtf8(c.label);
+    return QString::fromLatin1(column);
+}
+
+bool isNumberColumn(const char *table, const QString &column)
+{
+    if (const core::TableDef *def = core::findTable(QString::fromLatin1(table)))
+        for (const core::ColumnDef &c : def->columns)
+            if (column == QLatin1String(c.name))
+                return qstrncmp(c.type, "numeric", 7) == 0 || qstrcmp(c.type, "int") == 0;
+    return false;
+}
+
+// The values a kind's rule put into the columns of one table: whatever they mean, numbers must be
+// numbers that a document can hold (a rule copies typed header amounts here).
+QString columnNumbersProblem(const char *table, const ColumnValues &columns)
+{
+    for (const auto &[column, value] : columns.items()) {
+        if (value.isNull() || !isNumberColumn(table, column))
+            continue;
+        bool ok = false;
+        const double number = value.toDouble(&ok);
+        const QString label = columnLabel(table, column.toLatin1().constData());
+        const QString problem = ok
+            ? core::numberProblem(label, number, core::NumberKind::SignedAmount)
+            : core::numberProblem(label, std::nan(""), core::NumberKind::SignedAmount);
+        if (!problem.isEmpty())
+            return problem;
+    }
+    return QString();
+}
+
 bool isDateText(const QString &text)
 {
     return text.size() == 10 && QDate::fromString(text, QStringLiteral("yyyy-MM-dd")).isValid();
-}
-
-// A typed number: decimal text, blanks around it allowed; nothing for anything else.
-std::optional<double> typedNumber(const QString &text)
-{
-    bool ok = false;
-    const double value = text.trimmed().toDouble(&ok);
-    if (!ok || !std::isfinite(value))
-        return std::nullopt;
-    return value;
-}
-
-// An optional number: empty reads as `absent`.
-std::optional<double> typedNumber(const QString &text, double absent)
-{
-    return text.trimmed().isEmpty() ? std::optional<double>(absent) : typedNumber(text);
 }
 
 Outcome checkParty(const shell::Session &session, const DocumentKind &kind, ValidDocument &doc)
@@ -101,6 +125,12 @@ Outcome checkHeader(const shell::Session &session, const DocumentKind &kind,
         return core::refuse(session.ui(), texts::employeeMissing(doc.employee));
     if (doc.discount != 0 && !*kind.header.discount)
         return core::refuse(session.ui(), texts::discountNotOffered(QString::fromUtf8(kind.title)));
+    if (*kind.header.discount) {
+        const QString problem = headerAmountProblem(
+            columnLabel(kind.header.table, kind.header.discount), doc.discount);
+        if (!problem.isEmpty())
+            return core::refuse(session.ui(), problem);
+    }
     if (draft.lines.isEmpty())
         return core::refuse(session.ui(), texts::noLines());
     return Outcome::done();
@@ -156,32 +186,38 @@ Outcome checkUnit(const shell::Session &session, const DocumentKind &kind, const
 Outcome checkNumbers(const shell::Session &session, const DocumentKind &kind,
     const LineDraft &draft, ValidLine &line, LineInput &input)
 {
-    core::Interaction &ui = session.ui();
-    const int row = line.row;
-    const auto quantity = typedNumber(draft.quantity);
-    if (!quantity)
-        return core::refuse(ui, texts::quantityNotNumber(row, draft.quantity));
-    const auto price = typedNumber(draft.price);
-    if (!price)
-        return core::refuse(ui, texts::priceNotNumber(row, draft.price));
-    const auto taxRate = typedNumber(draft.taxRate, 0);
-    if (!taxRate || *taxRate < 0)
-        return core::refuse(ui, texts::taxRateNotNumber(row, draft.taxRate));
-    const auto discountRate = typedNumber(draft.discountRate, 1);
-    if (!discountRate || *discountRate < 0)
-        return core::refuse(ui, texts::discountRateNotNumber(row, draft.discountRate));
-    if (*quantity < 0)
-        return core::refuse(ui, texts::quantityNegative(row));
+    const auto read = [&](LineNumber which, const QString &typed, double &into) {
+        const Result<double> value = readLineNumber(line.row, which, typed);
+        if (value)
+            into = value.value();
+        return value.outcome();
+    };
+    Outcome outcome = read(LineNumber::Quantity, draft.quantity, input.quantity);
+    if (outcome)
+        outcome = read(LineNumber::Price, draft.price, input.price);
+    if (outcome)
+        outcome = read(LineNumber::TaxRate, draft.taxRate, input.taxRate);
+    if (outcome)
+        outcome = read(LineNumber::DiscountRate, draft.discountRate, input.discountRate);
+    if (!outcome)
+        return core::refuse(session.ui(), outcome.message());
     // Zero as stored: a quantity that rounds away to nothing is no quantity.
     if (!kind.zeroQuantityAllowed
-        && core::roundTo(*quantity, session.params().quantityDecimals()) == 0)
-        return core::refuse(ui, texts::quantityZero(row));
-    if (*price < 0)
-        return core::refuse(ui, texts::priceNegative(row));
-    input.quantity = *quantity;
-    input.price = *price;
-    input.taxRate = *taxRate;
-    input.discountRate = *discountRate;
+        && core::roundTo(input.quantity, session.params().quantityDecimals()) == 0)
+        return core::refuse(session.ui(), texts::quantityZero(line.row));
+    return Outcome::done();
+}
+
+// What the line adds up to must keep the limits too: stock in base units, and the money.
+Outcome checkFigures(const shell::Session &session, const ValidLine &line)
+{
+    QString problem = core::numberProblem(
+        texts::baseQuantityField(line.row), line.figures.baseQuantity, core::NumberKind::Quantity);
+    if (problem.isEmpty())
+        problem = core::numberProblem(
+            texts::lineTotalField(line.row), line.figures.total, core::NumberKind::Amount);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     return Outcome::done();
 }
 
@@ -214,6 +250,8 @@ Outcome checkLine(const shell::Session &session, const DocumentKind &kind, const
         return outcome;
     input.factor = factor;
     line.figures = computeLine(input, LineRounding::of(session.params()));
+    if (!(outcome = checkFigures(session, line)))
+        return outcome;
     // Batch numbers are compared as exact text on every document and in batch stock, so they
     // get only the light cleaning, whatever the document's strength: "-" and "/" stay.
     line.batch = core::cleanText(draft.batch.trimmed(), core::CleanStrength::Light);
@@ -223,6 +261,53 @@ Outcome checkLine(const shell::Session &session, const DocumentKind &kind, const
 }
 
 } // namespace
+
+Result<double> readLineNumber(int row, LineNumber which, const QString &typed)
+{
+    switch (which) {
+    case LineNumber::Quantity:
+        return core::readNumber(texts::quantityField(row), typed, core::NumberKind::Quantity);
+    case LineNumber::Price:
+        return core::readNumber(texts::priceField(row), typed, core::NumberKind::Price);
+    case LineNumber::TaxRate:
+        return core::readNumber(texts::taxRateField(row), typed, core::NumberKind::Percent, 0);
+    case LineNumber::DiscountRate:
+        return core::readNumber(
+            texts::discountRateField(row), typed, core::NumberKind::DiscountRate, 1);
+    }
+    return Outcome::refused(QString());
+}
+
+QString headerAmountProblem(const QString &label, double value)
+{
+    return core::numberProblem(label, value, core::NumberKind::Amount);
+}
+
+Result<double> readHeaderAmount(const QString &label, const QString &typed)
+{
+    return core::readNumber(label, typed, core::NumberKind::Amount, 0);
+}
+
+QString headerAmountsProblem(const QList<LabelledAmount> &amounts)
+{
+    for (const LabelledAmount &amount : amounts)
+        if (QString problem = headerAmountProblem(amount.label, amount.value); !problem.isEmpty())
+            return problem;
+    return QString();
+}
+
+Outcome checkColumnNumbers(
+    const shell::Session &session, const DocumentKind &kind, const ValidDocument &doc)
+{
+    QString problem = columnNumbersProblem(kind.header.table, doc.columns);
+    for (qsizetype i = 0; problem.isEmpty() && i < doc.lines.size(); ++i)
+        problem = columnNumbersProblem(kind.lines.table, doc.lines[i].columns);
+    if (problem.isEmpty())
+        problem = columnNumbersProblem(kind.lines.table, doc.discountColumns);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
+    return Outcome::done();
+}
 
 Result<ValidDocument> validateDraft(
     const shell::Session &session, const DocumentKind &kind, const DocumentDraft &draft)

@@ -1,6 +1,7 @@
 #include "gsp/inspection.h"
 
 #include "core/connection.h"
+#include "core/numbers.h"
 #include "core/textclean.h"
 #include "gsp/expiry.h"
 #include "gsp/reading.h"
@@ -122,9 +123,14 @@ QString figureRefusal(const InspectionHeader &h)
                 figure.low, figure.high);
     for (const GroupColumns &g : groups)
         for (const QVariant &value : groupValues(g, h.*(g.group)))
-            if (value.typeId() == QMetaType::Double
-                && (!std::isfinite(value.toDouble()) || value.toDouble() < 0))
-                return texts::badNumber(QStringLiteral("检查数量"), value.toString());
+            if (value.typeId() == QMetaType::Double) {
+                if (!std::isfinite(value.toDouble()) || value.toDouble() < 0)
+                    return texts::badNumber(QStringLiteral("检查数量"), value.toString());
+                if (const QString problem = core::numberProblem(
+                        QStringLiteral("检查数量"), value.toDouble(), core::NumberKind::Quantity);
+                    !problem.isEmpty())
+                    return problem;
+            }
     return QString();
 }
 

@@ -1,6 +1,7 @@
 #include "gsp/picking.h"
 
 #include "core/connection.h"
+#include "core/numbers.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
 #include "gsp/expiry.h"
@@ -176,6 +177,10 @@ Outcome changePickedLine(const shell::Session &session, qint64 id, const QString
     const double value = quantity.trimmed().toDouble(&ok);
     if (!ok || value < 0 || !std::isfinite(value))
         return core::refuse(session.ui(), texts::badNumber(QStringLiteral("数量"), quantity));
+    if (const QString problem
+        = core::numberProblem(QStringLiteral("数量"), value, core::NumberKind::Quantity);
+        !problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     const QString cleanQuality = core::cleanText(quality.trimmed(), core::CleanStrength::Medium);
     const QString cleanHandling = core::cleanText(handling.trimmed(), core::CleanStrength::Medium);
     if (cleanQuality.size() > noteWidth)

@@ -5,6 +5,7 @@
 #include "core/operation.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
+#include "masterdata/numbers.h"
 #include "masterdata/texts.h"
 #include "shell/session.h"
 #include "shell/settings.h"
@@ -130,8 +131,14 @@ Result<qint64> addGoodsUnit(
         const QString name = cleaned(unit.unit);
         if (name.isEmpty())
             return core::refuse(session.ui(), texts::nameRequired(QStringLiteral("单位")));
-        if (!(unit.factor > 0))
-            return core::refuse(session.ui(), texts::badFactor(QString::number(unit.factor)));
+        const QString unitTable = QStringLiteral("jxc_goodsdw");
+        QString problem = masterNumberProblem(unitTable, QStringLiteral("g_zhxs"), unit.factor);
+        if (problem.isEmpty())
+            problem = masterNumberProblem(unitTable, QStringLiteral("g_jj"), unit.purchasePrice);
+        if (problem.isEmpty())
+            problem = masterNumberProblem(unitTable, QStringLiteral("g_sj"), unit.salePrice);
+        if (!problem.isEmpty())
+            return core::refuse(session.ui(), problem);
         if (name
                 == db.firstText(
                     QStringLiteral("select dw_name from jxc_goods where g_sn=?"), { code })
@@ -233,6 +240,10 @@ Outcome setGoodsPrice(
         const QString priceName = cleaned(name);
         if (priceName.isEmpty())
             return core::refuse(session.ui(), texts::nameRequired(QStringLiteral("价格名称")));
+        const QString problem = masterNumberProblem(
+            QStringLiteral("jxc_goodsprice"), QStringLiteral("gp_price"), price);
+        if (!problem.isEmpty())
+            return core::refuse(session.ui(), problem);
         core::Transaction transaction(db);
         if (db.exec(
                 QStringLiteral("update jxc_goodsprice set gp_price=? where g_sn=? and gp_name=?"),

@@ -8,6 +8,7 @@
 #include "core/transaction.h"
 #include "masterdata/goods.h"
 #include "masterdata/mnemonic.h"
+#include "masterdata/numbers.h"
 #include "masterdata/texts.h"
 #include "shell/session.h"
 #include "shell/settings.h"
@@ -62,30 +63,20 @@ bool isDateColumn(const MasterKind &kind, const QString &column)
 QString convert(const MasterKind &kind, const core::ColumnDef &column, QVariant &value)
 {
     const QString type = QString::fromLatin1(column.type);
-    const QString text = value.toString().trimmed();
-    if (type.startsWith(QLatin1String("numeric"))) {
-        bool ok = text.isEmpty();
-        const double number = ok ? 0 : text.toDouble(&ok);
-        if (!ok)
-            return texts::notANumber(fieldLabel(column), text);
-        value = number;
-    } else if (type == QLatin1String("int") || type == QLatin1String("integer")) {
-        bool ok = text.isEmpty();
-        const int number = ok ? 0 : text.toInt(&ok);
-        if (!ok)
-            return texts::notAWholeNumber(fieldLabel(column), text);
-        value = number;
-    } else if (type == QLatin1String("bit")) {
-        const bool set = text == QLatin1String("1")
-            || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0
-            || text == QStringLiteral("是");
-        value = set ? 1 : 0;
+    const bool whole = type == QLatin1String("int") || type == QLatin1String("integer")
+        || type == QLatin1String("bit");
+    if (whole || type.startsWith(QLatin1String("numeric"))) {
+        const Result<double> number
+            = readMasterNumber(str(kind.table), str(column.name), value.toString());
+        if (!number)
+            return number.message();
+        value = whole ? QVariant(int(number.value())) : QVariant(number.value());
     } else {
         const QString cleaned
             = core::cleanText(value.toString().trimmed(), core::CleanStrength::Medium);
         if (isDateColumn(kind, QString::fromLatin1(column.name)) && !cleaned.isEmpty()
             && !QDate::fromString(cleaned, QStringLiteral("yyyy-MM-dd")).isValid())
-            return texts::notADate(fieldLabel(column), text);
+            return texts::notADate(fieldLabel(column), value.toString().trimmed());
         const int width = declaredWidth(type);
         if (width > 0 && cleaned.size() > width)
             return texts::tooLong(fieldLabel(column), width);

@@ -17,16 +17,6 @@ QString nameTaken(const QString &nameLabel, const QString &name)
     return QStringLiteral("%1：%2 已经存在，请重新输入！").arg(nameLabel, name);
 }
 
-QString notANumber(const QString &field, const QString &text)
-{
-    return QStringLiteral("%1必须是数字：%2").arg(field, text);
-}
-
-QString notAWholeNumber(const QString &field, const QString &text)
-{
-    return QStringLiteral("%1必须是整数：%2").arg(field, text);
-}
-
 QString notADate(const QString &field, const QString &text)
 {
     return QStringLiteral("%1不是正确的日期（yyyy-MM-dd）：%2").arg(field, text);
@@ -63,11 +53,6 @@ QString codeRequired()
 QString barcodeTaken(const QString &barcode, const QString &goodsName)
 {
     return QStringLiteral("条码：%1 已被商品“%2”使用！").arg(barcode, goodsName);
-}
-
-QString badFactor(const QString &text)
-{
-    return QStringLiteral("转换系数必须大于0：") + text;
 }
 
 QString unitTaken(const QString &unit)

@@ -11,8 +11,6 @@ QString nameRequired(const QString &nameLabel); // "商品名称必须填写！"
 QString codeTaken(const QString &code); // "编号：100002 已经存在，请重新输入！"
 QString nameTaken(
     const QString &nameLabel, const QString &name); // "单位名称：盒 已经存在，请重新输入！"
-QString notANumber(const QString &field, const QString &text); // "预设进价必须是数字：abc"
-QString notAWholeNumber(const QString &field, const QString &text); // "最低库存必须是整数：1.5"
 QString notADate(const QString &field,
     const QString &text); // "开始日期不是正确的日期（yyyy-MM-dd）：2025-02-30"
 QString tooLong(const QString &field, int limit); // "商品名称不能超过128个字！"
@@ -21,7 +19,6 @@ QString notFound(const QString &label, const QString &code); // "没有这个商
 QString inUse(const QString &label, const QString &name, const QString &what, bool canDisable);
 QString codeRequired(); // "编号必须填写！"
 QString barcodeTaken(const QString &barcode, const QString &goodsName);
-QString badFactor(const QString &text); // "转换系数必须大于0：0"
 QString unitTaken(const QString &unit); // "单位：箱 已经存在，请重新输入！"
 QString classNotEmpty(const QString &name);
 QString classCycle();

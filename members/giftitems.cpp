@@ -2,6 +2,7 @@
 
 #include "core/connection.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
@@ -17,6 +18,14 @@
 namespace medistock::members {
 
 namespace {
+
+// A quantity of gifts bought or given away: above 0, within the shared quantity limits.
+QString giftQuantityProblem(double quantity)
+{
+    if (quantity <= 0)
+        return texts::giftQuantityNotPositive();
+    return core::numberProblem(texts::giftQuantityField(), quantity, core::NumberKind::Quantity);
+}
 
 Outcome requireGiftsRight(const shell::Session &session)
 {
@@ -140,8 +149,8 @@ Result<qint64> addGiftPurchase(const shell::Session &session, const QString &cod
     const Outcome outcome = change(session, [&](core::Connection &db) {
         if (!itemExists(db, code))
             return Outcome::refused(texts::giftItemMissing(code));
-        if (quantity <= 0)
-            return Outcome::refused(texts::giftQuantityNotPositive());
+        if (const QString problem = giftQuantityProblem(quantity); !problem.isEmpty())
+            return Outcome::refused(problem);
         if (!date.isValid())
             return Outcome::refused(texts::giftDateInvalid());
         id = db.insert(QStringLiteral("insert into jxc_zpjh (zp_sn,zp_jhrq,zp_sl,zp_note,a_name) "
@@ -179,8 +188,8 @@ Result<QString> addGiveAway(const shell::Session &session, QDate date, const QSt
         for (const GiveAwayLine &line : lines) {
             if (!itemExists(db, line.code))
                 return Outcome::refused(texts::giftItemMissing(line.code));
-            if (line.quantity <= 0)
-                return Outcome::refused(texts::giftQuantityNotPositive());
+            if (const QString problem = giftQuantityProblem(line.quantity); !problem.isEmpty())
+                return Outcome::refused(problem);
             total += line.quantity;
         }
         const Result<QString> next = core::nextDocumentNumber(

@@ -3,6 +3,7 @@
 #include "accounts/postings.h"
 #include "core/connection.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
@@ -59,6 +60,10 @@ Result<RedemptionLine> offeredLine(core::Connection &db, const RedemptionLine &l
         return Outcome::refused(texts::notAGift(row, line.goods));
     if (line.quantity <= 0 || line.quantity != std::trunc(line.quantity))
         return Outcome::refused(texts::giftQuantityInvalid(row));
+    if (const QString problem = core::numberProblem(
+            texts::redeemQuantityField(row), line.quantity, core::NumberKind::Quantity);
+        !problem.isEmpty())
+        return Outcome::refused(problem);
     return RedemptionLine { line.goods, g.value(0).toString(), g.value(1).toDouble(),
         line.quantity };
 }

@@ -2,6 +2,7 @@
 
 #include "core/connection.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/rounding.h"
 #include "core/textclean.h"
@@ -130,8 +131,10 @@ Result<PricedLine> priceLine(
         return Outcome::refused(documents::texts::goodsMissing(row, l.goods));
     if ((d.kind == RetailKind::Sale) != (l.quantity > 0))
         return Outcome::refused(texts::retailQuantitySign(row, d.kind == RetailKind::Return));
-    if (l.price < 0)
-        return Outcome::refused(documents::texts::priceNegative(row));
+    const QString priceProblem
+        = core::numberProblem(documents::texts::priceField(row), l.price, core::NumberKind::Price);
+    if (!priceProblem.isEmpty())
+        return Outcome::refused(priceProblem);
     if (l.discountRate <= 0 || l.unitFactor <= 0)
         return Outcome::refused(texts::retailRateInvalid(row));
     const shell::Parameters &params = session.params();

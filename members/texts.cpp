@@ -362,6 +362,11 @@ QString giftQuantityInvalid(int row)
     return line(row) + QStringLiteral("兑换数量必须是大于0的整数！");
 }
 
+QString redeemQuantityField(int row)
+{
+    return line(row) + QStringLiteral("兑换数量");
+}
+
 QString pointsShort(double points, double needed)
 {
     return QStringLiteral("会员积分不足：当前积分%1，本次兑换需要%2积分，不能兑换！")
@@ -432,6 +437,11 @@ QString giftItemHasMovements(const QString &code)
 QString giftQuantityNotPositive()
 {
     return QStringLiteral("数量必须大于0！");
+}
+
+QString giftQuantityField()
+{
+    return QStringLiteral("数量");
 }
 
 QString giftDateInvalid()

@@ -88,6 +88,7 @@ QString redeemedBefore(const QString &time);
 QString noGiftsChosen();
 QString notAGift(int row, const QString &goods);
 QString giftQuantityInvalid(int row);
+QString redeemQuantityField(int row); // "第1行：兑换数量", as number refusals name it
 QString pointsShort(double points, double needed);
 QString redemptionExpenseType(); // "费用"
 QString redemptionExpenseNote(const QString &number);
@@ -104,6 +105,7 @@ QString giftCodeTaken(const QString &code);
 QString giftCodeIsGoods(const QString &code);
 QString giftItemHasMovements(const QString &code);
 QString giftQuantityNotPositive();
+QString giftQuantityField(); // "数量", as number refusals name it
 QString giftDateInvalid();
 QString giftPurchaseMissing();
 QString giveAwayMissing(const QString &number);

@@ -8,6 +8,7 @@
 #include "core/operation.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
+#include "documents/entry.h"
 #include "documents/lifecycle.h"
 #include "documents/texts.h"
 #include "purchasing/texts.h"
@@ -26,8 +27,8 @@ QString name(const char *column)
     return QString::fromLatin1(column);
 }
 
-Outcome readDialog(const shell::Session &session, const PurchaseHeaderRow &header,
-    const CheckInput &input, CheckValues &values)
+Outcome readDialog(const shell::Session &session, const PurchaseKind &kind,
+    const PurchaseHeaderRow &header, const CheckInput &input, CheckValues &values)
 {
     values.paid = input.paid.value_or(header.paid);
     values.mode = input.mode.value_or(header.mode).trimmed();
@@ -41,8 +42,10 @@ Outcome readDialog(const shell::Session &session, const PurchaseHeaderRow &heade
         values.account = accounts::cashAccountName();
     if (!accounts::bankAccountExists(session.db(), values.account))
         return core::refuse(session.ui(), accounts::texts::accountMissing(values.account));
-    if (values.paid < 0)
-        return core::refuse(session.ui(), texts::amountNegative());
+    const QString problem = documents::headerAmountProblem(
+        documents::texts::paidField(&kind == &purchaseReturn()), values.paid);
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     return Outcome::done();
 }
 
@@ -96,7 +99,7 @@ Outcome prepareCheck(const shell::Session &session, const PurchaseKind &kind, co
         const Outcome open = documents::requireOpenPeriod(session, header.date);
         if (!open)
             return open;
-        return readDialog(session, header, input, values);
+        return readDialog(session, kind, header, input, values);
     });
 }
 

@@ -9,6 +9,7 @@
 #include "core/rounding.h"
 #include "core/textclean.h"
 #include "documents/returnlimits.h"
+#include "documents/texts.h"
 #include "purchasing/kinds.h"
 #include "purchasing/texts.h"
 #include "shell/session.h"
@@ -28,7 +29,7 @@ QString name(const char *column)
     return QString::fromLatin1(column);
 }
 
-Outcome checkHeader(const shell::Session &session, PurchaseHeader &h)
+Outcome checkHeader(const shell::Session &session, PurchaseHeader &h, bool isReturn)
 {
     if (h.settlementMode.isEmpty())
         h.settlementMode = QStringLiteral("1");
@@ -40,8 +41,14 @@ Outcome checkHeader(const shell::Session &session, PurchaseHeader &h)
         return core::refuse(session.ui(), accounts::texts::accountMissing(h.account));
     if (!accounts::isFreightTerms(h.freightTerms))
         return core::refuse(session.ui(), texts::freightTermsInvalid(h.freightTerms));
-    if (h.paid < 0 || h.invoiceAmount < 0 || h.freight < 0 || h.packing < 0)
-        return core::refuse(session.ui(), texts::amountNegative());
+    const QString problem = documents::headerAmountsProblem({
+        { documents::texts::paidField(isReturn), h.paid },
+        { documents::texts::invoiceAmountField(), h.invoiceAmount },
+        { documents::texts::freightField(), h.freight },
+        { documents::texts::packingField(), h.packing },
+    });
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     return Outcome::done();
 }
 
@@ -81,7 +88,7 @@ Result<QString> save(const shell::Session &session, const PurchaseKind &kind,
 {
     PurchaseHeader header = draft.header;
     const documents::EntryRule rule = [&](const shell::Session &s, ValidDocument &doc) {
-        const Outcome checked = checkHeader(s, header);
+        const Outcome checked = checkHeader(s, header, isReturn);
         if (!checked)
             return checked;
         setHeaderColumns(kind, header, doc);

@@ -35,9 +35,10 @@ struct PurchaseDraft
 };
 
 // Saves a receipt or a return through the shared entry (its checks, numbering and log), with the
-// purchase header checked too: settlement mode, an existing account, the freight terms, no
-// negative amount; a return line must not return more than its receipt line still holds (its
-// base quantity less what other return lines against it take). Returns the number.
+// purchase header checked too: settlement mode, an existing account, the freight terms, every
+// amount within the money limits (documents::headerAmountProblem); a return line must not return
+// more than its receipt line still holds (its base quantity less what other return lines against it
+// take). Returns the number.
 Result<QString> savePurchaseReceipt(const shell::Session &session, const PurchaseDraft &draft);
 Result<QString> savePurchaseReturn(const shell::Session &session, const PurchaseDraft &draft);
 

@@ -36,11 +36,6 @@ QString freightTermsInvalid(const QString &terms)
     return QStringLiteral("付费方式“%1”不正确，应为“我方付运费”或“对方付运费”！").arg(terms);
 }
 
-QString amountNegative()
-{
-    return QStringLiteral("实付金额、发票金额、运费和包装费不能为负数！");
-}
-
 QString receiptLineMissing(int row)
 {
     return QStringLiteral("第%1行：退货对应的进货单明细不存在、未审核或不是同一商品！").arg(row);

@@ -12,7 +12,6 @@ QString receivingNoteRefusal(const QString &number);
 QString returnedReceiptRefusal(const QString &number);
 QString settlementModeInvalid(const QString &mode);
 QString freightTermsInvalid(const QString &terms);
-QString amountNegative();
 QString receiptLineMissing(int row);
 QString returnExceedsReceipt(int row, const QString &receipt, const QString &left);
 

@@ -180,7 +180,7 @@ void markLines(const shell::Session &session, const ValidDocument &doc, const QS
 
 Outcome saleRule(const shell::Session &session, SaleHeader &header, ValidDocument &doc)
 {
-    Outcome outcome = checkSaleHeader(session, header);
+    Outcome outcome = checkSaleHeader(session, header, false);
     if (outcome)
         outcome = checkOrderLines(session, doc);
     if (outcome)
@@ -218,7 +218,7 @@ Outcome loanedGoodsRule(
 
 Outcome orderRule(const shell::Session &session, SaleHeader &header, ValidDocument &doc)
 {
-    const Outcome outcome = checkSaleHeader(session, header);
+    const Outcome outcome = checkSaleHeader(session, header, false);
     if (!outcome)
         return outcome;
     setSaleHeaderColumns(session, header, doc, true);

@@ -9,6 +9,7 @@
 #include "core/interaction.h"
 #include "core/operation.h"
 #include "core/rounding.h"
+#include "documents/texts.h"
 #include "sales/options.h"
 #include "sales/prices.h"
 #include "sales/texts.h"
@@ -16,7 +17,7 @@
 
 namespace medistock::sales {
 
-Outcome checkSaleHeader(const shell::Session &session, SaleHeader &h)
+Outcome checkSaleHeader(const shell::Session &session, SaleHeader &h, bool isReturn)
 {
     h.settlementMode = h.settlementMode.trimmed();
     if (h.settlementMode.isEmpty())
@@ -31,8 +32,14 @@ Outcome checkSaleHeader(const shell::Session &session, SaleHeader &h)
         return core::refuse(session.ui(), accounts::texts::accountMissing(h.account));
     if (!accounts::isFreightTerms(h.freightTerms))
         return core::refuse(session.ui(), texts::freightTermsInvalid(h.freightTerms));
-    if (h.paid < 0 || h.invoiceAmount < 0 || h.freight < 0 || h.packing < 0)
-        return core::refuse(session.ui(), texts::amountNegative());
+    const QString problem = documents::headerAmountsProblem({
+        { documents::texts::paidField(!isReturn), h.paid },
+        { documents::texts::invoiceAmountField(), h.invoiceAmount },
+        { documents::texts::freightField(), h.freight },
+        { documents::texts::packingField(), h.packing },
+    });
+    if (!problem.isEmpty())
+        return core::refuse(session.ui(), problem);
     return Outcome::done();
 }
 

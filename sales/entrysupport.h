@@ -15,8 +15,9 @@ namespace medistock::sales {
 // What saving the three sales documents shares.
 
 // The sales header as typed: settlement mode 0, 1 or 2 (empty: 1), an existing account (empty:
-// "现金"), the freight terms, no negative amount. Tells its refusal.
-Outcome checkSaleHeader(const shell::Session &session, SaleHeader &header);
+// "现金"), the freight terms, each amount within the money limits (the paid amount goes back to
+// the customer on a return). Tells its refusal.
+Outcome checkSaleHeader(const shell::Session &session, SaleHeader &header, bool isReturn);
 
 // Every line typed without a price takes the customer's price for its unit (linePrice), the price
 // every goods line added to a sales document starts from. Reads only.

@@ -1,6 +1,7 @@
 #include "sales/quotations.h"
 
 #include "core/connection.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/textclean.h"
 #include "core/transaction.h"
@@ -9,8 +10,6 @@
 #include "shell/session.h"
 
 #include <QSqlQuery>
-
-#include <cmath>
 
 namespace medistock::sales {
 
@@ -42,13 +41,9 @@ QLatin1String name(const char *column)
     return QLatin1String(column);
 }
 
-std::optional<double> typedPrice(const QString &text)
+Result<double> typedPrice(const QString &text)
 {
-    bool ok = false;
-    const double value = text.trimmed().toDouble(&ok);
-    if (!ok || !std::isfinite(value) || value < 0)
-        return std::nullopt;
-    return value;
+    return core::readNumber(texts::quotedPriceField(), text, core::NumberKind::Price);
 }
 
 } // namespace
@@ -56,9 +51,9 @@ std::optional<double> typedPrice(const QString &text)
 Outcome addQuotationWorkRow(
     const shell::Session &session, const QString &goods, const QString &price, const QString &note)
 {
-    const auto value = typedPrice(price);
+    const Result<double> value = typedPrice(price);
     if (!value)
-        return core::refuse(session.ui(), texts::priceNotNumber(price));
+        return core::refuse(session.ui(), value.message());
     return core::guarded(session.ui(), [&] {
         core::Connection &db = session.db();
         if (goods == documents::discountGoods()
@@ -67,7 +62,7 @@ Outcome addQuotationWorkRow(
             return core::refuse(session.ui(), texts::quotationGoodsRefused(goods));
         db.insert(QStringLiteral("insert into jxc_tempspxf (g_sn,ts_dj,ts_note,a_name) values "
                                  "(?,?,?,?)"),
-            { goods, *value, core::cleanText(note, core::CleanStrength::Medium),
+            { goods, value.value(), core::cleanText(note, core::CleanStrength::Medium),
                 session.user().name });
         return Outcome::done();
     });
@@ -109,16 +104,16 @@ Result<int> addQuotations(const shell::Session &session, QuotationSide side, con
 Outcome changeQuotation(const shell::Session &session, QuotationSide side, qint64 id,
     const QString &price, const QString &date, const QString &note)
 {
-    const auto value = typedPrice(price);
+    const Result<double> value = typedPrice(price);
     if (!value)
-        return core::refuse(session.ui(), texts::priceNotNumber(price));
+        return core::refuse(session.ui(), value.message());
     const SideColumns &c = columnsOf(side);
     return core::guarded(session.ui(), [&] {
         core::Transaction transaction(session.db());
         const int changed
             = session.db().exec(QStringLiteral("update %1 set %2=?,%3=?,%4=? where id=?")
                                     .arg(name(c.table), name(c.price), name(c.date), name(c.note)),
-                { *value, date, core::cleanText(note, core::CleanStrength::Medium), id });
+                { value.value(), date, core::cleanText(note, core::CleanStrength::Medium), id });
         if (changed == 0)
             return core::refuse(session.ui(), texts::quotationMissing(id));
         session.log(texts::quotationChangedLog(side == QuotationSide::Customer, id));

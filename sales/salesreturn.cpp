@@ -57,7 +57,7 @@ void setReturnHeaderColumns(const shell::Session &session, const SaleHeader &h, 
 
 Outcome returnRule(const shell::Session &session, SaleHeader &header, ValidDocument &doc)
 {
-    Outcome outcome = checkSaleHeader(session, header);
+    Outcome outcome = checkSaleHeader(session, header, true);
     if (outcome)
         outcome = documents::checkReturnedQuantities(
             session, doc, soldLines, { texts::saleLineMissing, texts::returnExceedsSale });

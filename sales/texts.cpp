@@ -90,11 +90,6 @@ QString freightTermsInvalid(const QString &terms)
     return QStringLiteral("运费方式“%1”无效，应为“我方付运费”或“对方付运费”！").arg(terms);
 }
 
-QString amountNegative()
-{
-    return QStringLiteral("金额不能为负数！");
-}
-
 QString orderMissing(const QString &number)
 {
     return QStringLiteral("销售订单：") + number + QStringLiteral("不存在！");
@@ -170,9 +165,9 @@ QString quotationWorkEmpty()
     return QStringLiteral("没有选择报价的商品！");
 }
 
-QString priceNotNumber(const QString &text)
+QString quotedPriceField()
 {
-    return QStringLiteral("报价“%1”不是有效的数字！").arg(text);
+    return QStringLiteral("报价");
 }
 
 QString saleCheckedLog(const QString &number, int goodsCount)

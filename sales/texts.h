@@ -26,7 +26,6 @@ QString expiredBatchRefused(
 // Header refusals of the sales documents
 QString settlementModeInvalid(const QString &mode);
 QString freightTermsInvalid(const QString &terms);
-QString amountNegative();
 
 // Lines taken over from orders and lines returned against a sale
 QString orderMissing(const QString &number);
@@ -49,7 +48,7 @@ QString checkHookOk();
 QString quotationGoodsRefused(const QString &goods);
 QString quotationMissing(qint64 id);
 QString quotationWorkEmpty();
-QString priceNotNumber(const QString &text);
+QString quotedPriceField(); // "报价", as number refusals name it
 
 // Log lines
 QString saleCheckedLog(const QString &number, int goodsCount);

@@ -15,10 +15,10 @@ namespace medistock::shell {
 
 namespace {
 
+// The password is hashed whole, as typed; an empty one is stored empty ("no password").
 QString storedPassword(const QString &password)
 {
-    const QString cleaned = core::cleanText(password);
-    return cleaned.isEmpty() ? QString() : core::hashPassword(cleaned);
+    return password.isEmpty() ? QString() : core::hashPassword(password);
 }
 
 // Name given, not taken by another row, role known; the refusal text otherwise.
@@ -35,6 +35,11 @@ QString validateOperator(core::Connection &db, const QString &name, const QStrin
 }
 
 } // namespace
+
+QString clearPasswordQuestion(const QString &name)
+{
+    return QStringLiteral("确定要清除操作员：%1 的密码吗？清除后不输入密码即可登录。").arg(name);
+}
 
 QList<OperatorRow> listOperators(core::Connection &connection)
 {
@@ -112,10 +117,18 @@ Outcome changePassword(const Session &session, const QString &name, const QStrin
             return allowed;
     }
     core::Connection &db = session.db();
-    return core::guarded(session.ui(), [&]() -> Outcome {
+    const Outcome known = core::guarded(session.ui(), [&]() -> Outcome {
         if (!db.exists(QStringLiteral("select id from jxc_admin where a_name=?"), { name }))
             return core::refuse(session.ui(), QStringLiteral("没有这个操作员：") + name);
-        const QString stored = storedPassword(newPassword);
+        return Outcome::done();
+    });
+    if (!known)
+        return known;
+    // An empty password lets anyone in under the name: it is set only when confirmed.
+    if (newPassword.isEmpty() && !session.ui().ask(clearPasswordQuestion(name)))
+        return Outcome::refused(QString());
+    const QString stored = storedPassword(newPassword);
+    return core::guarded(session.ui(), [&]() -> Outcome {
         core::Transaction transaction(db);
         db.exec(QStringLiteral("update jxc_admin set a_pwd=? where a_name=?"), { stored, name });
         session.log(QStringLiteral("修改操作员密码：") + name);

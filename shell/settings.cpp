@@ -5,6 +5,7 @@
 #include "core/schema.h"
 #include "core/schemacatalogue.h"
 #include "core/transaction.h"
+#include "shell/parametervalues.h"
 #include "shell/rights.h"
 #include "shell/session.h"
 
@@ -46,14 +47,21 @@ Outcome saveParameters(Session &session, const QHash<QString, QVariant> &changes
     if (!allowed)
         return allowed;
     const core::TableDef &table = *core::findTable(parameterTable);
-    QStringList assignments;
-    QVariantList values;
-    for (auto it = changes.begin(); it != changes.end(); ++it) {
+    for (auto it = changes.begin(); it != changes.end(); ++it)
         if (it.key() == QLatin1String("id") || !core::hasColumn(table, it.key()))
             return core::refuse(session.ui(), QStringLiteral("没有这个系统参数：") + it.key());
-        assignments.append(it.key() + QStringLiteral("=?"));
-        values.append(it.value().typeId() == QMetaType::Bool ? QVariant(it.value().toBool() ? 1 : 0)
-                                                             : it.value());
+    QStringList assignments;
+    QVariantList values;
+    // In column order, so that of several faults the same one is told each time.
+    for (const QString &column : core::columnNames(table)) {
+        if (!changes.contains(column))
+            continue;
+        QVariant value = changes.value(column);
+        const QString refusal = checkParameterValue(column, value);
+        if (!refusal.isEmpty())
+            return core::refuse(session.ui(), refusal);
+        assignments.append(column + QStringLiteral("=?"));
+        values.append(value);
     }
     if (assignments.isEmpty())
         return Outcome::done();

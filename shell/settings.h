@@ -16,7 +16,9 @@ QString noRightText(const QString &operation);
 // Refuses (and tells) unless the operator holds the right; `position` counts from 1.
 Outcome requireRight(const Session &session, const char *area, int position);
 
-// Writes the changed parameter columns (names of jxc_xtcs) and reloads the session's values.
+// Writes the changed parameter columns (names of jxc_xtcs) and reloads the session's values. Each
+// value is checked first (shell/parametervalues.h); an unknown name or a value that does not fit
+// is told and refused, and nothing is written.
 Outcome saveParameters(Session &session, const QHash<QString, QVariant> &changes);
 
 // The settings screen's defaults button: refused while a purchase line is not wholly received or

@@ -10,6 +10,7 @@
 #include "accounts/ledger.h"
 #include "accounts/registrations.h"
 #include "accounts/texts.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/rounding.h"
 #include "shell/session.h"
@@ -37,13 +38,11 @@ PartyKind partyKindArgument(Context &context, const QString &text)
     return *kind;
 }
 
-double amountArgument(Context &context, const QString &text)
+// An opening amount: money either way (an account may start overdrawn).
+double openingArgument(Context &context, const QString &text)
 {
-    bool ok = false;
-    const double value = text.toDouble(&ok);
-    if (!ok)
-        throw Stop { context.usageError(QStringLiteral("金额应为数字：") + text) };
-    return value;
+    return valueOrReport(
+        context, core::readNumber(texts::openingField(), text, core::NumberKind::SignedAmount));
 }
 
 QDate requiredDate(Context &context, Args &args, const QString &option)
@@ -154,8 +153,8 @@ int runAccountRename(Context &context, Args &args)
 int runAccountOpening(Context &context, Args &args)
 {
     const QStringList positional = takePositional(context, args, 2, 2);
-    require(
-        setOpeningAmount(context.session(), positional[0], amountArgument(context, positional[1])));
+    require(setOpeningAmount(
+        context.session(), positional[0], openingArgument(context, positional[1])));
     return ExitDone;
 }
 

@@ -4,6 +4,7 @@
 #include "core/capitals.h"
 #include "core/datafolder.h"
 #include "core/numbering.h"
+#include "core/numbers.h"
 #include "core/schema.h"
 #include "core/textclean.h"
 #include "shell/session.h"
@@ -110,10 +111,8 @@ int runClean(Context &context, Args &args)
 int runCapitals(Context &context, Args &args)
 {
     const QString text = takePositional(context, args, 1, 1).first();
-    bool ok = false;
-    const double amount = text.toDouble(&ok);
-    if (!ok)
-        return context.usageError(QStringLiteral("金额不是数字：") + text);
+    const double amount = valueOrReport(
+        context, core::readNumber(QStringLiteral("金额"), text, core::NumberKind::SignedAmount));
     context.out() << core::amountInCapitals(amount) << Qt::endl;
     return ExitDone;
 }
@@ -124,7 +123,8 @@ void addCoreCommands(Registry &registry)
 {
     registry.add(
         { QStringLiteral("init"), QStringLiteral("[--company NAME] [--short NAME] [--tele TEXT]"),
-            QStringLiteral("创建数据目录和主帐套文件 jxc.db（已存在的文件不作改动）"), runInit });
+            QStringLiteral("创建数据目录和主帐套文件 jxc.db（已存在的文件不作改动）"), runInit,
+            Access::Open });
     registry.add({ QStringLiteral("create-tables"), QString(),
         QStringLiteral("重新创建当前帐套的全部数据表（需要 --yes）"),
         [](Context &context, Args &args) {
@@ -144,9 +144,9 @@ void addCoreCommands(Registry &registry)
     registry.add({ QStringLiteral("number-taken"), QStringLiteral("TABLE COLUMN NUMBER"),
         QStringLiteral("单据号是否已被其他操作员占用（yes/no）"), runNumberTaken });
     registry.add({ QStringLiteral("clean"), QStringLiteral("[--strength full|medium|light] TEXT"),
-        QStringLiteral("按录入规则清理文字"), runClean });
+        QStringLiteral("按录入规则清理文字"), runClean, Access::Open });
     registry.add({ QStringLiteral("capitals"), QStringLiteral("AMOUNT"),
-        QStringLiteral("金额的中文大写"), runCapitals });
+        QStringLiteral("金额的中文大写"), runCapitals, Access::Open });
 }
 
 } // namespace medistock::cli

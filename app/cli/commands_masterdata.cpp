@@ -165,7 +165,7 @@ void addMasterDataCommands(Registry &registry)
     registry.add({ QStringLiteral("export"), QStringLiteral("KIND FILE.xlsx"),
         QStringLiteral("导出资料到 Excel 表格"), runExport });
     registry.add({ QStringLiteral("mnemonic"), QStringLiteral("TEXT"),
-        QStringLiteral("名称的拼音简码"), runMnemonic });
+        QStringLiteral("名称的拼音简码"), runMnemonic, Access::Open });
 }
 
 } // namespace medistock::cli

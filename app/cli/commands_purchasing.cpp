@@ -3,6 +3,7 @@
 #include "app/cli/entryjson.h"
 #include "app/cli/registry.h"
 
+#include "core/numbers.h"
 #include "purchasing/entry.h"
 #include "purchasing/kinds.h"
 #include "purchasing/purchasereturn.h"
@@ -78,12 +79,9 @@ int saveFile(Context &context, const QJsonObject &o, bool isReturn)
 CheckInput checkInput(Context &context, Args &args)
 {
     CheckInput input;
-    if (const auto paid = args.option(QStringLiteral("--paid"))) {
-        bool ok = false;
-        input.paid = paid->toDouble(&ok);
-        if (!ok)
-            throw Stop { context.usageError(QStringLiteral("金额应为数字：") + *paid) };
-    }
+    if (const auto paid = args.option(QStringLiteral("--paid")))
+        input.paid = valueOrReport(context,
+            core::readNumber(QStringLiteral("金额（--paid）"), *paid, core::NumberKind::Amount));
     input.mode = args.option(QStringLiteral("--mode"));
     input.account = args.option(QStringLiteral("--account"));
     input.note = args.option(QStringLiteral("--note"));

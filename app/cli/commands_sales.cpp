@@ -5,6 +5,7 @@
 #include "app/cli/registry.h"
 
 #include "accounts/documentsupport.h"
+#include "core/numbers.h"
 #include "core/operation.h"
 #include "core/rounding.h"
 #include "sales/entry.h"
@@ -210,9 +211,9 @@ int runFefo(Context &context, Args &args)
 {
     const auto date = args.option(QStringLiteral("--date"));
     const QStringList p = takePositional(context, args, 3, 3);
-    bool ok = false;
-    const double quantity = p[2].toDouble(&ok);
-    if (!ok || quantity <= 0)
+    const double quantity = valueOrReport(
+        context, core::readNumber(QStringLiteral("数量"), p[2], core::NumberKind::Quantity));
+    if (quantity <= 0)
         throw Stop { context.usageError(QStringLiteral("数量应为正数：") + p[2]) };
     shell::Session &session = context.session();
     const FefoProposal proposal = proposeBatches(session, p[0], p[1], quantity,

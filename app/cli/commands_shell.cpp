@@ -22,14 +22,14 @@ QString yesNo(bool value)
     return value ? QStringLiteral("yes") : QStringLiteral("no");
 }
 
+// Runs before any login, as the set is chosen before logging in: codes and names only.
 int runSets(Context &context, Args &args)
 {
     requireNoMore(context, args);
     for (const core::AccountSet &set : core::listAccountSets(context.masterConnection()))
-        context.out() << set.code << '\t' << set.name << '\t' << set.fileName << '\t'
+        context.out() << set.code << '\t' << set.name << '\t'
                       << (set.isDefault ? QStringLiteral("默认") : QString()) << '\t'
-                      << (set.forbidden ? QStringLiteral("禁用") : QString()) << '\t' << set.note
-                      << Qt::endl;
+                      << (set.forbidden ? QStringLiteral("禁用") : QString()) << Qt::endl;
     return ExitDone;
 }
 
@@ -219,7 +219,8 @@ int runLogClear(Context &context, Args &args)
 
 void addShellCommands(Registry &registry)
 {
-    registry.add({ QStringLiteral("sets"), QString(), QStringLiteral("列出帐套"), runSets });
+    registry.add({ QStringLiteral("sets"), QString(),
+        QStringLiteral("列出帐套的编号和名称（无须登录）"), runSets, Access::Open });
     registry.add({ QStringLiteral("set-create"),
         QStringLiteral("NAME [--note TEXT] [--default] [--forbid] [--company NAME] "
                        "[--short NAME] [--tele TEXT]"),
@@ -227,7 +228,7 @@ void addShellCommands(Registry &registry)
     registry.add(
         { QStringLiteral("operators"), QString(), QStringLiteral("列出操作员"), runOperators });
     registry.add({ QStringLiteral("login"), QString(),
-        QStringLiteral("以 --user/--password 登录并记入操作日志"), runLogin });
+        QStringLiteral("以 --user/--password 登录并记入操作日志"), runLogin, Access::Open });
     registry.add({ QStringLiteral("operator-add"), QStringLiteral("NAME [--role CODE]"),
         QStringLiteral("增加操作员，输出其编号"), runOperatorAdd });
     registry.add({ QStringLiteral("passwd"), QStringLiteral("NAME NEWPASSWORD"),

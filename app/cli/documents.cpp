@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include <cmath>
+
 namespace medistock::cli {
 
 const DocumentKind *DocumentKinds::find(const QString &prefix) const
@@ -39,10 +41,12 @@ double jsonNumber(Context &context, const QJsonObject &object, const QString &fi
         return 0;
     if (value.isDouble())
         return value.toDouble();
+    // "NaN" and "inf" read as numbers to toDouble; no field of the books takes them.
     bool ok = false;
     const double number = value.toString().trimmed().toDouble(&ok);
-    if (!ok)
-        throw Stop { context.usageError(QStringLiteral("字段 %1 应为数字").arg(field)) };
+    if (!ok || !std::isfinite(number))
+        throw Stop { context.usageError(
+            QStringLiteral("字段 %1“%2”不是数字！").arg(field, value.toString().trimmed())) };
     return number;
 }
 
@@ -128,7 +132,8 @@ void addDocumentCommands(Registry &registry)
             for (const DocumentKind &kind : kinds->kinds())
                 c.out() << kind.prefix << '\t' << kind.title << Qt::endl;
             return int(ExitDone);
-        } });
+        },
+        Access::Open });
 }
 
 } // namespace medistock::cli

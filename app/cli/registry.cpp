@@ -106,6 +106,8 @@ int runCli(
     Context context(options, out, err);
     Args args(rest.mid(1));
     try {
+        if (command->access == Access::LogsIn)
+            context.session();
         return command->run(context, args);
     } catch (const Stop &stop) {
         return stop.status;

@@ -9,6 +9,11 @@
 
 namespace medistock::cli {
 
+// Every command that reads or writes an account set logs in first (--user/--password), so that a
+// wrong password stops it before it has read or written anything. Open commands touch no books
+// (text helpers, creating the data folder, the names of the sets) or log in themselves (login).
+enum class Access { LogsIn, Open };
+
 struct Command
 {
     QString name;
@@ -16,6 +21,7 @@ struct Command
     QString summary; // one line
     std::function<int(Context &, Args &)> run;
     bool paints = false; // lays out text, so the program starts with fonts (a GUI application)
+    Access access = Access::LogsIn;
 };
 
 class Registry

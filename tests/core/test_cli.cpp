@@ -123,8 +123,7 @@ TEST_F(CliSet, AccountSetsLoginAndOperators)
     EXPECT_EQ(created.out, QStringLiteral("100001\tjxc_100001.db\n"));
     EXPECT_EQ(cli({ QStringLiteral("set-create"), QString() }).err,
         QStringLiteral("帐套名称必须填写！\n"));
-    EXPECT_TRUE(cli({ QStringLiteral("sets") })
-                    .out.startsWith(QStringLiteral("100001\t城西店\tjxc_100001.db\t默认")));
+    EXPECT_EQ(cli({ QStringLiteral("sets") }).out, QStringLiteral("100001\t城西店\t默认\t\n"));
 
     CliRun hint
         = cli({ QStringLiteral("--set"), QStringLiteral("100001"), QStringLiteral("login") });
@@ -161,7 +160,21 @@ TEST_F(CliSet, NumbersRightsAndParameters)
     CliRun injected = cli({ QStringLiteral("next-code"),
         QStringLiteral("jxc_goods;drop table jxc_goods"), QStringLiteral("g_sn") });
     EXPECT_EQ(injected.status, 1);
-    EXPECT_EQ(injected.err, QStringLiteral("没有这个数据表：jxc_goods;drop table jxc_goods\n"));
+    EXPECT_EQ(injected.err,
+        QStringLiteral(
+            "jxc_goods;drop table jxc_goods.g_sn 不是基础资料的编号字段，不能取下一个编号！\n"));
+    CliRun password = cli(
+        { QStringLiteral("next-code"), QStringLiteral("jxc_admin"), QStringLiteral("a_pwd") });
+    EXPECT_EQ(password.status, 1);
+    EXPECT_EQ(password.out, QString());
+    CliRun pattern = cli({ QStringLiteral("next-number"), QStringLiteral("jxc_lsxsd"),
+        QStringLiteral("gl_djh"), QStringLiteral("X%") });
+    EXPECT_EQ(pattern.status, 1);
+    EXPECT_EQ(pattern.err, QStringLiteral("没有这种单据号前缀：X%\n"));
+    EXPECT_EQ(cli({ QStringLiteral("next-number"), QStringLiteral("jxc_lsxsd"),
+                      QStringLiteral("gl_djh"), QStringLiteral("'") })
+                  .err,
+        QStringLiteral("没有这种单据号前缀：'\n"));
     EXPECT_EQ(cli({ QStringLiteral("number-taken"), QStringLiteral("jxc_lsxsd"),
                       QStringLiteral("gl_djh"), QStringLiteral("XS25031410001") })
                   .out,

@@ -112,3 +112,56 @@ TEST_F(ConnectionTest, APreparedStatementIsReusedAndCanBeNested)
         QStringList({ QStringLiteral("盒"), QStringLiteral("袋"), QStringLiteral("单位0"),
             QStringLiteral("单位1"), QStringLiteral("单位2") }));
 }
+
+// Another workstation holds the write lock: the operation gives up after the busy timeout, runs
+// again, and after the last try tells the operator in Chinese; nothing is written.
+TEST_F(ConnectionTest, ABusyDatabaseIsTriedAgainAndThenToldInChinese)
+{
+    auto other = Connection::openSqlite(path());
+    other->setBusyTimeout(0);
+    const QStringList before = dumpTable(db(), QStringLiteral("jxc_dw"));
+    db().beginWrite();
+    addUnit(QStringLiteral("100004"), QStringLiteral("瓶"));
+    ScriptedInteraction interaction;
+    int runs = 0;
+    const Outcome outcome = guarded(interaction, [&] {
+        ++runs;
+        Transaction transaction(*other);
+        other->exec(QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"),
+            { QStringLiteral("100005"), QStringLiteral("支") });
+        transaction.commit();
+        return Outcome::done();
+    });
+    db().rollbackWrite();
+    const QString message
+        = QStringLiteral("帐套文件“%1”正被其他工作站使用，请稍后再试。").arg(path());
+    EXPECT_EQ(runs, busyAttempts);
+    EXPECT_EQ(other->busyErrors(), busyAttempts);
+    EXPECT_EQ(outcome.kind(), Outcome::Kind::Failed);
+    EXPECT_EQ(interaction.informed, QStringList { message });
+    EXPECT_EQ(dumpTable(*other, QStringLiteral("jxc_dw")), before);
+}
+
+// A body that meets a busy database runs again from its start; once it gets through, nothing of
+// the busy tries is told.
+TEST(Guarded, RunsTheWholeBodyAgainWhileTheDatabaseIsBusy)
+{
+    ScriptedInteraction interaction;
+    int runs = 0;
+    const Outcome outcome = guarded(interaction, [&] {
+        if (++runs < busyAttempts)
+            throw DbError(QStringLiteral("忙"), true);
+        return Outcome::done();
+    });
+    EXPECT_TRUE(outcome.ok());
+    EXPECT_EQ(runs, busyAttempts);
+    EXPECT_TRUE(interaction.informed.isEmpty());
+
+    runs = 0;
+    const Outcome other = guarded(interaction, [&]() -> Outcome {
+        ++runs;
+        throw DbError(QStringLiteral("数据库错误：no such table"));
+    });
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(other.kind(), Outcome::Kind::Failed);
+}

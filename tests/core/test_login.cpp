@@ -83,6 +83,28 @@ TEST_F(LoginTest, APlainLegacyPasswordIsAcceptedOnceAndReplacedByItsHash)
     EXPECT_TRUE(loginAs(QStringLiteral("admin"), QStringLiteral("ab'c")).ok());
 }
 
+// Older books kept plain passwords and compared them with the typed one after text cleaning; such
+// an operator gets in once that way and is then held to the hash of exactly what he typed.
+TEST_F(LoginTest, ALegacyPlainPasswordComparesCleanedOnceThenTheTypedTextCounts)
+{
+    db().exec(QStringLiteral("update jxc_admin set a_pwd=? where a_name='admin'"),
+        { QStringLiteral("Abc9") });
+    ASSERT_TRUE(loginAs(QStringLiteral("admin"), QStringLiteral("Ab^c`9")).ok());
+    EXPECT_TRUE(isPasswordHash(
+        db().firstText(QStringLiteral("select a_pwd from jxc_admin where a_name='admin'"))));
+    EXPECT_FALSE(loginAs(QStringLiteral("admin"), QStringLiteral("Abc9")).ok());
+    EXPECT_TRUE(loginAs(QStringLiteral("admin"), QStringLiteral("Ab^c`9")).ok());
+}
+
+TEST_F(LoginTest, NoPasswordLetsInOnlyAnEmptyTypedOne)
+{
+    EXPECT_FALSE(loginAs(QStringLiteral("admin"), QStringLiteral("^^^")).ok());
+    EXPECT_FALSE(loginAs(QStringLiteral("admin"), QStringLiteral("`")).ok());
+    EXPECT_FALSE(loginAs(QStringLiteral("admin"), QStringLiteral(" ")).ok());
+    EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_log")), 0);
+    EXPECT_TRUE(loginAs(QStringLiteral("admin"), QString()).ok());
+}
+
 class AccountSetsTest : public AccountSetTest
 {
 protected:

@@ -29,7 +29,7 @@ TEST_F(NumberingTest, FirstCodeAndFirstNumberOfADay)
 {
     EXPECT_EQ(nextMasterCode(db(), QStringLiteral("jxc_khxx"), QStringLiteral("kh_sn")).value(),
         QStringLiteral("100002"));
-    EXPECT_EQ(nextMasterCode(db(), QStringLiteral("jxc_bsd"), QStringLiteral("gl_djh")).value(),
+    EXPECT_EQ(nextMasterCode(db(), QStringLiteral("jxc_zpxx"), QStringLiteral("zp_sn")).value(),
         QStringLiteral("100001"));
     EXPECT_EQ(next(QStringLiteral("jxc_lsxsd"), QStringLiteral("gl_djh"), QStringLiteral("XS"),
                   QDate(2025, 3, 14)),
@@ -78,16 +78,68 @@ TEST_F(NumberingTest, ADayEndsAtSequence99999)
     EXPECT_EQ(full.message(), numbersExhaustedText(QStringLiteral("XS250314")));
 }
 
-TEST_F(NumberingTest, NamesOutsideTheCatalogueAreRefused)
+// Only a list's own code column is numbered; a name, a password hash, a reference to a code or
+// something pasted after a name is refused with the text that names it.
+class CodeColumnsRefused
+    : public NumberingTest,
+      public ::testing::WithParamInterface<std::pair<const char *, const char *>>
 {
-    EXPECT_FALSE(
-        nextMasterCode(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_sn) from x;--")).ok());
-    EXPECT_FALSE(nextDocumentNumber(db(), QStringLiteral("sqlite_master"), QStringLiteral("name"),
-        QStringLiteral("XS"), QDate(2025, 3, 14))
-                     .ok());
-    EXPECT_FALSE(isNumberTaken(db(), QStringLiteral("jxc_lsxsd"), QStringLiteral("nope"),
-        QStringLiteral("XS25031410001"), QStringLiteral("admin"))
-                     .ok());
+};
+
+TEST_P(CodeColumnsRefused, WithTheirName)
+{
+    const QString table = QString::fromUtf8(GetParam().first);
+    const QString column = QString::fromUtf8(GetParam().second);
+    const auto refused = nextMasterCode(db(), table, column);
+    EXPECT_EQ(refused.outcome().kind(), Outcome::Kind::Refused);
+    EXPECT_EQ(refused.message(),
+        QStringLiteral("%1.%2 不是基础资料的编号字段，不能取下一个编号！").arg(table, column));
+}
+
+INSTANTIATE_TEST_SUITE_P(NumberingTest, CodeColumnsRefused,
+    ::testing::Values(std::pair { "jxc_admin", "a_pwd" }, std::pair { "jxc_goods", "g_name" },
+        std::pair { "jxc_lsxssp", "g_sn" }, std::pair { "jxc_bsd", "gl_djh" },
+        std::pair { "jxc_goods", "g_sn) from x;--" },
+        std::pair { "jxc_goods;drop table jxc_goods", "g_sn" }));
+
+TEST_F(NumberingTest, PrefixesAreKnownKindsOnTheirOwnTableNeverPatterns)
+{
+    // "X%" would match this sale's number as a LIKE pattern and hand out "X%25031410006"
+    addSale(QStringLiteral("XA25031410005"));
+    const auto refusal = [&](const QString &table, const QString &column, const QString &prefix) {
+        const auto number = nextDocumentNumber(db(), table, column, prefix, QDate(2025, 3, 14));
+        EXPECT_EQ(number.outcome().kind(), Outcome::Kind::Refused) << prefix.toStdString();
+        return number.message();
+    };
+    const QString sales = QStringLiteral("jxc_lsxsd");
+    const QString number = QStringLiteral("gl_djh");
+    EXPECT_EQ(
+        refusal(sales, number, QStringLiteral("X%")), QStringLiteral("没有这种单据号前缀：X%"));
+    EXPECT_EQ(refusal(sales, number, QStringLiteral("%")), QStringLiteral("没有这种单据号前缀：%"));
+    EXPECT_EQ(
+        refusal(sales, number, QStringLiteral("X'")), QStringLiteral("没有这种单据号前缀：X'"));
+    EXPECT_EQ(
+        refusal(sales, number, QStringLiteral("X_")), QStringLiteral("没有这种单据号前缀：X_"));
+    EXPECT_EQ(
+        refusal(sales, number, QStringLiteral("xs")), QStringLiteral("没有这种单据号前缀：xs"));
+    EXPECT_EQ(
+        refusal(sales, number, QStringLiteral("ZZ")), QStringLiteral("没有这种单据号前缀：ZZ"));
+    // a known prefix on a table that keeps another kind
+    EXPECT_EQ(refusal(QStringLiteral("jxc_jhd"), QStringLiteral("j_sn"), QStringLiteral("XS")),
+        QStringLiteral("单据号前缀 XS 不用于 jxc_jhd.j_sn！"));
+    EXPECT_EQ(
+        refusal(QStringLiteral("sqlite_master"), QStringLiteral("name"), QStringLiteral("XS")),
+        QStringLiteral("单据号前缀 XS 不用于 sqlite_master.name！"));
+    EXPECT_EQ(refusal(sales, QStringLiteral("g_sn"), QStringLiteral("XS")),
+        QStringLiteral("单据号前缀 XS 不用于 jxc_lsxsd.g_sn！"));
+    // the purchase receipt keeps its number in j_sn
+    EXPECT_EQ(next(QStringLiteral("jxc_jhd"), QStringLiteral("j_sn"), QStringLiteral("CJ"),
+                  QDate(2025, 3, 14)),
+        QStringLiteral("CJ25031410001"));
+
+    const auto taken = isNumberTaken(db(), QStringLiteral("jxc_lsxsd"), QStringLiteral("a_name"),
+        QStringLiteral("admin"), QStringLiteral("admin"));
+    EXPECT_EQ(taken.message(), QStringLiteral("jxc_lsxsd.a_name 不是单据号字段！"));
 }
 
 TEST_F(NumberingTest, ANumberIsTakenOnlyByAnotherOperator)

@@ -3,6 +3,7 @@
 #include "tests/documents/entrytest.h"
 #include "tests/support/documentrows.h"
 
+#include <cmath>
 #include <functional>
 
 using namespace medistock;
@@ -113,9 +114,9 @@ INSTANTIATE_TEST_SUITE_P(Drafts, BadInputTest,
         BadInput { "PriceNegative", [](DocumentDraft &d) { first(d).price = "-3"; },
             "第1行：单价不能为负数！" },
         BadInput { "TaxRateNotANumber", [](DocumentDraft &d) { first(d).taxRate = "13%"; },
-            "第1行：税率“13%”不是有效的数字！" },
+            "第1行：税率“13%”不是数字！" },
         BadInput { "DiscountRateNegative", [](DocumentDraft &d) { first(d).discountRate = "-0.1"; },
-            "第1行：折扣“-0.1”不是有效的数字！" },
+            "第1行：折扣不能为负数！" },
         BadInput { "ProductionDateNotADate",
             [](DocumentDraft &d) { first(d).produced = "2024-13-01"; },
             "第1行：生产日期“2024-13-01”不是有效的日期（yyyy-MM-dd）！" },
@@ -140,6 +141,93 @@ INSTANTIATE_TEST_SUITE_P(Drafts, BadInputTest,
             [](DocumentDraft &d) { first(d).expiry = "2024-11"; },
             "第1行：有效期不能早于生产日期！" }),
     caseName);
+
+// Numbers that are numbers but no pharmacy has: each refusal states the limits.
+INSTANTIATE_TEST_SUITE_P(AbsurdNumbers, BadInputTest,
+    ::testing::Values(
+        BadInput { "QuantityOf1e20", [](DocumentDraft &d) { first(d).quantity = "1e+20"; },
+            "第1行：数量“1e+20”超出范围，应在 0 到 100000000 之间！" },
+        BadInput { "QuantityOf1e308", [](DocumentDraft &d) { first(d).quantity = "1e308"; },
+            "第1行：数量“1e308”超出范围，应在 0 到 100000000 之间！" },
+        BadInput { "QuantityPastDoubleRange", [](DocumentDraft &d) { first(d).quantity = "1e309"; },
+            "第1行：数量“1e309”不是数字！" },
+        BadInput { "QuantityNaN", [](DocumentDraft &d) { first(d).quantity = "NaN"; },
+            "第1行：数量“NaN”不是数字！" },
+        BadInput { "PriceOf1e20", [](DocumentDraft &d) { d.lines[1].price = "1e+20"; },
+            "第2行：单价“1e+20”超出范围，应在 0 到 100000000 之间！" },
+        BadInput { "PriceJustAboveTheLimit",
+            [](DocumentDraft &d) { first(d).price = "100000000.01"; },
+            "第1行：单价“100000000.01”超出范围，应在 0 到 100000000 之间！" },
+        BadInput { "TaxRateOf1000", [](DocumentDraft &d) { first(d).taxRate = "1000"; },
+            "第1行：税率“1000”超出范围，应在 0 到 100 之间！" },
+        BadInput { "TaxRateNegative", [](DocumentDraft &d) { first(d).taxRate = "-13"; },
+            "第1行：税率不能为负数！" },
+        BadInput { "DiscountRateOf500", [](DocumentDraft &d) { first(d).discountRate = "500"; },
+            "第1行：折扣“500”超出范围，应在 0 到 1 之间！" },
+        BadInput { "BaseQuantityPastTheLimit",
+            [](DocumentDraft &d) {
+                first(d).unit = "件";
+                first(d).quantity = "5000001";
+            },
+            "第1行：基本单位数量“100000020”超出范围，应在 0 到 100000000 之间！" },
+        BadInput { "TotalPastTheLimit",
+            [](DocumentDraft &d) {
+                first(d).quantity = "100000";
+                first(d).price = "10000001";
+            },
+            "第1行：价税合计“1000000100000”超出范围，应在 0 到 1000000000000 之间！" },
+        BadInput { "DiscountOf1e308", [](DocumentDraft &d) { d.discount = 1e308; },
+            "优惠金额“1e+308”超出范围，应在 0 到 1000000000000 之间！" },
+        BadInput { "DiscountNaN", [](DocumentDraft &d) { d.discount = std::nan(""); },
+            "优惠金额“nan”不是数字！" },
+        BadInput { "DiscountInfinite", [](DocumentDraft &d) { d.discount = HUGE_VAL; },
+            "优惠金额“inf”不是数字！" },
+        BadInput { "DiscountNegative", [](DocumentDraft &d) { d.discount = -5; },
+            "优惠金额不能为负数！" }),
+    caseName);
+
+// The limits themselves are numbers a document may hold.
+TEST_F(EntryTest, NumbersAtTheirLimitsAreAccepted)
+{
+    LineDraft most = line(QStringLiteral("200001"), "100000000", "10000");
+    most.taxRate = QStringLiteral("100");
+    most.discountRate = QStringLiteral("0");
+    LineDraft dearest = line(QStringLiteral("200002"), "0.01", "100000000");
+    dearest.taxRate = QStringLiteral(" 0 ");
+    dearest.discountRate = QStringLiteral("1");
+    DocumentDraft d = draft({ most, dearest });
+    d.discount = 1000000;
+    const Result<ValidDocument> valid = validateDraft(session(), fullKind(), d);
+    ASSERT_TRUE(valid) << valid.message().toStdString();
+    EXPECT_EQ(valid->lines[0].figures.baseQuantity, 100000000);
+    EXPECT_EQ(valid->lines[0].figures.total, 0);
+    EXPECT_EQ(valid->lines[1].figures.total, 1000000);
+    EXPECT_TRUE(ui.informed.isEmpty());
+}
+
+// A kind's rule copies typed header amounts into its columns; whatever they are, the save refuses
+// a column value that is no number the books can hold, before anything is written.
+TEST_F(EntryTest, ColumnsARuleSetsMustHoldNumbersTheBooksCanHold)
+{
+    for (const double paid : { std::nan(""), 1e308, -1e13 }) {
+        ui.clear();
+        const QString before = dumpDatabase(db());
+        const EntryRule rule = [&](const shell::Session &, ValidDocument &doc) {
+            doc.columns.set(QStringLiteral("j_sfje"), paid);
+            return Outcome::done();
+        };
+        const Result<QString> saved = saveDocument(
+            session(), fullKind(), draft({ line(QStringLiteral("200001"), "1", "1") }), rule);
+        const QString shown = QString::number(paid, 'g', 15);
+        const QString message = std::isnan(paid)
+            ? QStringLiteral("实付金额“nan”不是数字！")
+            : QStringLiteral("实付金额“%1”超出范围，应在 -1000000000000 到 1000000000000 之间！")
+                  .arg(shown);
+        EXPECT_EQ(saved.message(), message);
+        EXPECT_EQ(ui.informed, QStringList { message });
+        EXPECT_EQ(dumpDatabase(db()), before);
+    }
+}
 
 TEST_F(EntryTest, ExpiryOnTheProductionDayAndEmptyBatchFieldsAreAccepted)
 {

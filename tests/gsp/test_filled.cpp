@@ -165,6 +165,8 @@ TEST_F(FilledRecords, ASaveThatIsRefusedWritesNothing)
                 QStringLiteral("店内湿度“120”超出范围，应在 0 到 100 之间！") },
             { [](auto &h) { h.herbal.damaged = -1; },
                 QStringLiteral("检查数量“-1”不是正确的数字！") },
+            { [](auto &h) { h.herbal.qualified = 1e9; },
+                QStringLiteral("检查数量“1000000000”超出范围，应在 0 到 100000000 之间！") },
             { [](auto &h) { h.date = QStringLiteral("2025-02-29"); },
                 QStringLiteral("日期“2025-02-29”不是正确的日期，请按 yyyy-MM-dd 输入！") },
             { [](auto &h) { h.employee = QStringLiteral("999999"); },
@@ -253,6 +255,8 @@ TEST_F(FilledRecords, APickKeepsItsFiguresWhenAChangeIsRefused)
         std::initializer_list<std::tuple<QString, QString, QString>> {
             { QStringLiteral("-1"), QString(), QStringLiteral("数量“-1”不是正确的数字！") },
             { QStringLiteral("十二"), QString(), QStringLiteral("数量“十二”不是正确的数字！") },
+            { QStringLiteral("1e20"), QString(),
+                QStringLiteral("数量“1e+20”超出范围，应在 0 到 100000000 之间！") },
             { QStringLiteral("12"), longText, QStringLiteral("质量状况太长，最多 32 个字！") } }) {
         EXPECT_FALSE(gsp::changePickedLine(session(), id, quantity, quality, QString()).ok());
         EXPECT_EQ(ui.informed.last(), message);

@@ -41,7 +41,7 @@ TEST(MasterDataCommands, AddFindImportAndExport)
         + QStringList { QStringLiteral("import"), QStringLiteral("customer"), sheet,
             QStringLiteral("--dry-run") });
     EXPECT_EQ(dry.status, 0);
-    EXPECT_TRUE(dry.out.contains(QStringLiteral("第3行：我方应收金额必须是数字：一百\n")))
+    EXPECT_TRUE(dry.out.contains(QStringLiteral("第3行：我方应收金额“一百”不是数字！\n")))
         << dry.out.toStdString();
     EXPECT_TRUE(dry.out.endsWith(QStringLiteral("可以导入 1 行，有错误 1 行。\n")));
     const auto declined = runCli(

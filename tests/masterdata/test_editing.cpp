@@ -85,7 +85,7 @@ TEST_F(EditingTest, ARefusedPartLeavesTheDatabaseAsItWas)
     EXPECT_EQ(refused.message(), QStringLiteral("单位：盒 已经存在，请重新输入！"));
     refused = saveGoods(
         session(), { QStringLiteral("10000001"), {}, { unit(QStringLiteral("箱"), 0) }, {}, {} });
-    EXPECT_EQ(refused.message(), QStringLiteral("转换系数必须大于0：0"));
+    EXPECT_EQ(refused.message(), QStringLiteral("转换系数“0”必须大于 0！"));
     EXPECT_EQ(ui.informed.size(), 3);
     EXPECT_EQ(dumpDatabase(db()), before);
 }

@@ -4,6 +4,8 @@
 #include "masterdata/masterrows.h"
 #include "tests/support/accountset.h"
 
+#include <cmath>
+
 using namespace medistock;
 using namespace medistock::masterdata;
 using medistock::test::SessionTest;
@@ -66,7 +68,15 @@ TEST_F(GoodsTest, UnitsBarcodesAndNamedPrices)
         QStringLiteral("单位：盒 已经存在，请重新输入！"));
     EXPECT_EQ(
         addGoodsUnit(session(), code, { 0, QStringLiteral("箱"), 0, QString(), 0, 0 }).message(),
-        QStringLiteral("转换系数必须大于0：0"));
+        QStringLiteral("转换系数“0”必须大于 0！"));
+    EXPECT_EQ(addGoodsUnit(session(), code, { 0, QStringLiteral("箱"), HUGE_VAL, QString(), 0, 0 })
+                  .message(),
+        QStringLiteral("转换系数“inf”不是数字！"));
+    EXPECT_EQ(addGoodsUnit(session(), code, { 0, QStringLiteral("箱"), 40, QString(), 1e20, 0 })
+                  .message(),
+        QStringLiteral("预设进价“1e+20”超出范围，应在 0 到 100000000 之间！"));
+    EXPECT_EQ(setGoodsPrice(session(), code, QStringLiteral("批发价"), std::nan("")).message(),
+        QStringLiteral("价格“nan”不是数字！"));
     EXPECT_EQ(addGoodsUnit(session(), code,
                   { 0, QStringLiteral("箱"), 40, QStringLiteral("6920000000017"), 0, 0 })
                   .message(),

@@ -94,11 +94,11 @@ TEST_F(MasterRowsTest, BadInputIsRefusedWithItsReasonAndWritesNothing)
     EXPECT_EQ(refused("goods",
                   { { QStringLiteral("g_name"), QStringLiteral("板蓝根") },
                       { QStringLiteral("g_jj"), QStringLiteral("12元") } }),
-        QStringLiteral("预设进价必须是数字：12元"));
+        QStringLiteral("预设进价“12元”不是数字！"));
     EXPECT_EQ(refused("goods",
                   { { QStringLiteral("g_name"), QStringLiteral("板蓝根") },
                       { QStringLiteral("g_zdkc"), QStringLiteral("1.5") } }),
-        QStringLiteral("最低库存必须是整数：1.5"));
+        QStringLiteral("最低库存“1.5”应为 0 到 999999999 之间的整数！"));
     EXPECT_EQ(refused("goods",
                   { { QStringLiteral("g_name"), QStringLiteral("板蓝根") },
                       { QStringLiteral("g_ks"), QStringLiteral("2025-02-30") } }),
@@ -115,6 +115,77 @@ TEST_F(MasterRowsTest, BadInputIsRefusedWithItsReasonAndWritesNothing)
         QStringLiteral("仓库名称不能超过64个字！"));
     EXPECT_EQ(ui.informed.size(), 9);
     EXPECT_EQ(dumpDatabase(db()), before);
+}
+
+namespace {
+
+struct AbsurdNumber
+{
+    const char *kind;
+    const char *column;
+    const char *typed;
+    const char *message;
+};
+
+void PrintTo(const AbsurdNumber &c, std::ostream *os)
+{
+    *os << c.column << '=' << c.typed;
+}
+
+} // namespace
+
+class AbsurdMasterNumbers : public MasterRowsTest,
+                            public ::testing::WithParamInterface<AbsurdNumber>
+{
+};
+
+// Every number column of a list keeps the limits of what it stands for; the refusal states them
+// and nothing is written.
+TEST_P(AbsurdMasterNumbers, AreRefusedWithTheirLimits)
+{
+    const AbsurdNumber &c = GetParam();
+    const MasterKind &list = kind(c.kind);
+    const QString before = dumpDatabase(db());
+    const auto added = addMasterRow(session(), list,
+        { { QString::fromLatin1(list.nameColumn), QStringLiteral("新资料") },
+            { QString::fromLatin1(c.column), QString::fromUtf8(c.typed) } });
+    EXPECT_EQ(added.outcome().kind(), Outcome::Kind::Refused);
+    EXPECT_EQ(added.message(), QString::fromUtf8(c.message));
+    EXPECT_EQ(ui.informed, QStringList { QString::fromUtf8(c.message) });
+    EXPECT_EQ(dumpDatabase(db()), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(MasterRowsTest, AbsurdMasterNumbers,
+    ::testing::Values(AbsurdNumber { "goods", "g_kc", "-5", "库存数不能为负数！" },
+        AbsurdNumber { "goods", "g_pjjj", "NaN", "成本均价“NaN”不是数字！" },
+        AbsurdNumber { "goods", "g_pjjj", "-inf", "成本均价“-inf”不是数字！" },
+        AbsurdNumber {
+            "goods", "g_jj", "1e+20", "预设进价“1e+20”超出范围，应在 0 到 100000000 之间！" },
+        AbsurdNumber {
+            "goods", "g_sj", "1e308", "预设售价“1e308”超出范围，应在 0 到 100000000 之间！" },
+        AbsurdNumber { "goods", "g_kc", "100000000.5",
+            "库存数“100000000.5”超出范围，应在 0 到 100000000 之间！" },
+        AbsurdNumber { "goods", "g_zhxs", "0", "转换系数“0”必须大于 0！" },
+        AbsurdNumber { "goods", "g_dzll", "500", "销售折扣“500”超出范围，应在 0 到 1 之间！" },
+        AbsurdNumber { "goods", "g_zdkc", "-1", "最低库存“-1”应为 0 到 999999999 之间的整数！" },
+        AbsurdNumber { "goods", "g_jy", "abc", "禁用“abc”只能是 0 或 1！" },
+        AbsurdNumber { "customer", "kh_lwje", "1e308",
+            "我方应收金额“1e308”超出范围，应在 -1000000000000 到 1000000000000 之间！" },
+        AbsurdNumber { "employee", "u_tc", "150", "提成比例“150”超出范围，应在 0 到 100 之间！" }));
+
+TEST_F(MasterRowsTest, NumbersAtTheirLimitsAndFlagWordsAreTaken)
+{
+    const auto code = addMasterRow(session(), kind("goods"),
+        { { QStringLiteral("g_name"), QStringLiteral("板蓝根") },
+            { QStringLiteral("g_kc"), QStringLiteral("100000000") },
+            { QStringLiteral("g_jj"), QStringLiteral(" 0 ") },
+            { QStringLiteral("g_dzll"), QStringLiteral("1") },
+            { QStringLiteral("g_jy"), QStringLiteral("是") } });
+    ASSERT_TRUE(code.ok()) << code.message().toStdString();
+    EXPECT_EQ(db().firstText(QStringLiteral("select g_kc||'|'||g_jj||'|'||g_dzll||'|'||g_jy "
+                                            "from jxc_goods where g_sn=?"),
+                  { code.value() }),
+        QStringLiteral("100000000|0|1|1"));
 }
 
 TEST_F(MasterRowsTest, ARowInUseCannotBeDeletedButCanBeDisabled)

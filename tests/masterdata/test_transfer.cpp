@@ -62,7 +62,7 @@ TEST_F(TransferTest, ABadRowIsReportedAndNothingIsWrittenUntilConfirmed)
     ASSERT_EQ(plan->rows.size(), 5);
     EXPECT_EQ(plan->rows.at(0).reason, QString());
     EXPECT_EQ(plan->rows.at(1).line, 3);
-    EXPECT_EQ(plan->rows.at(1).reason, QStringLiteral("预设进价必须是数字：十二"));
+    EXPECT_EQ(plan->rows.at(1).reason, QStringLiteral("预设进价“十二”不是数字！"));
     EXPECT_EQ(plan->rows.at(2).reason, QStringLiteral("没有这个商品类别：没有的类别"));
     EXPECT_EQ(
         plan->rows.at(3).reason, QStringLiteral("条码：6920000000017 已被商品“复方甘草片”使用！"));

@@ -4,6 +4,8 @@
 #include "members/redemption.h"
 #include "tests/members/memberstest.h"
 
+#include <cmath>
+
 using namespace medistock;
 using members::RedemptionPeriod;
 
@@ -203,4 +205,26 @@ TEST_F(Redemption, TheGiftRegisterListsPurchasesRedemptionsAndGiveAways)
     EXPECT_EQ(members::giftBalance(db(), umbrella), 28);
     EXPECT_FALSE(members::deleteGiftItem(session(), umbrella));
     EXPECT_EQ(ui.informed.last(), "赠品“100001”已有进货、兑换或赠送记录，不能删除！");
+}
+
+// Gift quantities bought, given away and redeemed keep the shared quantity limits; NaN is no
+// quantity. Nothing is written by a refusal.
+TEST_F(Redemption, AbsurdGiftQuantitiesAreRefused)
+{
+    const QString umbrella
+        = members::saveGiftItem(session(), { {}, QStringLiteral("雨伞"), {}, 80 }, true).value();
+    const QString before = snapshot();
+    const QDate day(2025, 3, 10);
+    EXPECT_EQ(members::addGiftPurchase(session(), umbrella, day, std::nan(""), {}).message(),
+        QStringLiteral("数量“nan”不是数字！"));
+    EXPECT_EQ(members::addGiftPurchase(session(), umbrella, day, 0, {}).message(),
+        QStringLiteral("数量必须大于0！"));
+    EXPECT_EQ(members::addGiveAway(session(), day, {}, { { umbrella, 1e20 } }, {}).message(),
+        QStringLiteral("数量“1e+20”超出范围，应在 0 到 100000000 之间！"));
+    members::RedemptionDraft d = draft();
+    d.pick(offer(QStringLiteral("300001")));
+    d.setQuantity(0, 1e9);
+    EXPECT_EQ(members::saveRedemption(session(), d).message(),
+        QStringLiteral("第1行：兑换数量“1000000000”超出范围，应在 0 到 100000000 之间！"));
+    EXPECT_EQ(test::differences(before, snapshot()), QStringList {});
 }

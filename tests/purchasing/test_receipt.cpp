@@ -3,6 +3,9 @@
 #include "tests/purchasing/purchasingtest.h"
 #include "tests/support/documentrows.h"
 
+#include <cmath>
+#include <limits>
+
 using namespace medistock;
 using namespace medistock::purchasing;
 using medistock::test::PurchasingTest;
@@ -334,7 +337,33 @@ TEST_F(PurchasingTest, TheSaveChecksThePurchaseHeader)
         QStringLiteral("付费方式“到付”不正确，应为“我方付运费”或“对方付运费”！"));
     d.header.freightTerms.clear();
     d.header.freight = -1;
+    EXPECT_EQ(savePurchaseReceipt(session(), d).message(), QStringLiteral("运费不能为负数！"));
+    d.header.freight = 0;
+    d.header.invoiceAmount = std::nan("");
+    EXPECT_EQ(
+        savePurchaseReceipt(session(), d).message(), QStringLiteral("发票金额“nan”不是数字！"));
+    d.header.invoiceAmount = 0;
+    d.header.packing = 1e12 + 1;
     EXPECT_EQ(savePurchaseReceipt(session(), d).message(),
-        QStringLiteral("实付金额、发票金额、运费和包装费不能为负数！"));
+        QStringLiteral("包装费“1000000000001”超出范围，应在 0 到 1000000000000 之间！"));
+    d.header.packing = 0;
+    d.header.paid = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(
+        savePurchaseReceipt(session(), d).message(), QStringLiteral("实付金额“inf”不是数字！"));
     EXPECT_EQ(differences(before, snapshot()), QStringList {});
+}
+
+// The paid amount confirmed at the check keeps the money limits too, named as the dialog names
+// it; nothing is posted.
+TEST_F(PurchasingTest, TheCheckRefusesAnAbsurdPaidAmount)
+{
+    const QString number = saveReceipt(draft({ line(QStringLiteral("200002"), "10", "3") }));
+    const QString unchecked = snapshot();
+    EXPECT_EQ(checkPurchaseReceipt(session(), number, { 1e308, {}, {}, {} }).message(),
+        QStringLiteral("实付金额“1e+308”超出范围，应在 0 到 1000000000000 之间！"));
+    EXPECT_EQ(checkPurchaseReceipt(session(), number, { std::nan(""), {}, {}, {} }).message(),
+        QStringLiteral("实付金额“nan”不是数字！"));
+    EXPECT_EQ(checkPurchaseReceipt(session(), number, { -0.5, {}, {}, {} }).message(),
+        QStringLiteral("实付金额不能为负数！"));
+    EXPECT_EQ(differences(unchecked, snapshot()), QStringList {});
 }

@@ -232,3 +232,13 @@ TEST_F(ReturnTest, ReturnsHaveTheirOwnRights)
     EXPECT_EQ(uncheckPurchaseReturn(session(), number).message(),
         QStringLiteral("您没有取消审核采购退货单的权限！"));
 }
+
+// A return's paid amount is what the supplier pays back: the check names it so when it is absurd.
+TEST_F(ReturnTest, TheCheckRefusesAnAbsurdAmountReceived)
+{
+    const QString number = saveReturn(draft({ returned("2") }));
+    const QString before = snapshot();
+    EXPECT_EQ(checkPurchaseReturn(session(), number, { 1e13, {}, {}, {} }).message(),
+        QStringLiteral("实收金额“10000000000000”超出范围，应在 0 到 1000000000000 之间！"));
+    EXPECT_EQ(differences(before, snapshot()), QStringList {});
+}

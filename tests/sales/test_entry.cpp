@@ -3,6 +3,9 @@
 #include "tests/sales/salestest.h"
 #include "tests/support/documentrows.h"
 
+#include <cmath>
+#include <limits>
+
 using namespace medistock;
 using medistock::test::SalesTest;
 
@@ -58,6 +61,31 @@ TEST_F(SalesTest, ASaleNotConfirmedOrRefusedWritesNothing)
     badMode.header.settlementMode = QStringLiteral("3");
     EXPECT_FALSE(sales::saveSale(session(), badMode));
     EXPECT_EQ(ui.informed.last(), QStringLiteral("结算方式“3”无效，应为 0、1 或 2！"));
+    EXPECT_EQ(test::differences(before, snapshot()), QStringList {});
+}
+
+// Every typed amount of a sales header keeps the money limits, named as the screens name it: the
+// paid amount comes in on a sale and goes back out on a return.
+TEST_F(SalesTest, AbsurdHeaderAmountsAreRefusedByName)
+{
+    const QString before = snapshot();
+    sales::SaleDraft d
+        = draft({ line(QStringLiteral("200002"), QStringLiteral("5"), QStringLiteral("8")) });
+    d.header.paid = std::nan("");
+    EXPECT_FALSE(sales::saveSale(session(), d));
+    d.header.paid = 0;
+    d.header.freight = 1e20;
+    EXPECT_FALSE(sales::saveSale(session(), d));
+    d.header.freight = 0;
+    d.header.invoiceAmount = -1;
+    EXPECT_FALSE(sales::saveSalesOrder(session(), d));
+    d.header.invoiceAmount = 0;
+    d.header.paid = -std::numeric_limits<double>::infinity();
+    EXPECT_FALSE(sales::saveSalesReturn(session(), d));
+    EXPECT_EQ(ui.informed,
+        (QStringList { "实收金额“nan”不是数字！",
+            "运费“1e+20”超出范围，应在 0 到 1000000000000 之间！", "发票金额不能为负数！",
+            "实付金额“-inf”不是数字！" }));
     EXPECT_EQ(test::differences(before, snapshot()), QStringList {});
 }
 

@@ -13,7 +13,13 @@ TEST_F(SalesTest, QuotationsAreAddedFromTheOperatorsWorkRowsChangedQueriedAndDel
     EXPECT_EQ(ui.informed.last(), QStringLiteral("商品“00000000”不存在或已禁用，不能报价！"));
     EXPECT_FALSE(
         sales::addQuotationWorkRow(session(), QStringLiteral("200001"), QStringLiteral("x"), {}));
-    EXPECT_EQ(ui.informed.last(), QStringLiteral("报价“x”不是有效的数字！"));
+    EXPECT_EQ(ui.informed.last(), QStringLiteral("报价“x”不是数字！"));
+    EXPECT_FALSE(sales::addQuotationWorkRow(
+        session(), QStringLiteral("200001"), QStringLiteral("1e20"), {}));
+    EXPECT_EQ(ui.informed.last(), QStringLiteral("报价“1e20”超出范围，应在 0 到 100000000 之间！"));
+    EXPECT_FALSE(
+        sales::addQuotationWorkRow(session(), QStringLiteral("200001"), QStringLiteral("-1"), {}));
+    EXPECT_EQ(ui.informed.last(), QStringLiteral("报价不能为负数！"));
     ASSERT_TRUE(sales::addQuotationWorkRow(
         session(), QStringLiteral("200001"), QStringLiteral("9.5"), QStringLiteral("含税(整件)")));
     ASSERT_TRUE(

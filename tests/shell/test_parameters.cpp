@@ -82,6 +82,55 @@ TEST_F(ParametersTest, SavedSettingsAreReadBackByANewSession)
     EXPECT_FALSE(saveParameters(session(), { { QStringLiteral("id"), 5 } }).ok());
 }
 
+class AbsurdParameters
+    : public ParametersTest,
+      public ::testing::WithParamInterface<std::tuple<const char *, const char *, const char *>>
+{
+};
+
+// A parameter takes only what it means: decimal places 0 to 8, flags 0 or 1, rates within their
+// bounds; the refusal states it and nothing is written.
+TEST_P(AbsurdParameters, AreRefusedAndNothingIsWritten)
+{
+    const auto [column, typed, message] = GetParam();
+    const QString before = test::dumpDatabase(db());
+    const Outcome refused
+        = saveParameters(session(), { { QString::fromLatin1(column), QString::fromUtf8(typed) } });
+    EXPECT_EQ(refused.kind(), Outcome::Kind::Refused);
+    EXPECT_EQ(refused.message(), QString::fromUtf8(message));
+    EXPECT_EQ(ui.informed, QStringList { QString::fromUtf8(message) });
+    EXPECT_EQ(test::dumpDatabase(db()), before);
+    EXPECT_EQ(session().params().priceDecimals(), 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(ParametersTest, AbsurdParameters,
+    ::testing::Values(std::tuple { "cs_cbjs", "-1", "单价小数位数“-1”应为 0 到 8 之间的整数！" },
+        std::tuple { "cs_xsws", "9", "数量小数位数“9”应为 0 到 8 之间的整数！" },
+        std::tuple { "cs_jews", "2.5", "金额小数位数“2.5”应为 0 到 8 之间的整数！" },
+        std::tuple { "cs_kc", "abc", "库存为零时允许采购退货、销售“abc”只能是 0 或 1！" },
+        std::tuple {
+            "cs_shdj", "2", "单据保存后直接审核(选中后审核权限将被忽略)“2”只能是 0 或 1！" },
+        std::tuple { "cs_tax", "1000", "税率“1000”超出范围，应在 0 到 100 之间！" },
+        std::tuple { "cs_tax", "inf", "税率“inf”不是数字！" },
+        std::tuple { "cs_zdzk", "500", "最低折扣“500”超出范围，应在 0 到 1 之间！" },
+        std::tuple { "cs_cgdj", "NaN", "系统参数 cs_cgdj“NaN”不是数字！" },
+        std::tuple { "cs_cgdj", "-3", "系统参数 cs_cgdj“-3”应为 0 到 999999999 之间的整数！" },
+        std::tuple { "cs_hbfh", "人民币元整", "货币符号不能超过 4 个字符！" }));
+
+TEST_F(ParametersTest, FlagsAndNumbersAreStoredAsWhatTheyMean)
+{
+    ASSERT_TRUE(saveParameters(session(),
+        { { QStringLiteral("cs_kc"), QStringLiteral("否") },
+            { QStringLiteral("cs_shdj"), QStringLiteral("true") },
+            { QStringLiteral("cs_cbjs"), QStringLiteral(" 8 ") },
+            { QStringLiteral("cs_tax"), QStringLiteral("13") } })
+                    .ok());
+    EXPECT_EQ(db().firstText(QStringLiteral(
+                  "select cs_kc||'|'||cs_shdj||'|'||cs_cbjs||'|'||cs_tax from jxc_xtcs")),
+        QStringLiteral("0|1|8|13"));
+    EXPECT_EQ(session().params().priceDecimals(), 8);
+}
+
 TEST_F(ParametersTest, RestoringDefaultsIsRefusedWhileAPurchaseLineIsNotWhollyReceived)
 {
     setParameter(QStringLiteral("cs_kc"), 0);

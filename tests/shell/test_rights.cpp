@@ -145,3 +145,52 @@ TEST_F(RightsTest, OperatorsAndTheirPasswords)
     ASSERT_TRUE(setOperatorLocked(session(), QStringLiteral("小李"), false).ok());
     EXPECT_EQ(core::loginOperators(db()).size(), 2);
 }
+
+// A password is hashed whole: characters that text cleaning would drop or widen still count, so a
+// password of such characters is never stored as "no password".
+class PasswordsTakenWhole
+    : public RightsTest,
+      public ::testing::WithParamInterface<std::pair<const char *, const char *>>
+{
+};
+
+TEST_P(PasswordsTakenWhole, OnlyTheTypedTextLogsIn)
+{
+    const QString typed = QString::fromUtf8(GetParam().first);
+    const QString cleaned = QString::fromUtf8(GetParam().second);
+    ASSERT_TRUE(addOperator(session(), QStringLiteral("小李"), QString()).ok());
+    ASSERT_TRUE(changePassword(session(), QStringLiteral("小李"), typed).ok());
+    EXPECT_TRUE(ui.asked.isEmpty());
+    EXPECT_FALSE(core::hasEmptyPassword(db(), QStringLiteral("小李")));
+    const auto login = [&](const QString &password) {
+        return core::login(
+            db(), clock, ui, QStringLiteral("小李"), password, core::LoginMode::Script)
+            .ok();
+    };
+    EXPECT_FALSE(login(cleaned));
+    EXPECT_FALSE(login(QString()));
+    EXPECT_TRUE(login(typed));
+}
+
+INSTANTIATE_TEST_SUITE_P(RightsTest, PasswordsTakenWhole,
+    ::testing::Values(std::pair { "^^^^^^^^", "" }, std::pair { "Ab^c`9", "Abc9" },
+        std::pair { "p'w-1", "p‘w－1" }, std::pair { " 12 ", "12" }));
+
+TEST_F(RightsTest, AnEmptyPasswordIsSetOnlyWhenConfirmed)
+{
+    ASSERT_TRUE(
+        addOperator(session(), QStringLiteral("小李"), QString(), QStringLiteral("s3cret")).ok());
+    const QString before = test::dumpDatabase(db());
+    ui.answerNext(false);
+    const Outcome declined = changePassword(session(), QStringLiteral("小李"), QString());
+    EXPECT_EQ(declined.kind(), Outcome::Kind::Refused);
+    EXPECT_EQ(ui.asked,
+        QStringList {
+            QStringLiteral("确定要清除操作员：小李 的密码吗？清除后不输入密码即可登录。") });
+    EXPECT_EQ(test::dumpDatabase(db()), before);
+
+    ui.answerNext(true);
+    ASSERT_TRUE(changePassword(session(), QStringLiteral("小李"), QString()).ok());
+    EXPECT_TRUE(core::hasEmptyPassword(db(), QStringLiteral("小李")));
+    loginAs(QStringLiteral("小李"));
+}

@@ -147,8 +147,8 @@ TEST_F(GoodsScreenTest, WhatTheFieldsCannotTakeIsToldAndNothingIsWritten)
     typeInto(dialog.lineEdit(QStringLiteral("g_ks")), QStringLiteral("2025-02-30"));
     dialog.save();
     EXPECT_EQ(ui.informed,
-        (QStringList { QStringLiteral("转换系数必须是数字：二十"),
-            QStringLiteral("商品名称必须填写！"), QStringLiteral("预设进价必须是数字：abc"),
+        (QStringList { QStringLiteral("转换系数“二十”不是数字！"),
+            QStringLiteral("商品名称必须填写！"), QStringLiteral("预设进价“abc”不是数字！"),
             QStringLiteral("开始日期不是正确的日期（yyyy-MM-dd）：2025-02-30") }));
     EXPECT_EQ(dialog.unitGrid()->rowCount(), 0);
     EXPECT_TRUE(dialog.isVisible());

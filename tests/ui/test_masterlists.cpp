@@ -81,7 +81,7 @@ TEST_F(MasterListsTest, TheImportDialogWritesNothingUntilConfirmed)
         (QStringList { QStringLiteral("2"), QStringLiteral("可以导入"), QStringLiteral("仁心诊所"),
             QStringLiteral("0571-86001234"), QStringLiteral("120.5") }));
     EXPECT_EQ(dialog.rowGrid()->item(1, 1)->text(), QStringLiteral("客户名称必须填写！"));
-    EXPECT_EQ(dialog.rowGrid()->item(2, 1)->text(), QStringLiteral("我方应收金额必须是数字：一百"));
+    EXPECT_EQ(dialog.rowGrid()->item(2, 1)->text(), QStringLiteral("我方应收金额“一百”不是数字！"));
     EXPECT_EQ(dialog.summaryLabel()->text(), QStringLiteral("可以导入 2 行，有错误 2 行。"));
     EXPECT_EQ(dumpDatabase(db()), before);
 

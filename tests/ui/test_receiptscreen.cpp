@@ -489,3 +489,76 @@ TEST_F(ReceiptScreenTest, TheFinerRightsOfTheReceiptGuardTheirActions)
     // What the receipt holds may still be changed.
     EXPECT_TRUE(screen->lines()->flags(screen->lines()->index(0, 8)) & Qt::ItemIsEditable);
 }
+
+// Absurd numbers typed on the receipt screen get the refusals the command line gives (the entry's
+// and the check's own checks), keep what was typed, and write nothing.
+TEST_F(ReceiptScreenTest, AbsurdNumbersAreRefusedAsOnTheCommandLine)
+{
+    auto kind = std::make_unique<ui::ReceiptScreenKind>();
+    ui::ReceiptScreenKind *receiptKind = kind.get();
+    ui::DocumentScreen screen(workspace(), std::move(kind));
+    showActive(screen);
+    keys.setWindow(&screen);
+    keys.type(QStringLiteral("hdyy"));
+    keys.press(Qt::Key_Return);
+    keyLine(QStringLiteral("amx"), QStringLiteral("A2401"), QStringLiteral("20240102"),
+        QStringLiteral("20260101"), QStringLiteral("1e+20"), QStringLiteral("12.5"));
+    screen.grid()->finishEditing();
+    Keyboard::settle();
+    // A cell's number is told as the cell is left, and again by the save.
+    EXPECT_EQ(ui.informed,
+        QStringList { QStringLiteral("第1行：数量“1e+20”超出范围，应在 0 到 100000000 之间！") });
+    const auto setCell = [&](ui::LineField field, const QString &text) {
+        ui.clear();
+        screen.lines()->setData(
+            screen.lines()->index(0, screen.lines()->columnOf(field)), text, Qt::EditRole);
+        Keyboard::settle();
+        return ui.informed.join(QLatin1Char('|'));
+    };
+    const auto refusalOfSave = [&] {
+        ui.clear();
+        keys.press(Qt::Key_F3);
+        EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_jhd")), 0);
+        return ui.informed.join(QLatin1Char('|'));
+    };
+    EXPECT_EQ(
+        refusalOfSave(), QStringLiteral("第1行：数量“1e+20”超出范围，应在 0 到 100000000 之间！"));
+    EXPECT_EQ(cell(screen, 0, ui::LineField::Quantity), QStringLiteral("1e+20"));
+    EXPECT_EQ(setCell(ui::LineField::Quantity, QStringLiteral("2")), QString());
+    EXPECT_EQ(setCell(ui::LineField::Price, QStringLiteral("NaN")),
+        QStringLiteral("第1行：单价“NaN”不是数字！"));
+    EXPECT_EQ(refusalOfSave(), QStringLiteral("第1行：单价“NaN”不是数字！"));
+    EXPECT_EQ(setCell(ui::LineField::Price, QStringLiteral("12.5")), QString());
+    EXPECT_EQ(setCell(ui::LineField::TaxRate, QStringLiteral("1000")),
+        QStringLiteral("第1行：税率“1000”超出范围，应在 0 到 100 之间！"));
+    EXPECT_EQ(setCell(ui::LineField::TaxRate, QString()), QString());
+    screen.discountField()->setText(QStringLiteral("-5"));
+    EXPECT_EQ(refusalOfSave(), QStringLiteral("优惠金额不能为负数！"));
+    screen.discountField()->setText(QStringLiteral("inf"));
+    EXPECT_EQ(refusalOfSave(), QStringLiteral("优惠金额“inf”不是数字！"));
+    screen.discountField()->clear();
+    receiptKind->freightField()->setText(QStringLiteral("1e308"));
+    EXPECT_EQ(
+        refusalOfSave(), QStringLiteral("运费“1e308”超出范围，应在 0 到 1000000000000 之间！"));
+    receiptKind->freightField()->clear();
+    keys.press(Qt::Key_F3);
+    ASSERT_EQ(screen.number(), QStringLiteral("CJ25031410001"));
+
+    // The check dialog keeps itself open on an amount paid that is no amount.
+    const QString saved = test::dumpDatabase(db());
+    ui.clear();
+    keys.onDialog<ui::PurchaseCheckDialog>([this](ui::PurchaseCheckDialog &dialog) {
+        keys.type(QStringLiteral("1e13"));
+        keys.press(Qt::Key_F5);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !ui.informed.isEmpty(); }, 2000));
+        EXPECT_TRUE(dialog.isVisible());
+        keys.press(Qt::Key_Escape);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, 2000));
+    });
+    keys.press(Qt::Key_F5);
+    EXPECT_FALSE(keys.waiting());
+    EXPECT_EQ(ui.informed,
+        QStringList { QStringLiteral("实付金额“1e13”超出范围，应在 0 到 1000000000000 之间！") });
+    EXPECT_FALSE(screen.isChecked());
+    EXPECT_EQ(test::dumpDatabase(db()), saved);
+}

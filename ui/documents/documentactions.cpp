@@ -6,8 +6,8 @@
 #include "core/interaction.h"
 #include "core/lookups.h"
 #include "core/rounding.h"
+#include "documents/entry.h"
 #include "documents/listing.h"
-#include "masterdata/texts.h"
 #include "shell/rights.h"
 #include "shell/session.h"
 #include "shell/settings.h"
@@ -275,12 +275,13 @@ documents::DocumentDraft DocumentScreen::draft(bool &valid) const
         d.employee = m_employee->currentData().toString();
     if (m_note)
         d.note = m_note->text();
-    if (m_discount && !m_discount->text().trimmed().isEmpty()) {
-        bool ok = false;
-        d.discount = m_discount->text().trimmed().toDouble(&ok);
-        if (!ok) {
-            m_workspace.session.ui().inform(
-                masterdata::texts::notANumber(doctexts::discount, m_discount->text()));
+    if (m_discount) {
+        const Result<double> discount
+            = documents::readHeaderAmount(doctexts::discount, m_discount->text());
+        if (discount)
+            d.discount = discount.value();
+        else {
+            m_workspace.session.ui().inform(discount.message());
             valid = false;
         }
     }

@@ -51,6 +51,19 @@ void DocumentScreen::fillLine(int row, const documents::GoodsChoice &goods)
     m_lines->replaceLine(row, line);
 }
 
+void DocumentScreen::checkNumber(int row, LineField field, const QString &text)
+{
+    const documents::LineNumber which = field == LineField::Quantity
+        ? documents::LineNumber::Quantity
+        : field == LineField::Price    ? documents::LineNumber::Price
+        : field == LineField::Discount ? documents::LineNumber::DiscountRate
+                                       : documents::LineNumber::TaxRate;
+    // What is typed stays in its cell; the save refuses it with the same words.
+    const Result<double> read = documents::readLineNumber(row + 1, which, text);
+    if (!read)
+        m_workspace.session.ui().inform(read.message());
+}
+
 void DocumentScreen::lookUpGoods(int row, const QString &text)
 {
     if (row >= m_lines->rowCount() || m_lines->line(row).chosen || m_lines->line(row).goods != text)

@@ -101,6 +101,8 @@ DocumentScreen::DocumentScreen(
     connect(
         m_lines, &LineModel::goodsTyped, this, &DocumentScreen::lookUpGoods, Qt::QueuedConnection);
     connect(m_lines, &LineModel::unitChanged, this, &DocumentScreen::proposePrice);
+    connect(
+        m_lines, &LineModel::numberTyped, this, &DocumentScreen::checkNumber, Qt::QueuedConnection);
     connect(m_grid, &LineGrid::pickRequested, this, &DocumentScreen::pickFor);
     connect(m_grid, &LineGrid::insertLineRequested, this, &DocumentScreen::insertLine);
     connect(m_grid, &LineGrid::deleteLineRequested, this, &DocumentScreen::deleteLine);

@@ -118,6 +118,7 @@ private:
     void refreshStock();
     void markModified();
     void lookUpGoods(int row, const QString &text);
+    void checkNumber(int row, LineField field, const QString &text);
     void fillLine(int row, const documents::GoodsChoice &goods);
     void proposePrice(int row);
     void pickBatch(int row);

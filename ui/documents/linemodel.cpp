@@ -347,6 +347,9 @@ bool LineModel::setData(const QModelIndex &index, const QVariant &value, int rol
     }
     emit dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
     emit edited();
+    if (field == LineField::Quantity || field == LineField::Price || field == LineField::Discount
+        || field == LineField::TaxRate)
+        emit numberTyped(index.row(), field, text);
     return true;
 }
 

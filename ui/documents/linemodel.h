@@ -108,6 +108,9 @@ signals:
     void goodsTyped(int row, const QString &text);
     // The unit of a line was changed; the screen proposes its price again.
     void unitChanged(int row);
+    // A number was typed into a quantity, price, discount or tax rate cell; the screen checks it
+    // as the save will, so that a refusal shows as the cell is left.
+    void numberTyped(int row, LineField field, const QString &text);
     // Anything on the lines changed.
     void edited();
 

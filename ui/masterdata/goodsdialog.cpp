@@ -3,6 +3,7 @@
 #include "core/interaction.h"
 #include "masterdata/editing.h"
 #include "masterdata/kinds.h"
+#include "masterdata/numbers.h"
 #include "masterdata/texts.h"
 #include "shell/rights.h"
 #include "shell/session.h"
@@ -162,14 +163,17 @@ void GoodsDialog::showLines()
     fillGrid(m_priceGrid, prices);
 }
 
-bool GoodsDialog::readNumber(const QLineEdit *field, const QString &caption, double &number) const
+bool GoodsDialog::readNumber(
+    const QLineEdit *field, const char *table, const char *column, double &number) const
 {
-    const QString text = field->text().trimmed();
-    bool ok = text.isEmpty();
-    number = ok ? 0 : text.toDouble(&ok);
-    if (!ok)
-        m_session.ui().inform(masterdata::texts::notANumber(caption, text));
-    return ok;
+    const Result<double> read = masterdata::readMasterNumber(
+        QString::fromLatin1(table), QString::fromLatin1(column), field->text());
+    if (!read) {
+        m_session.ui().inform(read.message());
+        return false;
+    }
+    number = read.value();
+    return true;
 }
 
 void GoodsDialog::addUnit()
@@ -181,9 +185,9 @@ void GoodsDialog::addUnit()
         m_session.ui().inform(masterdata::texts::nameRequired(unitLabel("dw_name")));
         return;
     }
-    if (!readNumber(m_unitFactor, unitLabel("g_zhxs"), unit.factor)
-        || !readNumber(m_unitPurchase, unitLabel("g_jj"), unit.purchasePrice)
-        || !readNumber(m_unitSale, unitLabel("g_sj"), unit.salePrice))
+    if (!readNumber(m_unitFactor, "jxc_goodsdw", "g_zhxs", unit.factor)
+        || !readNumber(m_unitPurchase, "jxc_goodsdw", "g_jj", unit.purchasePrice)
+        || !readNumber(m_unitSale, "jxc_goodsdw", "g_sj", unit.salePrice))
         return;
     m_units.append(unit);
     showLines();
@@ -233,7 +237,7 @@ void GoodsDialog::addPrice()
         m_session.ui().inform(masterdata::texts::nameRequired(mdtexts::priceName));
         return;
     }
-    if (!readNumber(m_price, mdtexts::price, price))
+    if (!readNumber(m_price, "jxc_goodsprice", "gp_price", price))
         return;
     // A name given again changes that price, as saving would.
     m_prices.removeIf([&](const QPair<QString, double> &p) { return p.first == name; });

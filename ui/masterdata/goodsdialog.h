@@ -49,7 +49,9 @@ private:
     QWidget *buildPricesPage();
     void showLines();
     // A number typed into a line field; tells why not and returns false when it is none.
-    bool readNumber(const QLineEdit *field, const QString &caption, double &number) const;
+    // A number of a unit or a named price, read as saving reads it; a refusal is told.
+    bool readNumber(
+        const QLineEdit *field, const char *table, const char *column, double &number) const;
 
     QList<masterdata::GoodsUnit> m_units;
     QList<masterdata::GoodsBarcode> m_barcodes;

@@ -4,7 +4,6 @@
 #include "core/interaction.h"
 #include "documents/entry.h"
 #include "documents/listing.h"
-#include "masterdata/texts.h"
 #include "purchasing/kinds.h"
 #include "shell/session.h"
 #include "ui/common/keys.h"
@@ -133,7 +132,9 @@ QString PurchaseCheckDialog::shown(const QString &label) const
 purchasing::CheckInput PurchaseCheckDialog::input() const
 {
     purchasing::CheckInput input;
-    input.paid = m_paid->text().trimmed().toDouble();
+    // approve() lets the dialog close on a valid amount only.
+    if (const Result<double> paid = documents::readHeaderAmount(m_paidLabel, m_paid->text()))
+        input.paid = paid.value();
     input.mode = m_mode->currentData().toString();
     input.account = m_account->currentText();
     input.note = m_note->text();
@@ -142,10 +143,9 @@ purchasing::CheckInput PurchaseCheckDialog::input() const
 
 void PurchaseCheckDialog::approve()
 {
-    bool ok = false;
-    m_paid->text().trimmed().toDouble(&ok);
-    if (!ok) {
-        m_session.ui().inform(masterdata::texts::notANumber(m_paidLabel, m_paid->text()));
+    const Result<double> paid = documents::readHeaderAmount(m_paidLabel, m_paid->text());
+    if (!paid) {
+        m_session.ui().inform(paid.message());
         m_paid->setFocus();
         return;
     }

@@ -2,7 +2,7 @@
 
 #include "accounts/texts.h"
 #include "core/interaction.h"
-#include "masterdata/texts.h"
+#include "documents/entry.h"
 #include "purchasing/kinds.h"
 #include "purchasing/proposals.h"
 #include "purchasing/purchasereturn.h"
@@ -150,14 +150,12 @@ Result<purchasing::PurchaseHeader> PurchaseScreenKind::header(const shell::Sessi
         const auto &[field, value] = amounts[i];
         if (!field)
             continue;
-        const QString typed = field->text().trimmed();
-        bool ok = true;
-        *value = typed.isEmpty() ? 0 : typed.toDouble(&ok);
-        if (!ok) {
-            const QString text = masterdata::texts::notANumber(labels[i], typed);
-            session.ui().inform(text);
-            return Outcome::refused(text);
+        const Result<double> typed = documents::readHeaderAmount(labels[i], field->text());
+        if (!typed) {
+            session.ui().inform(typed.message());
+            return typed.outcome();
         }
+        *value = typed.value();
     }
     return h;
 }

@@ -36,6 +36,7 @@ public:
     double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
         const QString &unit, const QString &party) const override;
     Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
+    QLineEdit *freightField() const { return m_freight; }
 
 protected:
     // The purchase header from the fields; refused (and told) when an amount is no number.
