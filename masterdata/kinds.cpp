@@ -85,7 +85,8 @@ constexpr Reference employeeReferences[] = {
 // Lists whose names are copied into goods and documents: a name in use cannot be deleted.
 constexpr Reference unitReferences[] = { { "jxc_goods", "dw_name", "商品资料", nullptr, true },
     { "jxc_goodsdw", "dw_name", "商品辅助单位", nullptr, true } };
-constexpr Reference specReferences[] = { { "jxc_goods", "gg_name", "商品资料", nullptr, true } };
+constexpr Reference packSizeReferences[]
+    = { { "jxc_goods", "gg_name", "商品资料", nullptr, true } };
 constexpr Reference dosageReferences[] = { { "jxc_goods", "g_yjlx", "商品资料", nullptr, true } };
 constexpr Reference genericReferences[] = { { "jxc_goods", "g_tym", "商品资料", nullptr, true } };
 constexpr Reference shelfReferences[] = { { "jxc_goods", "hj_name", "商品资料", nullptr, true } };
@@ -145,7 +146,7 @@ constexpr MasterKind kinds[] = {
     { "unit", "单位", 1, "jxc_dw", "dw_sn", "dw_name", "单位名称", nullptr, nullptr, true, {},
         unitReferences, {} },
     { "packsize", "规格", 1, "jxc_ggxh", "gg_sn", "gg_name", "规格型号", nullptr, nullptr, true, {},
-        specReferences, {} },
+        packSizeReferences, {} },
     { "dosage", "药剂类型", 1, "jxc_yjlx", "lx_sn", "g_yjlx", "药剂类型", nullptr, nullptr, true,
         {}, dosageReferences, {} },
     { "generic", "通用名", 1, "jxc_tym", "tym_sn", "g_tym", "通用名", nullptr, nullptr, true, {},
