@@ -1,6 +1,6 @@
 // The sale keyed as a clerk keys it (customer, goods by mnemonic and barcode, a batch picked
 // over the one proposed), and what the database holds afterwards compared with the same sale
-// saved and checked on the command line; the rights that shape the sale screen.
+// saved and checked on the command line; the rights that shape the sale screen; its print.
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "purchasing/entry.h"
@@ -21,10 +21,13 @@
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/documents/sourcelinesdialog.h"
+#include "ui/reports/previewdialog.h"
+#include "ui/reports/printing.h"
 #include "ui/sales/orderlinesdialog.h"
 #include "ui/sales/registration.h"
 #include "ui/sales/salekinds.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -487,4 +490,32 @@ TEST_F(SaleScreenTest, AnOrderIsKeyedAndTheQueryListsSalesWithReturns)
     EXPECT_EQ(test::gridColumn(*query, 8),
         (QStringList {
             QStringLiteral("345.00"), QStringLiteral("-23.00"), QStringLiteral("322.00") }));
+}
+
+// F8 on a checked sale prints it through its template into the preview: the customer, every
+// goods, the total and the total in capitals as the clerk will see them on paper.
+TEST_F(SaleScreenTest, F8PrintsTheSaleWithPreview)
+{
+    qputenv("MEDISTOCK_REPORT_DIR", MEDISTOCK_SOURCE_DIR "/report");
+    ui::installPrinting(workspace());
+    const QString sale = checkedSale();
+    auto screen = openSale();
+    keys.setWindow(screen.get());
+    screen->openDocument(sale);
+    keys.press(Qt::Key_F8);
+    QList<ui::PreviewDialog *> previews;
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
+            preview && preview->isVisible())
+            previews.append(preview);
+    ASSERT_EQ(previews.size(), 1);
+    EXPECT_TRUE(previews.first()->windowTitle().endsWith(sale))
+        << previews.first()->windowTitle().toStdString();
+    const QString text = previews.first()->report().allText();
+    for (const QString &wanted : { sale, QStringLiteral("华康药店"), QStringLiteral("阿莫西林胶囊"),
+             QStringLiteral("板蓝根颗粒"), QStringLiteral("153.00"),
+             QStringLiteral("壹佰伍拾叁元整") })
+        EXPECT_TRUE(text.contains(wanted)) << wanted.toStdString();
+    delete previews.first();
+    qunsetenv("MEDISTOCK_REPORT_DIR");
 }
