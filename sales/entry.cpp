@@ -203,7 +203,7 @@ Outcome saleRule(const shell::Session &session, SaleHeader &header, ValidDocumen
 Outcome loanedGoodsRule(
     const shell::Session &session, SaleHeader &header, ValidDocument &doc, bool ask)
 {
-    Outcome outcome = checkSaleHeader(session, header);
+    Outcome outcome = checkSaleHeader(session, header, false);
     if (outcome && ask)
         outcome = confirmExpiredBatches(session, doc);
     if (!outcome)

@@ -108,13 +108,14 @@ void addReportCommands(Registry &registry)
     registry.add({ QStringLiteral("print"), QStringLiteral("KEY NUMBER [--style S] --pdf FILE"),
         QStringLiteral("按单据类型（spxs、cgjh、kcdb……）打印一张单据到 PDF；--style 选打印样式"
                        "（如 spxs4、cgjh2）"),
-        runPrint, true });
+        runPrint, Access::LogsIn, true });
     registry.add({ QStringLiteral("print-all"),
         QStringLiteral("KIND --from yyyy-MM-dd --to yyyy-MM-dd --pdf FILE"),
         QStringLiteral("连续打印：日期范围内该类单据逐张打印到同一个 PDF（先询问）"), runPrintAll,
-        true });
+        Access::LogsIn, true });
     registry.add({ QStringLiteral("print-sample"), QStringLiteral("TEMPLATE --pdf FILE"),
-        QStringLiteral("用示例数据预览报表模板（与报表设计的预览相同）"), runPrintSample, true });
+        QStringLiteral("用示例数据预览报表模板（与报表设计的预览相同）"), runPrintSample,
+        Access::Open, true });
 }
 
 } // namespace medistock::cli

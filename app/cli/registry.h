@@ -20,8 +20,8 @@ struct Command
     QString usage; // the arguments, as shown in the help text
     QString summary; // one line
     std::function<int(Context &, Args &)> run;
-    bool paints = false; // lays out text, so the program starts with fonts (a GUI application)
     Access access = Access::LogsIn;
+    bool paints = false; // lays out text, so the program starts with fonts (a GUI application)
 };
 
 class Registry

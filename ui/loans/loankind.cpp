@@ -2,10 +2,10 @@
 
 #include "core/interaction.h"
 #include "core/rounding.h"
+#include "documents/entry.h"
 #include "loans/entry.h"
 #include "loans/kinds.h"
 #include "loans/loancheck.h"
-#include "masterdata/texts.h"
 #include "shell/session.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
@@ -30,20 +30,19 @@ QLineEdit *amountField(QWidget *parent)
 }
 
 // A term typed per base unit: empty is 0; otherwise a number (the loans module refuses one below
-// 0). Refused and told when it is no number.
+// 0). Refused and told when it is no number or beyond what an amount can hold.
 std::optional<double> perUnit(
     const shell::Session &session, const QLineEdit *field, const QString &label)
 {
     const QString typed = field->text().trimmed();
     if (typed.isEmpty())
         return 0.0;
-    bool ok = false;
-    const double value = typed.toDouble(&ok);
-    if (!ok) {
-        session.ui().inform(masterdata::texts::notANumber(label, typed));
+    const Result<double> value = documents::readHeaderAmount(label, typed);
+    if (!value) {
+        session.ui().inform(value.message());
         return std::nullopt;
     }
-    return value;
+    return value.value();
 }
 
 // The loan line of the grid's current row, once the loan is checked (its id2); 0 for none.

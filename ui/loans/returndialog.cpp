@@ -3,8 +3,8 @@
 #include "core/interaction.h"
 #include "core/operation.h"
 #include "core/rounding.h"
+#include "documents/entry.h"
 #include "loans/loansale.h"
-#include "masterdata/texts.h"
 #include "shell/session.h"
 #include "ui/common/datefield.h"
 #include "ui/common/reading.h"
@@ -190,12 +190,13 @@ void LoanReturnDialog::confirm()
         draft.lines.append({ m_plan.lines[row].loan.line, cellText(row, quantityColumn),
             cellText(row, priceColumn) });
     const QString paid = m_paid->text().trimmed();
-    bool ok = true;
-    draft.header.paid = paid.isEmpty() ? 0 : paid.toDouble(&ok);
-    if (!ok) {
-        session.ui().inform(masterdata::texts::notANumber(lntexts::paid, paid));
+    const Result<double> paidAmount
+        = paid.isEmpty() ? Result<double>(0.0) : documents::readHeaderAmount(lntexts::paid, paid);
+    if (!paidAmount) {
+        session.ui().inform(paidAmount.message());
         return;
     }
+    draft.header.paid = paidAmount.value();
     Result<loans::LoanSale> sold = Outcome::refused(QString());
     core::guarded(session.ui(), [&] {
         sold = loans::sellLoanedGoods(session, draft);

@@ -5,7 +5,7 @@
 #include "accounts/ledger.h"
 #include "accounts/texts.h"
 #include "core/interaction.h"
-#include "masterdata/texts.h"
+#include "documents/entry.h"
 #include "sales/entry.h"
 #include "sales/kinds.h"
 #include "sales/orders.h"
@@ -185,14 +185,12 @@ Result<sales::SaleHeader> SalesScreenKind::header(const shell::Session &session)
     for (const auto &[field, value, label] : amounts) {
         if (!field)
             continue;
-        const QString typed = field->text().trimmed();
-        bool ok = true;
-        *value = typed.isEmpty() ? 0 : typed.toDouble(&ok);
-        if (!ok) {
-            const QString text = masterdata::texts::notANumber(label, typed);
-            session.ui().inform(text);
-            return Outcome::refused(text);
+        const Result<double> typed = documents::readHeaderAmount(label, field->text());
+        if (!typed) {
+            session.ui().inform(typed.message());
+            return typed.outcome();
         }
+        *value = typed.value();
     }
     return h;
 }
