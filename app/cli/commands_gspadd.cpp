@@ -3,8 +3,8 @@
 #include "app/cli/registry.h"
 
 #include "gsp/categories.h"
+#include "gsp/displaycheck.h"
 #include "gsp/filled.h"
-#include "gsp/inspection.h"
 #include "gsp/staff.h"
 #include "gsp/temperature.h"
 #include "gsp/tracking.h"

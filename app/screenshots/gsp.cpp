@@ -1,7 +1,7 @@
 #include "app/screenshots/gsp.h"
 
+#include "gsp/displaycheck.h"
 #include "gsp/filled.h"
-#include "gsp/inspection.h"
 #include "gsp/picking.h"
 #include "gsp/restricted.h"
 #include "gsp/staff.h"

@@ -1,5 +1,5 @@
+#include "gsp/displaycheck.h"
 #include "gsp/filled.h"
-#include "gsp/inspection.h"
 #include "gsp/picking.h"
 #include "gsp/tracking.h"
 #include "tests/gsp/gsptest.h"

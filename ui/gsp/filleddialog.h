@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gsp/inspection.h"
+#include "gsp/displaycheck.h"
 #include "gsp/tracking.h"
 
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "gsp/inspection.h"
+#include "gsp/displaycheck.h"
 
 #include "core/connection.h"
 #include "core/numbers.h"
