@@ -10,6 +10,8 @@
 #include "ui/pos/reportscreen.h"
 #include "ui/pos/tilldialogs.h"
 #include "ui/pos/tillscreen.h"
+#include "ui/reports/previewdialog.h"
+#include "ui/reports/printing.h"
 
 #include <QApplication>
 #include <QBarSeries>
@@ -22,6 +24,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
 #include <QTimer>
@@ -330,4 +333,43 @@ TEST_F(TillScreenTest, AShortageRefusesThePaymentAndKeepsTheSale)
     EXPECT_EQ(rows(QStringLiteral("jxc_kcsp"), QStringLiteral("kc_sl"),
                   QStringLiteral("g_sn='200002' and ck_sn='100001'")),
         QStringList { "0" });
+}
+
+// Before anything is sold there is no receipt to print; after the sale, the 58 mm button prints
+// that sale's receipt into the preview, and a held sale leaves the receipt of the last sale.
+TEST_F(TillScreenTest, TheLastReceiptPrintsOnTheChosenPaper)
+{
+    qputenv("MEDISTOCK_REPORT_DIR", MEDISTOCK_SOURCE_DIR "/report");
+    ui::installPrinting(*workspace);
+    till = std::make_unique<ui::TillScreen>(*workspace);
+    QPushButton *print58 = nullptr;
+    for (QPushButton *button : till->findChildren<QPushButton *>())
+        if (button->text() == QStringLiteral("打印小票(58)"))
+            print58 = button;
+    ASSERT_NE(print58, nullptr);
+    ASSERT_TRUE(print58->isEnabled());
+    print58->click();
+    EXPECT_EQ(ui.informed, QStringList { "还没有结账或退货的小票可以打印" });
+
+    ringUpThreeLines();
+    onDialog([](QWidget *w) { qobject_cast<QDialog *>(w)->accept(); });
+    key(Qt::Key_Equal);
+    ASSERT_EQ(till->lastNumber(), "XS25031410001");
+    scan(QStringLiteral("200001"));
+    key(Qt::Key_F8);
+    EXPECT_NE(till->lastNumber(), "XS25031410001");
+    print58->click();
+    QList<ui::PreviewDialog *> previews;
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
+            preview && preview->isVisible())
+            previews.append(preview);
+    ASSERT_EQ(previews.size(), 1);
+    EXPECT_TRUE(previews.first()->windowTitle().contains(QStringLiteral("POS小票(58)")))
+        << previews.first()->windowTitle().toStdString();
+    const QString text = previews.first()->report().allText();
+    for (const QString &wanted : { QStringLiteral("XS25031410001"), QStringLiteral("52.00") })
+        EXPECT_TRUE(text.contains(wanted)) << wanted.toStdString();
+    delete previews.first();
+    qunsetenv("MEDISTOCK_REPORT_DIR");
 }

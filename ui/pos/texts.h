@@ -17,7 +17,9 @@ inline const QString giftMarker = QStringLiteral("(赠品)");
 inline const QString returnReceipt = QStringLiteral("退货");
 inline const QString handover = QStringLiteral("交班");
 inline const QString print = QStringLiteral("打印小票");
-inline const QString printDisabled = QStringLiteral("小票打印尚未提供");
+inline const QString print58 = QStringLiteral("打印小票(58)");
+inline const QString printHint = QStringLiteral("打印最近一张结账或退货的小票（80mm 或 58mm 纸）");
+inline const QString printNothing = QStringLiteral("还没有结账或退货的小票可以打印");
 inline const QString notYet = QStringLiteral("%1尚未提供");
 inline const QString drawerDisabled = QStringLiteral("本机未连接钱箱");
 inline const QStringList lineCaptions { QStringLiteral("商品编号"), QStringLiteral("商品名称"),

@@ -42,6 +42,7 @@ void TillScreen::pay()
     if (!sold)
         return;
     m_lastNumber = sold.value();
+    m_lastReceipt = m_lastNumber;
     m_status->setText(postexts::sold.arg(m_lastNumber,
         QString::number(sale.payment.counter.change, 'f', session.params().amountDecimals())));
     clearSale();
@@ -120,6 +121,7 @@ void TillScreen::returnReceipt()
     if (!posted)
         return;
     m_lastNumber = posted.value();
+    m_lastReceipt = m_lastNumber;
     m_status->setText(postexts::returned.arg(m_lastNumber,
         QString::number(-refund->payment.counter.cash, 'f', session.params().amountDecimals())));
     m_goods->setFocus();
@@ -141,6 +143,17 @@ void TillScreen::handOver()
         return;
     m_status->setText(postexts::handedOver.arg(
         QString::number(done->first.handed, 'f', session.params().amountDecimals())));
+    m_goods->setFocus();
+}
+
+// The receipt of the last sale or return, with preview, on the paper `key` stands for.
+void TillScreen::printReceipt(const QString &key)
+{
+    if (!m_workspace.print)
+        return;
+    if (m_lastReceipt.isEmpty())
+        return m_workspace.session.ui().inform(postexts::printNothing);
+    m_workspace.print(m_workspace, this, PrintRequest { key, m_lastReceipt });
     m_goods->setFocus();
 }
 

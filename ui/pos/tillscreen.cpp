@@ -10,6 +10,7 @@
 #include "shell/session.h"
 #include "ui/common/picker.h"
 #include "ui/common/reading.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/documents/pickers.h"
 #include "ui/pos/texts.h"
@@ -136,10 +137,14 @@ TillScreen::TillScreen(Workspace &workspace, QWidget *parent)
     }
     buttons.append(addKey(postexts::returnReceipt, Qt::Key_F5, &TillScreen::returnReceipt));
     buttons.append(addKey(postexts::handover, Qt::Key_F3, &TillScreen::handOver));
-    auto *print = new QPushButton(postexts::print, this);
-    print->setEnabled(false);
-    print->setToolTip(postexts::printDisabled);
-    buttons.append(print);
+    for (const auto &[label, key] : { std::pair { postexts::print, QStringLiteral("posxp") },
+             std::pair { postexts::print58, QStringLiteral("posxp58") } }) {
+        auto *print = new QPushButton(label, this);
+        connect(print, &QPushButton::clicked, this, [this, key] { printReceipt(key); });
+        print->setEnabled(bool(m_workspace.print));
+        print->setToolTip(m_workspace.print ? postexts::printHint : texts::printingNotBuilt());
+        buttons.append(print);
+    }
     for (int i = 0; i < buttons.size(); ++i) {
         buttons[i]->setFocusPolicy(Qt::NoFocus);
         keys->addWidget(buttons[i], i / 7, i % 7);

@@ -23,8 +23,10 @@ struct Workspace;
 // works the sale with the function keys the account set keeps for the till (付款结账, 修改数量,
 // 修改折扣, 删除当前, 删除全部, 选择会员, 挂单, 解挂, 设为赠品), plus F5 退货 and F3 交班.
 // Everything is posted by the pos operations; a refusal is shown as they word it and the sale
-// on the screen stays as it was typed. The cash drawer, the screen lock, the herbal doses and the
-// receipt print are not built yet: their buttons are disabled with a tooltip.
+// on the screen stays as it was typed. The last receipt sold or returned prints with preview on
+// 80 mm or 58 mm paper (posxp, posxp58); a held sale is not a receipt and does not print. The
+// cash drawer, the screen lock and the herbal doses are not built yet: their buttons are disabled
+// with a tooltip.
 class TillScreen : public QWidget
 {
     Q_OBJECT
@@ -58,6 +60,7 @@ public slots:
     void recall();
     void returnReceipt();
     void handOver();
+    void printReceipt(const QString &key);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -90,6 +93,7 @@ private:
     std::optional<members::Member> m_member;
     QString m_heldNumber;
     QString m_lastNumber;
+    QString m_lastReceipt; // the last sale or return, for the receipt print
     QHash<int, std::function<void()>> m_keys; // Qt key (with the keypad bit cleared) -> action
 };
 
