@@ -3,6 +3,7 @@
 // screens on what it sold.
 #include "core/interaction.h"
 #include "tests/pos/postest.h"
+#include "tests/ui/previews.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/picker.h"
@@ -10,7 +11,6 @@
 #include "ui/pos/reportscreen.h"
 #include "ui/pos/tilldialogs.h"
 #include "ui/pos/tillscreen.h"
-#include "ui/reports/previewdialog.h"
 #include "ui/reports/printing.h"
 
 #include <QApplication>
@@ -359,11 +359,7 @@ TEST_F(TillScreenTest, TheLastReceiptPrintsOnTheChosenPaper)
     key(Qt::Key_F8);
     EXPECT_NE(till->lastNumber(), "XS25031410001");
     print58->click();
-    QList<ui::PreviewDialog *> previews;
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
-            preview && preview->isVisible())
-            previews.append(preview);
+    const QList<ui::PreviewDialog *> previews = test::visiblePreviews();
     ASSERT_EQ(previews.size(), 1);
     EXPECT_TRUE(previews.first()->windowTitle().contains(QStringLiteral("POS小票(58)")))
         << previews.first()->windowTitle().toStdString();

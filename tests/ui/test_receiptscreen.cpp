@@ -7,6 +7,7 @@
 #include "tests/support/cli.h"
 #include "tests/support/documentrows.h"
 #include "tests/ui/keyboard.h"
+#include "tests/ui/previews.h"
 #include "tests/ui/uitest.h"
 #include "ui/common/codenamefield.h"
 #include "ui/documents/documentscreen.h"
@@ -256,14 +257,7 @@ TEST_F(CheckedReceiptTest, F8PrintsTheReceiptWithPreviewInTheChosenStyle)
 {
     qputenv("MEDISTOCK_REPORT_DIR", MEDISTOCK_SOURCE_DIR "/report");
     ui::installPrinting(workspace());
-    const auto previews = [] {
-        QList<ui::PreviewDialog *> found;
-        for (QWidget *widget : QApplication::topLevelWidgets())
-            if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
-                preview && preview->isVisible())
-                found.append(preview);
-        return found;
-    };
+    const auto previews = test::visiblePreviews;
     auto screen = openReceipt();
     keys.setWindow(screen.get());
     QPushButton *print = screen->printButton();

@@ -12,6 +12,7 @@
 #include "tests/support/cli.h"
 #include "tests/support/documentrows.h"
 #include "tests/ui/keyboard.h"
+#include "tests/ui/previews.h"
 #include "tests/ui/uitest.h"
 #include "ui/common/codenamefield.h"
 #include "ui/common/datefield.h"
@@ -21,7 +22,6 @@
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/documents/sourcelinesdialog.h"
-#include "ui/reports/previewdialog.h"
 #include "ui/reports/printing.h"
 #include "ui/sales/orderlinesdialog.h"
 #include "ui/sales/registration.h"
@@ -503,11 +503,7 @@ TEST_F(SaleScreenTest, F8PrintsTheSaleWithPreview)
     keys.setWindow(screen.get());
     screen->openDocument(sale);
     keys.press(Qt::Key_F8);
-    QList<ui::PreviewDialog *> previews;
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
-            preview && preview->isVisible())
-            previews.append(preview);
+    const QList<ui::PreviewDialog *> previews = test::visiblePreviews();
     ASSERT_EQ(previews.size(), 1);
     EXPECT_TRUE(previews.first()->windowTitle().endsWith(sale))
         << previews.first()->windowTitle().toStdString();
