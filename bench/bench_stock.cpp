@@ -27,12 +27,16 @@ namespace {
 const bench::LedgerShape millionRows { 5000, 1000000, 20000 };
 const bench::LedgerShape tenThousandRows { 101, 10000, 0 };
 
-bench::BenchSet &benchSet(const bench::LedgerShape &shape)
+enum class Engine { Sqlite, Postgres };
+
+bench::BenchSet &benchSet(const bench::LedgerShape &shape, Engine engine = Engine::Sqlite)
 {
-    static std::map<int, bench::BenchSet *> sets;
-    bench::BenchSet *&set = sets[shape.rows];
+    static std::map<std::pair<int, Engine>, bench::BenchSet *> sets;
+    bench::BenchSet *&set = sets[{ shape.rows, engine }];
     if (!set)
-        set = &bench::keepForRun(std::make_unique<bench::BenchSet>(shape));
+        set = engine == Engine::Sqlite
+            ? &bench::keepForRun(std::make_unique<bench::BenchSet>(shape))
+            : &bench::keepForRun(std::make_unique<bench::BenchSet>(shape, *bench::benchServer()));
     return *set;
 }
 
@@ -50,10 +54,15 @@ void reverse(bench::BenchSet &set, const QString &number)
     transaction.commit();
 }
 
-void measurePosting(benchmark::State &state, bench::LedgerShape shape, QString (*number)())
+void measurePosting(benchmark::State &state, bench::LedgerShape shape, QString (*number)(),
+    Engine engine = Engine::Sqlite)
 {
+    if (engine == Engine::Postgres && !bench::benchServer()) {
+        state.SkipWithError("no PostgreSQL server: set MEDISTOCK_BENCH_PG or MEDISTOCK_TEST_PG");
+        return;
+    }
     try {
-        bench::BenchSet &set = benchSet(shape);
+        bench::BenchSet &set = benchSet(shape, engine);
         for (auto _ : state) {
             post(set, number());
             state.PauseTiming();
@@ -66,10 +75,15 @@ void measurePosting(benchmark::State &state, bench::LedgerShape shape, QString (
     }
 }
 
-void measureReversal(benchmark::State &state, bench::LedgerShape shape, QString (*number)())
+void measureReversal(benchmark::State &state, bench::LedgerShape shape, QString (*number)(),
+    Engine engine = Engine::Sqlite)
 {
+    if (engine == Engine::Postgres && !bench::benchServer()) {
+        state.SkipWithError("no PostgreSQL server: set MEDISTOCK_BENCH_PG or MEDISTOCK_TEST_PG");
+        return;
+    }
     try {
-        bench::BenchSet &set = benchSet(shape);
+        bench::BenchSet &set = benchSet(shape, engine);
         post(set, number());
         for (auto _ : state) {
             reverse(set, number());
@@ -131,6 +145,36 @@ BENCHMARK_CAPTURE(measureReversal, c_reversal_year_back_1M, millionRows, bench::
     ->Repetitions(15)
     ->ReportAggregatesOnly(true);
 BENCHMARK_CAPTURE(measurePosting, d_busy_line_year_back_1M, millionRows, bench::receiptBusyYearBack)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(15)
+    ->ReportAggregatesOnly(true);
+BENCHMARK_CAPTURE(measurePosting, pg_a_receipt_today_10k, tenThousandRows, bench::receiptToday,
+    Engine::Postgres)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(25)
+    ->ReportAggregatesOnly(true);
+BENCHMARK_CAPTURE(measurePosting, pg_a_receipt_today_1M, millionRows, bench::receiptToday,
+    Engine::Postgres)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(25)
+    ->ReportAggregatesOnly(true);
+BENCHMARK_CAPTURE(measurePosting, pg_b_receipt_year_back_1M, millionRows, bench::receiptYearBack,
+    Engine::Postgres)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(15)
+    ->ReportAggregatesOnly(true);
+BENCHMARK_CAPTURE(measureReversal, pg_c_reversal_year_back_1M, millionRows,
+    bench::receiptYearBack, Engine::Postgres)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(15)
+    ->ReportAggregatesOnly(true);
+BENCHMARK_CAPTURE(measurePosting, pg_d_busy_line_year_back_1M, millionRows,
+    bench::receiptBusyYearBack, Engine::Postgres)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->Repetitions(15)

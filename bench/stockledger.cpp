@@ -12,6 +12,7 @@
 #include "stock/ledger.h"
 #include "stock/stores.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -265,25 +266,61 @@ std::unique_ptr<shell::Session> adminSession(
     return std::move(opened.value());
 }
 
+void load(core::Connection &connection, const LedgerShape &shape)
+{
+    const Outcome created = core::createAllTables(
+        connection, { benchToday(), { QStringLiteral("基准测试药房"), {}, {} } });
+    if (!created)
+        throw core::DbError(created.message());
+    core::ScriptedInteraction interaction;
+    auto session = adminSession(connection, interaction);
+    Loader(*session, shape).run();
+    verify(*session, benchGoods(1));
+    if (shape.busyRows > 0)
+        verify(*session, busyGoods());
+}
+
 void build(const LedgerShape &shape, const QString &path)
 {
     const QString building = path + QStringLiteral(".building");
     QFile::remove(building);
     {
         auto connection = core::Connection::openSqlite(building);
-        const Outcome created = core::createAllTables(
-            *connection, { benchToday(), { QStringLiteral("基准测试药房"), {}, {} } });
-        if (!created)
-            throw core::DbError(created.message());
-        core::ScriptedInteraction interaction;
-        auto session = adminSession(*connection, interaction);
-        Loader(*session, shape).run();
-        verify(*session, benchGoods(1));
-        if (shape.busyRows > 0)
-            verify(*session, busyGoods());
+        load(*connection, shape);
     }
     QFile::remove(path);
     QFile::rename(building, path);
+}
+
+// The names are the benchmark's own (letters, digits, "_"), so they may stand in the statement.
+QString quoted(const QString &name)
+{
+    return QLatin1Char('"') + name + QLatin1Char('"');
+}
+
+// The server's cache of a shape: built under another name, renamed when whole.
+QString serverCache(const LedgerShape &shape, const core::Connection::PostgresOptions &server)
+{
+    const QString name = QStringLiteral("medistock_bench_v3_%1_%2_%3_%4")
+                             .arg(shape.goods)
+                             .arg(shape.rows)
+                             .arg(shape.busyRows)
+                             .arg(indexesKey());
+    auto maintenance = core::Connection::openPostgres(server);
+    if (maintenance->exists(
+            QStringLiteral("select 1 from pg_database where datname=?"), { name }))
+        return name;
+    const QString building = name + QStringLiteral("_building");
+    maintenance->execDirect(QStringLiteral("drop database if exists ") + quoted(building));
+    maintenance->execDirect(QStringLiteral("create database ") + quoted(building));
+    {
+        auto connection = core::Connection::openPostgres(server.withDatabase(building));
+        load(*connection, shape);
+        connection->execDirect(QStringLiteral("analyze"));
+    }
+    maintenance->execDirect(
+        QStringLiteral("alter database %1 rename to %2").arg(quoted(building), quoted(name)));
+    return name;
 }
 
 } // namespace
@@ -347,10 +384,38 @@ BenchSet::BenchSet(const LedgerShape &shape)
     m_session = adminSession(*m_connection, m_interaction);
 }
 
+std::optional<core::Connection::PostgresOptions> benchServer()
+{
+    QString text = qEnvironmentVariable("MEDISTOCK_BENCH_PG");
+    if (text.isEmpty())
+        text = qEnvironmentVariable("MEDISTOCK_TEST_PG");
+    return text.isEmpty() ? std::nullopt : core::Connection::PostgresOptions::parse(text);
+}
+
+BenchSet::BenchSet(const LedgerShape &shape, const core::Connection::PostgresOptions &server)
+    : m_server(server)
+{
+    const QString cached = serverCache(shape, server);
+    m_database = QStringLiteral("medistock_bench_work_%1_%2")
+                     .arg(QCoreApplication::applicationPid())
+                     .arg(shape.rows);
+    auto maintenance = core::Connection::openPostgres(server);
+    maintenance->execDirect(QStringLiteral("drop database if exists %1 with (force)").arg(quoted(m_database)));
+    maintenance->execDirect(
+        QStringLiteral("create database %1 template %2").arg(quoted(m_database), quoted(cached)));
+    m_connection = core::Connection::openPostgres(server.withDatabase(m_database));
+    m_session = adminSession(*m_connection, m_interaction);
+}
+
 BenchSet::~BenchSet()
 {
     m_session.reset();
     m_connection.reset();
+    if (m_server) {
+        auto maintenance = core::Connection::openPostgres(*m_server);
+        maintenance->execDirect(
+            QStringLiteral("drop database if exists %1 with (force)").arg(quoted(m_database)));
+    }
 }
 
 int BenchSet::ledgerRows()

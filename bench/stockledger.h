@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <optional>
 
 namespace medistock::bench {
 
@@ -33,13 +34,20 @@ QString receiptBusyYearBack();
 // The header of one of those receipts as its check hands it to the stock posting.
 stock::PostingHeader receiptHeader(const QString &number);
 
+// The PostgreSQL server the benchmarks also run on: MEDISTOCK_BENCH_PG, else MEDISTOCK_TEST_PG
+// (a libpq text naming a maintenance database on which databases may be created); empty when
+// neither is set, and the PostgreSQL measurements skip saying so.
+std::optional<core::Connection::PostgresOptions> benchServer();
+
 // A working copy of the account set of a shape: built once by the bulk loader into a cache file
 // (MEDISTOCK_BENCH_CACHE, else the temporary folder) and copied fresh for each run, with admin
-// logged in on the copy.
+// logged in on the copy. On a server the cache is a database kept there (medistock_bench_…) and
+// the copy a database made from it, dropped with the set.
 class BenchSet
 {
 public:
     explicit BenchSet(const LedgerShape &shape);
+    BenchSet(const LedgerShape &shape, const core::Connection::PostgresOptions &server);
     ~BenchSet();
 
     shell::Session &session() { return *m_session; }
@@ -50,6 +58,8 @@ public:
 
 private:
     QTemporaryDir m_dir;
+    std::optional<core::Connection::PostgresOptions> m_server;
+    QString m_database;
     std::unique_ptr<core::Connection> m_connection;
     core::ScriptedInteraction m_interaction;
     std::unique_ptr<shell::Session> m_session;

@@ -41,6 +41,65 @@ void buildSetFile(Connection &master, const QString &path, const SeedContext &se
         throw DbError(created.message());
 }
 
+// Both names are the program's own (the master's name as configured and a numeric code).
+QString quotedName(const QString &name)
+{
+    QString inner = name;
+    return QLatin1Char('"') + inner.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
+}
+
+void registerSet(Connection &master, const AccountSet &created)
+{
+    Transaction transaction(master);
+    if (created.isDefault)
+        master.exec(QStringLiteral("update jxc_xtzt set zt_default=0"));
+    master.exec(QStringLiteral("insert into jxc_xtzt (zt_sn,zt_name,zt_default,zt_forbid,"
+                               "zt_note,zt_dbname,zt_dbpwd) values (?,?,?,?,?,?,?)"),
+        { created.code, created.name, created.isDefault ? 1 : 0, created.forbidden ? 1 : 0,
+            created.note, created.fileName, registerPasswordText });
+    transaction.commit();
+}
+
+// On the server a new set is a new database beside the master's with every table made afresh;
+// the database is dropped again when the register row cannot be written.
+Result<AccountSet> createServerAccountSet(
+    Connection &master, const Clock &clock, Interaction &interaction, const NewAccountSet &request)
+{
+    AccountSet created;
+    bool made = false;
+    const Outcome outcome = guarded(interaction, [&]() -> Outcome {
+        const Result<QString> code
+            = nextMasterCode(master, QStringLiteral("jxc_xtzt"), QStringLiteral("zt_sn"));
+        if (!code)
+            return refuse(interaction, code.message());
+        const QString database
+            = accountSetDatabaseName(master.postgresOptions().database, code.value());
+        created = { code.value(), cleanText(request.name), cleanText(request.note), database,
+            request.isDefault, request.forbidden };
+        master.execDirect(QStringLiteral("create database ") + quotedName(database));
+        made = true;
+        {
+            auto set = Connection::openPostgres(master.postgresOptions().withDatabase(database));
+            const Outcome tables = createAllTables(*set, { clock.today(), request.company });
+            if (!tables)
+                throw DbError(tables.message());
+        }
+        registerSet(master, created);
+        made = false;
+        return Outcome::done();
+    });
+    if (made) {
+        try {
+            master.execDirect(QStringLiteral("drop database if exists %1 with (force)")
+                                  .arg(quotedName(created.fileName)));
+        } catch (const DbError &) {
+        }
+    }
+    if (!outcome)
+        return outcome;
+    return created;
+}
+
 } // namespace
 
 QString accountSetNameRequiredText()
@@ -58,9 +117,17 @@ QString setFileMissingText(const QString &path)
     return QStringLiteral("帐套文件不存在：") + path;
 }
 
+QString accountSetDatabaseName(const QString &masterDatabase, const QString &code)
+{
+    return masterDatabase + QLatin1Char('_') + code;
+}
+
 QList<AccountSet> loginAccountSets(Connection &master)
 {
-    QList<AccountSet> offered { { QString(), masterSetName(), QString(), masterFileName(), false,
+    const QString masterName = master.dialect() == Dialect::Postgres
+        ? master.postgresOptions().database
+        : masterFileName();
+    QList<AccountSet> offered { { QString(), masterSetName(), QString(), masterName, false,
         false } };
     for (const AccountSet &set : listAccountSets(master)) {
         if (set.forbidden)
@@ -85,6 +152,17 @@ Result<std::unique_ptr<Connection>> openAccountSet(const QString &folder, const 
     }
 }
 
+Result<std::unique_ptr<Connection>> openAccountSet(Connection &master, const AccountSet &set)
+{
+    if (master.dialect() == Dialect::Sqlite)
+        return openAccountSet(QFileInfo(master.filePath()).absolutePath(), set);
+    try {
+        return Connection::openPostgres(master.postgresOptions().withDatabase(set.fileName));
+    } catch (const DbError &error) {
+        return Outcome::failed(error.message());
+    }
+}
+
 QList<AccountSet> listAccountSets(Connection &master)
 {
     QList<AccountSet> sets;
@@ -101,8 +179,8 @@ Result<AccountSet> createAccountSet(
 {
     if (request.name.trimmed().isEmpty())
         return refuse(interaction, accountSetNameRequiredText());
-    if (master.dialect() != Dialect::Sqlite)
-        return refuse(interaction, QStringLiteral("数据库服务器上的帐套请由数据库管理员创建。"));
+    if (master.dialect() == Dialect::Postgres)
+        return createServerAccountSet(master, clock, interaction, request);
 
     AccountSet created;
     const QString folder = QFileInfo(master.filePath()).absolutePath();

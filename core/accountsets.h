@@ -45,9 +45,16 @@ QList<AccountSet> listAccountSets(Connection &master);
 // that is not disabled, in id order, the default set moved to the front.
 QList<AccountSet> loginAccountSets(Connection &master);
 
+// On a PostgreSQL server the master is a database of its own and each set another database on
+// the same server, named master + "_" + code (register column zt_dbname holds that name).
+QString accountSetDatabaseName(const QString &masterDatabase, const QString &code);
+
 // Opens the file of a set in the given folder; refused (not told) when the file is missing, so
 // that a stale register row never creates an empty file.
 Result<std::unique_ptr<Connection>> openAccountSet(const QString &folder, const AccountSet &set);
+// The same for a set registered in `master`: a file beside it, or on PostgreSQL a database on
+// its server.
+Result<std::unique_ptr<Connection>> openAccountSet(Connection &master, const AccountSet &set);
 
 // Registers a new set under the next code and makes its file jxc_<code>.db beside the master
 // file: a copy of the master file with every table re-created, whose company row takes the given

@@ -67,10 +67,23 @@ QVariant bindable(const QVariant &value)
     return value;
 }
 
-bool isBusy(const QSqlError &error)
+DbError::Kind errorKind(const QSqlError &error, Dialect dialect)
 {
+    if (dialect == Dialect::Postgres) {
+        // SQLSTATE: serialization failure and deadlock; the server has rolled the transaction back.
+        const QString state = error.nativeErrorCode();
+        return state == QLatin1String("40001") || state == QLatin1String("40P01")
+            ? DbError::Kind::Conflict
+            : DbError::Kind::Other;
+    }
     const int code = error.nativeErrorCode().toInt() & 0xff;
-    return code == Busy || code == Locked;
+    return code == Busy || code == Locked ? DbError::Kind::Busy : DbError::Kind::Other;
+}
+
+// What the operator reads when the server kept refusing for other workstations' work.
+QString conflictText()
+{
+    return QStringLiteral("其他工作站正在修改同样的数据，请稍后再试。");
 }
 
 // Whether a connection of this process has the SQLite file open.
@@ -90,10 +103,12 @@ bool openInThisProcess(const QString &path)
 
 void Connection::fail(const QSqlError &error)
 {
-    const bool busy = isBusy(error);
-    if (busy)
+    const DbError::Kind kind = errorKind(error, m_dialect);
+    if (kind != DbError::Kind::Other)
         ++m_busyErrors;
-    throw DbError(errorText(error, m_path), busy);
+    if (kind == DbError::Kind::Conflict)
+        throw DbError(conflictText(), kind);
+    throw DbError(errorText(error, m_path), kind);
 }
 
 // A checked-out prepared statement: binds, executes and gives the query back to the cache when it
@@ -219,6 +234,81 @@ void Connection::giveFileIdentity(bool renew)
     }
 }
 
+std::optional<Connection::PostgresOptions> Connection::PostgresOptions::parse(const QString &text)
+{
+    PostgresOptions options;
+    int at = 0;
+    const auto skipSpaces = [&] {
+        while (at < text.size() && text.at(at).isSpace())
+            ++at;
+    };
+    for (skipSpaces(); at < text.size(); skipSpaces()) {
+        const int equals = text.indexOf(QLatin1Char('='), at);
+        if (equals < 0)
+            return std::nullopt;
+        const QString key = text.mid(at, equals - at).trimmed();
+        at = equals + 1;
+        skipSpaces();
+        QString value;
+        if (at < text.size() && text.at(at) == QLatin1Char('\'')) {
+            for (++at; at < text.size() && text.at(at) != QLatin1Char('\''); ++at) {
+                if (text.at(at) == QLatin1Char('\\') && at + 1 < text.size())
+                    ++at;
+                value += text.at(at);
+            }
+            ++at;
+        } else {
+            while (at < text.size() && !text.at(at).isSpace())
+                value += text.at(at++);
+        }
+        bool number = true;
+        if (key == QLatin1String("host"))
+            options.host = value;
+        else if (key == QLatin1String("port"))
+            options.port = value.toInt(&number);
+        else if (key == QLatin1String("dbname"))
+            options.database = value;
+        else if (key == QLatin1String("user"))
+            options.user = value;
+        else if (key == QLatin1String("password"))
+            options.password = value;
+        else
+            return std::nullopt;
+        if (!number || options.port <= 0 || options.port > 65535)
+            return std::nullopt;
+    }
+    if (options.database.isEmpty())
+        return std::nullopt;
+    return options;
+}
+
+QString Connection::PostgresOptions::text() const
+{
+    QStringList parts;
+    const auto add = [&](const char *key, const QString &value) {
+        if (value.isEmpty())
+            return;
+        QString quoted = value;
+        quoted.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+        quoted.replace(QLatin1Char('\''), QLatin1String("\\'"));
+        const bool plain = quoted == value && !value.contains(QLatin1Char(' '));
+        parts.append(QLatin1String(key) + QLatin1Char('=')
+            + (plain ? value : QStringLiteral("'") + quoted + QStringLiteral("'")));
+    };
+    add("host", host);
+    add("port", QString::number(port));
+    add("dbname", database);
+    add("user", user);
+    return parts.join(QLatin1Char(' '));
+}
+
+Connection::PostgresOptions Connection::PostgresOptions::withDatabase(const QString &name) const
+{
+    PostgresOptions other = *this;
+    other.database = name;
+    return other;
+}
+
 std::unique_ptr<Connection> Connection::openPostgres(const PostgresOptions &options)
 {
     const QString name = QStringLiteral("medistock-%1").arg(++connectionCounter);
@@ -234,7 +324,11 @@ std::unique_ptr<Connection> Connection::openPostgres(const PostgresOptions &opti
         QSqlDatabase::removeDatabase(name);
         throw DbError(text);
     }
-    return std::unique_ptr<Connection>(new Connection(db, Dialect::Postgres, QString(), options));
+    std::unique_ptr<Connection> connection(
+        new Connection(db, Dialect::Postgres, QString(), options));
+    // "drop table if exists" of the table routines would otherwise talk on standard error.
+    connection->execDirect(QStringLiteral("set client_min_messages to warning"));
+    return connection;
 }
 
 void Connection::execDirect(const QString &sql)
@@ -251,9 +345,12 @@ Connection::Statement Connection::take(const QString &sql, const QVariantList &p
     bool *busy = nullptr;
     bool owned = false;
     auto cached = m_cache.find(sql);
+    // The server's driver streams a forward-only result row by row and loses it when another
+    // statement runs meanwhile; there the rows are fetched whole, so that statements nest.
+    const bool forwardOnly = m_dialect == Dialect::Sqlite;
     if (cached == m_cache.end()) {
         query = new QSqlQuery(m_db);
-        query->setForwardOnly(true);
+        query->setForwardOnly(forwardOnly);
         if (!query->prepare(sql)) {
             const QSqlError error = query->lastError();
             delete query;
@@ -263,7 +360,7 @@ Connection::Statement Connection::take(const QString &sql, const QVariantList &p
         busy = &m_busy[sql];
     } else if (m_busy[sql]) {
         query = new QSqlQuery(m_db);
-        query->setForwardOnly(true);
+        query->setForwardOnly(forwardOnly);
         owned = true;
         if (!query->prepare(sql)) {
             const QSqlError error = query->lastError();
@@ -292,6 +389,11 @@ int Connection::exec(const QString &sql, const QVariantList &params)
 
 qint64 Connection::insert(const QString &sql, const QVariantList &params)
 {
+    if (m_dialect == Dialect::Postgres) {
+        // The server tells a new row's id only when asked; every table's key is `id`.
+        Statement statement = take(sql + QStringLiteral(" returning id"), params);
+        return statement.query().next() ? statement.query().value(0).toLongLong() : 0;
+    }
     Statement statement = take(sql, params);
     return statement.query().lastInsertId().toLongLong();
 }
@@ -356,8 +458,9 @@ bool Connection::tableExists(const QString &table)
     if (m_dialect == Dialect::Sqlite)
         return exists(
             QStringLiteral("select 1 from sqlite_master where type='table' and name=?"), { table });
-    return exists(
-        QStringLiteral("select 1 from information_schema.tables where table_name=?"), { table });
+    return exists(QStringLiteral("select 1 from information_schema.tables "
+                                 "where table_schema=current_schema() and table_name=?"),
+        { table });
 }
 
 QStringList Connection::columnNames(const QString &table)

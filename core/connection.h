@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QSqlError;
 class QSqlQuery;
@@ -23,6 +24,8 @@ namespace medistock::core {
 class Connection
 {
 public:
+    // A PostgreSQL server and database. Written as libpq writes it ("host=… port=… dbname=…
+    // user=… password=…"); a missing password is looked up by libpq (~/.pgpass, PGPASSWORD).
     struct PostgresOptions
     {
         QString host;
@@ -30,6 +33,14 @@ public:
         QString database;
         QString user;
         QString password;
+
+        // Reads "key=value" pairs separated by spaces (values may be quoted '…'); the keys above,
+        // dbname for the database. Empty when the text names an unknown key or no database.
+        static std::optional<PostgresOptions> parse(const QString &text);
+        // The text parse() reads, without the password.
+        QString text() const;
+        // The same server and user, another database.
+        PostgresOptions withDatabase(const QString &name) const;
     };
 
     // Opens an SQLite file in WAL mode with a busy timeout. A file that is there must pass the
@@ -49,6 +60,8 @@ public:
     Dialect dialect() const { return m_dialect; }
     // The SQLite file's path; empty on PostgreSQL.
     const QString &filePath() const { return m_path; }
+    // The server and database on PostgreSQL; empty on SQLite.
+    const PostgresOptions &postgresOptions() const { return m_postgres; }
 
     // Runs a statement; returns the number of rows it changed.
     int exec(const QString &sql, const QVariantList &params = {});

@@ -43,16 +43,27 @@ Outcome buildMasterFile(const QString &path, const SeedContext &context)
 {
     try {
         auto connection = Connection::openSqlite(path);
-        Outcome created = createAllTables(*connection, context);
-        if (!created)
-            return created;
-        return ensureRegisterTable(*connection);
+        return initMasterDatabase(*connection, context);
     } catch (const DbError &error) {
         return Outcome::failed(error.message());
     }
 }
 
 } // namespace
+
+Outcome initMasterDatabase(Connection &connection, const SeedContext &context)
+{
+    try {
+        if (!connection.tableExists(QStringLiteral("jxc_xtcs"))) {
+            Outcome created = createAllTables(connection, context);
+            if (!created)
+                return created;
+        }
+        return ensureRegisterTable(connection);
+    } catch (const DbError &error) {
+        return Outcome::failed(error.message());
+    }
+}
 
 Result<InitReport> initDataFolder(const QString &folder, const SeedContext &context)
 {

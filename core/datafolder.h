@@ -24,6 +24,13 @@ struct InitReport
     bool createdMaster = false;
 };
 
+class Connection;
+
+// Gives an empty database every table, its seed rows and the account-set register: what a new
+// master file gets, and a PostgreSQL master database on its first use. A database that has its
+// tables already is left alone.
+Outcome initMasterDatabase(Connection &connection, const SeedContext &context);
+
 // Creates the data folder and the master file when missing; an existing master file is left
 // alone. The file is built under a temporary name and appears whole or not at all.
 Result<InitReport> initDataFolder(const QString &folder, const SeedContext &context);

@@ -11,20 +11,27 @@ namespace medistock::core {
 class DbError : public std::runtime_error
 {
 public:
-    explicit DbError(const QString &message, bool busy = false)
+    // Busy: another connection held the database past the busy timeout (SQLite). Conflict: the
+    // server gave up the transaction because another one touched the same rows at once
+    // (PostgreSQL's serialization failure or deadlock). Either way the whole operation may be
+    // tried again.
+    enum class Kind { Other, Busy, Conflict };
+
+    explicit DbError(const QString &message, Kind kind = Kind::Other)
         : std::runtime_error(message.toStdString())
         , m_message(message)
-        , m_busy(busy)
+        , m_kind(kind)
     { }
 
     // The Chinese text shown to the operator.
     const QString &message() const { return m_message; }
-    // Another connection held the database past the busy timeout: trying again may succeed.
-    bool busy() const { return m_busy; }
+    // Trying the whole operation again may succeed.
+    bool busy() const { return m_kind != Kind::Other; }
+    bool conflict() const { return m_kind == Kind::Conflict; }
 
 private:
     QString m_message;
-    bool m_busy;
+    Kind m_kind;
 };
 
 } // namespace medistock::core

@@ -22,7 +22,10 @@ QString columnTypeSql(Dialect dialect, const QString &declaredType)
 
 QString beginWriteSql(Dialect dialect)
 {
-    return dialect == Dialect::Sqlite ? QStringLiteral("begin immediate") : QStringLiteral("begin");
+    // On the server two workstations write at once; serializable makes each transaction act as
+    // if it ran alone, and one that cannot is refused with a conflict that the operation retries.
+    return dialect == Dialect::Sqlite ? QStringLiteral("begin immediate")
+                                      : QStringLiteral("begin isolation level serializable");
 }
 
 } // namespace medistock::core

@@ -12,7 +12,8 @@ enum class Dialect { Sqlite, Postgres };
 // SQLite keeps the declared type as written; PostgreSQL gets its nearest equivalent.
 QString columnTypeSql(Dialect dialect, const QString &declaredType);
 
-// The statement that opens a write transaction, taking the write lock at once on SQLite.
+// The statement that opens a write transaction: taking the write lock at once on SQLite,
+// serializable on PostgreSQL (conflicts come back as DbError::Kind::Conflict, see operation.h).
 QString beginWriteSql(Dialect dialect);
 
 } // namespace medistock::core

@@ -11,6 +11,7 @@ packages=(
     libsqlite3-dev libsodium-dev libicu-dev libxlsxwriter-dev libzip-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     libzint-dev poppler-utils
+    postgresql-15 postgresql-client-15 libpq-dev
     fonts-noto-cjk xvfb xauth
 )
 

@@ -25,6 +25,16 @@ int runInit(Context &context, Args &args)
     seeds.company.tele = args.option(QStringLiteral("--tele")).value_or(QString());
     requireNoMore(context, args);
 
+    if (context.postgresMaster()) {
+        const Outcome made = core::initMasterDatabase(context.masterConnection(), seeds);
+        if (!made) {
+            context.interaction().inform(made.message());
+            return Context::exitCode(made);
+        }
+        context.out() << QStringLiteral("主帐套数据库已就绪：") << context.postgresMaster()->text()
+                      << Qt::endl;
+        return ExitDone;
+    }
     const auto report = core::initDataFolder(context.dataFolder(), seeds);
     if (!report) {
         context.interaction().inform(report.message());

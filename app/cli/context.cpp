@@ -1,5 +1,6 @@
 #include "app/cli/context.h"
 
+#include "core/accountsets.h"
 #include "core/datafolder.h"
 #include "core/dberror.h"
 #include "shell/session.h"
@@ -48,8 +49,21 @@ QString Context::databasePath() const
     return QDir(dataFolder()).filePath(file);
 }
 
+std::optional<core::Connection::PostgresOptions> Context::postgresMaster() const
+{
+    if (m_options.pg.isEmpty())
+        return std::nullopt;
+    return core::Connection::PostgresOptions::parse(m_options.pg);
+}
+
 core::Connection &Context::connection()
 {
+    if (!m_connection && postgresMaster()) {
+        const auto master = *postgresMaster();
+        m_connection = core::Connection::openPostgres(m_options.set.isEmpty()
+                ? master
+                : master.withDatabase(core::accountSetDatabaseName(master.database, m_options.set)));
+    }
     if (!m_connection) {
         const QString path = databasePath();
         if (!QFile::exists(path))
@@ -63,6 +77,8 @@ core::Connection &Context::masterConnection()
 {
     if (m_options.set.isEmpty())
         return connection();
+    if (!m_master && postgresMaster())
+        m_master = core::Connection::openPostgres(*postgresMaster());
     if (!m_master) {
         const QString path = QDir(dataFolder()).filePath(core::masterFileName());
         if (!QFile::exists(path))

@@ -29,6 +29,8 @@ struct Stop
 struct GlobalOptions
 {
     QString data;
+    // The master database on a PostgreSQL server (--pg, else MEDISTOCK_PG); empty for SQLite files.
+    QString pg;
     QString set;
     QString user;
     QString password;
@@ -64,9 +66,12 @@ public:
     QString dataFolder() const;
     // jxc.db without --set, else jxc_CODE.db in the same folder.
     QString databasePath() const;
-    // Opens the chosen file on first use; throws DbError. A missing file is an error, not created.
+    // The master database of --pg; empty when the sets are SQLite files.
+    std::optional<core::Connection::PostgresOptions> postgresMaster() const;
+    // Opens the chosen file (or with --pg the master database or with --set its set's database)
+    // on first use; throws DbError. A missing file is an error, not created.
     core::Connection &connection();
-    // The master file jxc.db, whatever --set says.
+    // The master file jxc.db (or database), whatever --set says.
     core::Connection &masterConnection();
     // The operator of --user (default "admin") with --password (default empty), logged in on the
     // chosen file without a log row; a refused login stops the command with status 1.

@@ -18,8 +18,8 @@ namespace {
 
 void printHelp(const Registry &registry, QTextStream &out)
 {
-    out << "medistock-cli [--data DIR] [--set CODE] [--user NAME] [--password PW] "
-           "[--today yyyy-MM-dd] [--yes|--no] COMMAND ..."
+    out << "medistock-cli [--data DIR] [--pg \"host=… port=… dbname=… user=…\"] [--set CODE] "
+           "[--user NAME] [--password PW] [--today yyyy-MM-dd] [--yes|--no] COMMAND ..."
         << Qt::endl
         << Qt::endl;
     for (const Command &command : registry.commands()) {
@@ -33,7 +33,8 @@ void printHelp(const Registry &registry, QTextStream &out)
 // Takes the global options out of the argument list, wherever they stand.
 bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &error)
 {
-    const QStringList valued { QStringLiteral("--data"), QStringLiteral("--set"),
+    const QStringList valued { QStringLiteral("--data"), QStringLiteral("--pg"),
+        QStringLiteral("--set"),
         QStringLiteral("--user"), QStringLiteral("--password"), QStringLiteral("--today") };
     QStringList rest;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
@@ -50,6 +51,8 @@ bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &
             const QString value = arguments.at(++i);
             if (argument == QLatin1String("--data"))
                 options.data = value;
+            else if (argument == QLatin1String("--pg"))
+                options.pg = value;
             else if (argument == QLatin1String("--set"))
                 options.set = value;
             else if (argument == QLatin1String("--user"))
@@ -65,6 +68,12 @@ bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &
     if (!options.today.isEmpty()
         && !QDate::fromString(options.today, QStringLiteral("yyyy-MM-dd")).isValid()) {
         error = QStringLiteral("--today 的日期格式应为 yyyy-MM-dd：") + options.today;
+        return false;
+    }
+    if (options.pg.isEmpty())
+        options.pg = qEnvironmentVariable("MEDISTOCK_PG");
+    if (!options.pg.isEmpty() && !core::Connection::PostgresOptions::parse(options.pg)) {
+        error = QStringLiteral("--pg 的连接串应为 \"host=… port=… dbname=… user=…\"：") + options.pg;
         return false;
     }
     arguments = rest;

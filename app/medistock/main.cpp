@@ -1,6 +1,7 @@
 // The desktop program: first start, login, then the main window.
 #include "core/clock.h"
 #include "core/connection.h"
+#include "core/connectionchoice.h"
 #include "core/datafolder.h"
 #include "core/dberror.h"
 #include "ui/accounts/registration.h"
@@ -73,18 +74,22 @@ int main(int argc, char *argv[])
     ui::MessageBoxInteraction interaction;
     const core::Clock clock;
 
-    if (ui::FirstUseDialog::isNeeded(folder)) {
+    const core::ConnectionChoice choice = core::readConnectionChoice(folder);
+    if (!choice.server && ui::FirstUseDialog::isNeeded(folder)) {
         ui::FirstUseDialog first(folder, clock, interaction);
         if (first.exec() != QDialog::Accepted)
             return 0;
     }
 
+    // A server that cannot be reached leaves the login without sets, to choose the connection
+    // again; a damaged master file stops here as it always did.
     std::unique_ptr<core::Connection> master;
     try {
-        master = core::Connection::openSqlite(QDir(folder).filePath(core::masterFileName()));
+        master = core::openMaster(folder, choice, { clock.today(), {} });
     } catch (const core::DbError &error) {
         interaction.inform(error.message());
-        return 2;
+        if (!choice.server)
+            return 2;
     }
     ui::LoginDialog login(std::move(master), folder, clock, interaction);
     if (login.exec() != QDialog::Accepted)

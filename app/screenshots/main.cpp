@@ -35,6 +35,7 @@
 #include "ui/sales/registration.h"
 #include "ui/shell/accountsetscreen.h"
 #include "ui/shell/companydialog.h"
+#include "ui/shell/connectiondialog.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 #include "ui/shell/mainwindow.h"
@@ -222,6 +223,10 @@ ui::OpenedAccountSet shootStartup(
         data, clock, interaction);
     login.setChoice()->setCurrentIndex(login.setChoice()->findText(QStringLiteral("主帐套")));
     shooter.shoot(&login, QStringLiteral("02-login"));
+    // The login's 更改: the chain's server as a clerk fills it in.
+    ui::ConnectionDialog where({ core::Connection::PostgresOptions { QStringLiteral("192.168.1.10"),
+        5432, QStringLiteral("jxc"), QStringLiteral("mendian"), QString() } });
+    shooter.shoot(&where, QStringLiteral("200-login-connection"));
     login.logIn();
     return login.take();
 }

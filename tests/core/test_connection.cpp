@@ -150,7 +150,7 @@ TEST(Guarded, RunsTheWholeBodyAgainWhileTheDatabaseIsBusy)
     int runs = 0;
     const Outcome outcome = guarded(interaction, [&] {
         if (++runs < busyAttempts)
-            throw DbError(QStringLiteral("忙"), true);
+            throw DbError(QStringLiteral("忙"), DbError::Kind::Busy);
         return Outcome::done();
     });
     EXPECT_TRUE(outcome.ok());

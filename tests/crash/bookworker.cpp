@@ -3,10 +3,12 @@
 //
 //   medistock_bookworker FILE SEED SECONDS RECEIPT...
 //
+// FILE may also be a PostgreSQL connection text ("host=… port=… dbname=… user=…").
 // Prints "ready" once it has opened the file and logged in, then one line per operation that
 // ended ("done", "refused" or "failed", the number and the message), and at the end "busy N", the
 // statements that gave up busy and were tried again. SECONDS 0 runs until killed. Exits 0 when it
-// ran its time, 2 when the file could not be opened. MEDISTOCK_BUSY_TIMEOUT (milliseconds)
+// ran its time, 2 when the file could not be opened. "busy N" then counts the server's
+// serialization conflicts, each followed by a retry. MEDISTOCK_BUSY_TIMEOUT (milliseconds)
 // shortens the busy timeout, to watch the retries at work.
 #include "core/clock.h"
 #include "core/connection.h"
@@ -56,12 +58,15 @@ int main(int argc, char *argv[])
 
     std::unique_ptr<core::Connection> connection;
     try {
-        connection = core::Connection::openSqlite(arguments[0]);
+        const auto server = core::Connection::PostgresOptions::parse(arguments[0]);
+        connection = server ? core::Connection::openPostgres(*server)
+                            : core::Connection::openSqlite(arguments[0]);
     } catch (const core::DbError &error) {
         out << "failed open " << error.message() << Qt::endl;
         return 2;
     }
-    if (qEnvironmentVariableIsSet("MEDISTOCK_BUSY_TIMEOUT"))
+    if (qEnvironmentVariableIsSet("MEDISTOCK_BUSY_TIMEOUT")
+        && connection->dialect() == core::Dialect::Sqlite)
         connection->setBusyTimeout(qEnvironmentVariableIntValue("MEDISTOCK_BUSY_TIMEOUT"));
     core::ScriptedInteraction ui(true);
     auto session = shell::openSession(*connection, ui, core::Clock(QDate(2025, 3, 14)),

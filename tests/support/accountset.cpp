@@ -11,6 +11,14 @@ namespace medistock::test {
 void AccountSetTest::SetUp()
 {
     ASSERT_TRUE(m_dir.isValid());
+    if (testDialect() == core::Dialect::Postgres) {
+        const auto options = createTestDatabase(seedContext());
+        m_database = options.database;
+        m_connection = core::Connection::openPostgres(options);
+        // The command line run by a test reaches the same database.
+        qputenv("MEDISTOCK_PG", options.text().toUtf8());
+        return;
+    }
     const auto report = core::initDataFolder(m_dir.path(), seedContext());
     ASSERT_TRUE(report.ok()) << report.message().toStdString();
     m_connection = core::Connection::openSqlite(path());
@@ -19,6 +27,15 @@ void AccountSetTest::SetUp()
 void AccountSetTest::TearDown()
 {
     m_connection.reset();
+    if (!m_database.isEmpty()) {
+        qunsetenv("MEDISTOCK_PG");
+        dropTestDatabase(m_database);
+    }
+}
+
+std::unique_ptr<core::Connection> AccountSetTest::openAgain() const
+{
+    return m_connection->openAnother();
 }
 
 QString AccountSetTest::path() const
@@ -35,7 +52,10 @@ core::SeedContext AccountSetTest::seedContext() const
 void AccountSetTest::reopen()
 {
     m_connection.reset();
-    m_connection = core::Connection::openSqlite(path());
+    if (!m_database.isEmpty())
+        m_connection = core::Connection::openPostgres(testServer()->withDatabase(m_database));
+    else
+        m_connection = core::Connection::openSqlite(path());
 }
 
 void SessionTest::SetUp()
@@ -99,17 +119,34 @@ int rowCount(core::Connection &connection, const QString &table)
     return connection.firstValue(QStringLiteral("select count(*) from ") + table).toInt();
 }
 
+namespace {
+
+// The tables and indexes with what declares them, by name.
+QList<QSqlRecord> schemaObjects(core::Connection &connection)
+{
+    if (connection.dialect() == core::Dialect::Sqlite)
+        return connection.rows(QStringLiteral(
+            "select name,sql from sqlite_master where type in ('table','index') order by name"));
+    return connection.rows(QStringLiteral(
+        "select c.relname,case when c.relkind='i' then pg_get_indexdef(c.oid) else "
+        "(select string_agg(a.attname||' '||format_type(a.atttypid,a.atttypmod),',' "
+        "order by a.attnum) from pg_attribute a where a.attrelid=c.oid and a.attnum>0 and "
+        "not a.attisdropped) end from pg_class c join pg_namespace n on n.oid=c.relnamespace "
+        "where n.nspname=current_schema() and c.relkind in ('r','i') order by c.relname"));
+}
+
+} // namespace
+
 QString dumpDatabase(core::Connection &connection, const QStringList &skipTables)
 {
     QString dump;
-    const QList<QSqlRecord> tables = connection.rows(QStringLiteral(
-        "select name,sql from sqlite_master where type in ('table','index') order by name"));
+    const QList<QSqlRecord> tables = schemaObjects(connection);
     for (const QSqlRecord &table : tables) {
         const QString name = table.value(0).toString();
         if (skipTables.contains(name))
             continue;
         dump += table.value(1).toString() + QLatin1Char('\n');
-        if (name.startsWith(QLatin1String("ix_")))
+        if (name.startsWith(QLatin1String("ix_")) || name.endsWith(QLatin1String("_pkey")))
             continue;
         if (!connection.tableExists(name))
             continue;

@@ -5,6 +5,7 @@
 #include "core/interaction.h"
 #include "core/schema.h"
 #include "shell/session.h"
+#include "tests/support/postgres.h"
 
 #include <QTemporaryDir>
 
@@ -28,7 +29,8 @@ inline QDate fixtureToday()
 }
 
 // A fresh account set with every table and its seed rows, in a folder of its own that is removed
-// after the test.
+// after the test: the master file jxc.db of that folder, or in the PostgreSQL run (postgres.h) a
+// database of its own on the test server, dropped after the test, with the folder beside it.
 class AccountSetTest : public ::testing::Test
 {
 protected:
@@ -37,17 +39,29 @@ protected:
 
     core::Connection &db() { return *m_connection; }
     QString folder() const { return m_dir.path(); }
+    // The master file; only on SQLite.
     QString path() const;
     core::SeedContext seedContext() const;
-    // Closes and reopens the file (what another workstation would see).
+    // Closes and reopens the set (what another workstation would see).
     void reopen();
+    // A second connection to the same set.
+    std::unique_ptr<core::Connection> openAgain() const;
+    bool onPostgres() const { return m_connection && m_connection->dialect() == core::Dialect::Postgres; }
 
     core::Clock clock { fixtureToday() };
 
 private:
     QTemporaryDir m_dir;
     std::unique_ptr<core::Connection> m_connection;
+    QString m_database;
 };
+
+// For a test about SQLite files themselves (their checks, their copies, their locks).
+#define SKIP_ON_POSTGRES()                                                                         \
+    do {                                                                                           \
+        if (medistock::test::testDialect() == medistock::core::Dialect::Postgres)                  \
+            GTEST_SKIP() << "about SQLite files only";                                             \
+    } while (false)
 
 // An account set with "admin" logged in: session() carries the fixture's connection, clock and a
 // scripted interaction that records what was said (ui.informed, ui.asked).

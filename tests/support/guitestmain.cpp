@@ -1,6 +1,6 @@
-#include <QApplication>
+#include "tests/support/postgres.h"
 
-#include <gtest/gtest.h>
+#include <QApplication>
 
 // The main of GUI tests: a QApplication on the offscreen platform unless one is chosen, so the
 // tests need no display.
@@ -9,6 +9,5 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    return medistock::test::runTests(argc, argv);
 }

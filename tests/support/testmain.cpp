@@ -1,10 +1,9 @@
-#include <QCoreApplication>
+#include "tests/support/postgres.h"
 
-#include <gtest/gtest.h>
+#include <QCoreApplication>
 
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    return medistock::test::runTests(argc, argv);
 }

@@ -1,5 +1,6 @@
 #include "ui/shell/logindialog.h"
 
+#include "core/dberror.h"
 #include "core/interaction.h"
 #include "core/login.h"
 #include "core/schema.h"
@@ -7,6 +8,7 @@
 #include "ui/common/keys.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
+#include "ui/shell/connectiondialog.h"
 #include "ui/shell/texts.h"
 
 #include <QComboBox>
@@ -28,7 +30,9 @@ LoginDialog::LoginDialog(std::unique_ptr<core::Connection> master, const QString
     , m_folder(dataFolder)
     , m_clock(clock)
     , m_interaction(interaction)
+    , m_choice(core::readConnectionChoice(dataFolder))
     , m_company(new QLabel(this))
+    , m_connection(new QLabel(describeConnection(m_choice), this))
     , m_sets(new QComboBox(this))
     , m_operators(new QComboBox(this))
     , m_password(new QLineEdit(this))
@@ -36,14 +40,49 @@ LoginDialog::LoginDialog(std::unique_ptr<core::Connection> master, const QString
 {
     setWindowTitle(shelltexts::loginTitle);
     buildLayout();
-    readSafely(m_interaction, [&] { m_offered = core::loginAccountSets(*m_master); });
-    for (const core::AccountSet &set : std::as_const(m_offered))
-        m_sets->addItem(set.name);
     connect(m_sets, &QComboBox::currentIndexChanged, this, &LoginDialog::showSet);
     connect(m_operators, &QComboBox::currentIndexChanged, this, &LoginDialog::showOperator);
     enableEnterNavigation(this);
-    showSet(m_sets->currentIndex());
+    loadSets();
     m_password->setFocus();
+}
+
+void LoginDialog::loadSets()
+{
+    m_offered.clear();
+    if (m_master)
+        readSafely(m_interaction, [&] { m_offered = core::loginAccountSets(*m_master); });
+    {
+        const QSignalBlocker quiet(m_sets);
+        m_sets->clear();
+        for (const core::AccountSet &set : std::as_const(m_offered))
+            m_sets->addItem(set.name);
+    }
+    showSet(m_sets->currentIndex());
+}
+
+void LoginDialog::changeConnection()
+{
+    ConnectionDialog dialog(m_choice, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const core::ConnectionChoice chosen = dialog.choice();
+    std::unique_ptr<core::Connection> master;
+    try {
+        master = core::openMaster(m_folder, chosen, { m_clock.today(), {} });
+    } catch (const core::DbError &error) {
+        m_interaction.inform(error.message());
+        return;
+    }
+    const Outcome written = core::writeConnectionChoice(m_folder, chosen);
+    if (!written)
+        m_interaction.inform(written.message());
+    m_own.reset();
+    m_setOpen = false;
+    m_master = std::move(master);
+    m_choice = chosen;
+    m_connection->setText(describeConnection(m_choice));
+    loadSets();
 }
 
 LoginDialog::~LoginDialog() = default;
@@ -64,7 +103,14 @@ void LoginDialog::buildLayout()
     m_password->setEchoMode(QLineEdit::Password);
     m_password->setProperty("enterConfirms", true);
     m_hint->setStyleSheet(QStringLiteral("color: #b03a2e;"));
+    auto *change = new QPushButton(shelltexts::changeConnection, this);
+    change->setAutoDefault(false);
+    connect(change, &QPushButton::clicked, this, &LoginDialog::changeConnection);
+    auto *where = new QHBoxLayout;
+    where->addWidget(m_connection, 1);
+    where->addWidget(change);
     auto *form = new QFormLayout;
+    form->addRow(shelltexts::connection, where);
     form->addRow(shelltexts::accountSet, m_sets);
     form->addRow(shelltexts::operatorLabel, m_operators);
     form->addRow(shelltexts::password, m_password);
@@ -103,7 +149,7 @@ void LoginDialog::showSet(int index)
     }
     m_chosen = m_offered.at(index);
     if (!m_chosen.code.isEmpty()) {
-        auto opened = core::openAccountSet(m_folder, m_chosen);
+        auto opened = core::openAccountSet(*m_master, m_chosen);
         if (!opened) {
             m_interaction.inform(opened.message());
             m_login->setEnabled(false);

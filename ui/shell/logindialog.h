@@ -3,6 +3,7 @@
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
+#include "core/connectionchoice.h"
 #include "shell/session.h"
 
 #include <QDialog>
@@ -34,7 +35,10 @@ struct OpenedAccountSet
 
 // "Medistock ---- 操作员登录": the account set, the operators not locked, the password with the
 // hint for an empty one. A wrong password is told, the field cleared and the dialog stays;
-// Enter in the password logs in, Esc leaves.
+// Enter in the password logs in, Esc leaves. Above the sets, where they live (the data folder's
+// files or a PostgreSQL server) with 更改 to choose again: a new choice is tried first and kept in
+// the data folder only when its master opens. The master may come in null (the remembered server
+// could not be reached); then no set is offered until the connection is changed.
 class LoginDialog : public QDialog
 {
     Q_OBJECT
@@ -51,12 +55,15 @@ public:
     QLineEdit *passwordField() const { return m_password; }
     QLabel *hintLabel() const { return m_hint; }
     QPushButton *loginButton() const { return m_login; }
+    QLabel *connectionLabel() const { return m_connection; }
 
 public slots:
     void logIn();
+    void changeConnection();
 
 private:
     void buildLayout();
+    void loadSets();
     void showSet(int index);
     void showOperator();
     core::Connection *current() const;
@@ -71,7 +78,9 @@ private:
     bool m_setOpen = false;
     std::unique_ptr<shell::Session> m_session;
 
+    core::ConnectionChoice m_choice;
     QLabel *m_company;
+    QLabel *m_connection;
     QComboBox *m_sets;
     QComboBox *m_operators;
     QLineEdit *m_password;

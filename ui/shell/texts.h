@@ -20,6 +20,19 @@ inline const QString accountSet = QStringLiteral("帐  套：");
 inline const QString operatorLabel = QStringLiteral("操作员：");
 inline const QString password = QStringLiteral("密  码：");
 inline const QString logIn = QStringLiteral("登录(&L)");
+inline const QString connection = QStringLiteral("数据连接：");
+inline const QString changeConnection = QStringLiteral("更改(&D)...");
+
+// Where the account sets live
+inline const QString connectionTitle = QStringLiteral("数据连接");
+inline const QString connectionFiles = QStringLiteral("本机帐套文件（数据目录中）");
+inline const QString connectionServer = QStringLiteral("PostgreSQL 数据库服务器（连锁总部共用）");
+inline const QString serverShort = QStringLiteral("服务器");
+inline const QString serverHost = QStringLiteral("服务器地址：");
+inline const QString serverPort = QStringLiteral("端  口：");
+inline const QString serverDatabase = QStringLiteral("主帐套数据库：");
+inline const QString serverUser = QStringLiteral("用户名：");
+inline const QString serverPassword = QStringLiteral("密  码：");
 
 // Main window
 inline const QString systemMenu = QStringLiteral("系统(&S)");

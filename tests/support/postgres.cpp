@@ -1,0 +1,180 @@
+#include "tests/support/postgres.h"
+
+#include "core/datafolder.h"
+#include "core/dberror.h"
+#include "core/schemacatalogue.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSqlRecord>
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+namespace medistock::test {
+
+namespace {
+
+// Both names are ours, made of letters, digits and "_": they may be joined into the statement.
+QString quoted(const QString &name)
+{
+    return QLatin1Char('"') + name + QLatin1Char('"');
+}
+
+// The template's name tells the schema and seeds it was made with, so that a server outliving
+// one build never hands out a template of another.
+QString templateName(const core::SeedContext &seeds)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    for (const core::TableDef &table : core::schemaTables()) {
+        hash.addData(QByteArray(table.name));
+        for (const core::ColumnDef &column : table.columns)
+            hash.addData(QByteArray(column.name) + ' ' + column.type);
+        hash.addData(QByteArray::number(qsizetype(table.seeds.size())));
+    }
+    for (const core::IndexDef &index : core::schemaIndexes())
+        hash.addData(QByteArray(index.table) + ' ' + index.columns);
+    hash.addData(seeds.today.toString(Qt::ISODate).toUtf8());
+    hash.addData((seeds.company.name + seeds.company.shortName + seeds.company.tele).toUtf8());
+    return QStringLiteral("medistock_template_")
+        + QString::fromLatin1(hash.result().toHex().left(16));
+}
+
+void makeTemplate(core::Connection &server, const QString &name, const core::SeedContext &seeds)
+{
+    // Built under another name and renamed when whole, so a test killed half-way leaves no
+    // template that looks finished.
+    const QString building = name + QStringLiteral("_building");
+    server.execDirect(QStringLiteral("drop database if exists ") + quoted(building));
+    server.execDirect(QStringLiteral("create database ") + quoted(building));
+    {
+        auto connection = core::Connection::openPostgres(testServer()->withDatabase(building));
+        const Outcome made = core::initMasterDatabase(*connection, seeds);
+        if (!made)
+            throw core::DbError(made.message());
+    }
+    server.execDirect(
+        QStringLiteral("alter database %1 rename to %2").arg(quoted(building), quoted(name)));
+}
+
+struct LeftOut
+{
+    QString pattern;
+    QString reason;
+};
+
+QList<LeftOut> leftOutTests()
+{
+    QList<LeftOut> list;
+    QFile file(QStringLiteral(MEDISTOCK_SOURCE_DIR "/tests/postgres-left-out.txt"));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return list;
+    while (!file.atEnd()) {
+        const QString line = QString::fromUtf8(file.readLine()).trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+            continue;
+        const int space = line.indexOf(QRegularExpression(QStringLiteral("\\s")));
+        list.append({ line.left(space), space < 0 ? QString() : line.mid(space).trimmed() });
+    }
+    return list;
+}
+
+// Why the named test does not run in the PostgreSQL run; empty when it does.
+QString leftOutReason(const QString &test)
+{
+    for (const LeftOut &entry : leftOutTests()) {
+        // "*" matches any text, "/" of parameterised names included.
+        const QRegularExpression pattern(QRegularExpression::anchoredPattern(
+            QRegularExpression::escape(entry.pattern).replace(QLatin1String("\\*"), QLatin1String(".*"))));
+        if (pattern.match(test).hasMatch())
+            return entry.reason;
+    }
+    return {};
+}
+
+// The ".pg" tests' skip, in the words CTest reads as a skip.
+int skipped(const QString &reason)
+{
+    std::printf("[  SKIPPED ] %s\n", qPrintable(reason));
+    return 0;
+}
+
+} // namespace
+
+core::Dialect testDialect()
+{
+    return qEnvironmentVariable("MEDISTOCK_TEST_DIALECT") == QLatin1String("postgres")
+        ? core::Dialect::Postgres
+        : core::Dialect::Sqlite;
+}
+
+std::optional<core::Connection::PostgresOptions> testServer()
+{
+    const QString text = qEnvironmentVariable("MEDISTOCK_TEST_PG");
+    if (text.isEmpty())
+        return std::nullopt;
+    return core::Connection::PostgresOptions::parse(text);
+}
+
+core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &seeds)
+{
+    static int made = 0;
+    const QString name = QStringLiteral("medistock_test_%1_%2").arg(getpid()).arg(++made);
+    const QString source = templateName(seeds);
+    auto server = core::Connection::openPostgres(*testServer());
+    // One process makes the template; the others wait for it.
+    server->execDirect(QStringLiteral("select pg_advisory_lock(1847)"));
+    try {
+        if (!server->exists(
+                QStringLiteral("select 1 from pg_database where datname=?"), { source }))
+            makeTemplate(*server, source, seeds);
+    } catch (...) {
+        server->execDirect(QStringLiteral("select pg_advisory_unlock(1847)"));
+        throw;
+    }
+    server->execDirect(QStringLiteral("select pg_advisory_unlock(1847)"));
+    server->execDirect(
+        QStringLiteral("create database %1 template %2").arg(quoted(name), quoted(source)));
+    return testServer()->withDatabase(name);
+}
+
+void dropTestDatabase(const QString &name)
+{
+    auto server = core::Connection::openPostgres(*testServer());
+    // With the account sets a test made beside its master (named master + "_" + code).
+    QStringList names { name };
+    for (const QSqlRecord &row : server->rows(
+             QStringLiteral("select datname from pg_database where datname like ?"),
+             { name + QStringLiteral("\\_%") }))
+        names.append(row.value(0).toString());
+    for (const QString &database : std::as_const(names))
+        server->execDirect(
+            QStringLiteral("drop database if exists %1 with (force)").arg(quoted(database)));
+}
+
+int runTests(int argc, char **argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    if (testDialect() == core::Dialect::Postgres) {
+        if (!testServer())
+            return skipped(QStringLiteral("PostgreSQL run without a server: MEDISTOCK_TEST_PG is "
+                                          "not set (scripts/test.sh sets it)"));
+        // CTest runs one test at a time, named by the filter.
+        const QString filter = QString::fromStdString(GTEST_FLAG_GET(filter));
+        const QString reason = leftOutReason(filter);
+        if (!reason.isEmpty())
+            return skipped(QStringLiteral("left out of the PostgreSQL run: ") + reason);
+        // Run by hand without a filter, the executable leaves them out too.
+        QStringList patterns;
+        for (const LeftOut &entry : leftOutTests())
+            patterns.append(entry.pattern);
+        if (filter == QLatin1String("*") && !patterns.isEmpty())
+            GTEST_FLAG_SET(filter, ("*-" + patterns.join(QLatin1Char(':'))).toStdString());
+    }
+    return RUN_ALL_TESTS();
+}
+
+} // namespace medistock::test

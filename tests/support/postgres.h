@@ -1,0 +1,37 @@
+#pragma once
+
+// The tests' two runs. Every test executable that reaches a database is registered with CTest
+// twice: once as it is, on SQLite files, and once with the suffix ".pg" and the environment
+// variable MEDISTOCK_TEST_DIALECT=postgres. In that second run the fixtures (AccountSetTest,
+// SessionTest and everything built on them, accountset.h) give each test a fresh database on
+// the PostgreSQL server that MEDISTOCK_TEST_PG names, a libpq connection text "host=… port=…
+// user=… dbname=postgres" of a throwaway server on which tests may create and drop databases
+// (scripts/test.sh starts one, see scripts/pgcluster.sh). Without MEDISTOCK_TEST_PG every test of
+// the PostgreSQL run is skipped, with the reason printed.
+//
+// A test of its own for PostgreSQL reads testServer() and skips when it is empty. Tests that are
+// about SQLite files themselves skip in the PostgreSQL run (skipOnPostgres). Tests that do not
+// run on PostgreSQL yet are listed, each with its reason, in tests/postgres-left-out.txt.
+
+#include "core/connection.h"
+#include "core/schema.h"
+
+#include <optional>
+
+namespace medistock::test {
+
+// Postgres in the PostgreSQL run, Sqlite otherwise.
+core::Dialect testDialect();
+// The throwaway server of MEDISTOCK_TEST_PG (its maintenance database); empty when not set.
+std::optional<core::Connection::PostgresOptions> testServer();
+// A new database on the test server holding a master database made with `seeds` (a copy of a
+// template made once per server and seeds); the options to reach it.
+core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &seeds);
+// Drops a database createTestDatabase made, also while connections to it are still open.
+void dropTestDatabase(const QString &name);
+
+// The main of every test executable: in the PostgreSQL run without a server, or for a test left
+// out of that run, says so as a skip instead of running.
+int runTests(int argc, char **argv);
+
+} // namespace medistock::test
