@@ -3,6 +3,8 @@
 #include "core/password.h"
 #include "shell/operators.h"
 #include "tests/ui/uitest.h"
+#include "core/connectionchoice.h"
+#include "ui/shell/connectiondialog.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
 
@@ -12,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -178,4 +181,37 @@ TEST_F(LoginScreen, ASetWhoseFileIsGoneIsToldAndCannotBeLoggedInto)
     EXPECT_FALSE(QFile::exists(file));
     dialog->setChoice()->setCurrentIndex(1);
     EXPECT_TRUE(dialog->loginButton()->isEnabled());
+}
+
+// The data folder remembers a server that cannot be reached: the login offers no set and no
+// login until the connection is chosen again, and says where it tried.
+TEST(LoginConnection, AnUnreachableServerOffersNoSetUntilTheConnectionIsChanged)
+{
+    QTemporaryDir dir;
+    const core::Connection::PostgresOptions server { QStringLiteral("127.0.0.1"), 1,
+        QStringLiteral("jxc"), QStringLiteral("mendian"), QString() };
+    ASSERT_TRUE(core::writeConnectionChoice(dir.path(), { server }).ok());
+    core::ScriptedInteraction said;
+    ui::LoginDialog login(nullptr, dir.path(), core::Clock(QDate(2025, 3, 14)), said);
+    EXPECT_EQ(login.connectionLabel()->text(), QStringLiteral("服务器 127.0.0.1:1 / jxc"));
+    EXPECT_EQ(login.setChoice()->count(), 0);
+    EXPECT_FALSE(login.loginButton()->isEnabled());
+    EXPECT_TRUE(said.informed.isEmpty());
+}
+
+TEST(LoginConnection, TheConnectionDialogTakesTheServerTypedAndKeepsTheFilesOtherwise)
+{
+    ui::ConnectionDialog files({});
+    EXPECT_TRUE(files.filesChoice()->isChecked());
+    EXPECT_FALSE(files.hostField()->isEnabled());
+    EXPECT_FALSE(files.choice().server);
+
+    files.serverChoice()->setChecked(true);
+    EXPECT_TRUE(files.hostField()->isEnabled());
+    test::typeInto(files.hostField(), QStringLiteral("192.168.1.10"));
+    files.databaseField()->clear();
+    test::typeInto(files.databaseField(), QStringLiteral("chain"));
+    const core::ConnectionChoice chosen = files.choice();
+    ASSERT_TRUE(chosen.server);
+    EXPECT_EQ(chosen.server->text(), QStringLiteral("host=192.168.1.10 port=5432 dbname=chain"));
 }
