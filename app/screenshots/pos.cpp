@@ -101,7 +101,7 @@ void shootTill(
     ui::HandoverDialog handover(workspace.session,
         pos::shiftFigures(
             workspace.session, workspace.session.user().name, workspace.session.clock().nowText()),
-        &window);
+        QStringLiteral("jbxp"), &window);
     shots.shootOver(&window, &handover, QStringLiteral("84-till-handover"));
     handover.hide();
 }
