@@ -188,8 +188,8 @@ TEST_F(PosPrintTest, TheRankingAndTheTakingsPrintTheirRowsThroughTheirTemplates)
     preview = onlyPreview();
     ASSERT_NE(preview, nullptr);
     EXPECT_TRUE(preview->windowTitle().contains(QStringLiteral("收银员收银统计")));
-    const QString cashier = rows(QStringLiteral("jxc_admin"), QStringLiteral("a_sn"),
-        QStringLiteral("a_name='admin'"))
+    const QString cashier = rows(
+        QStringLiteral("jxc_admin"), QStringLiteral("a_sn"), QStringLiteral("a_name='admin'"))
                                 .value(0);
     EXPECT_EQ(printedRows(preview->report().pages.first(), QStringLiteral("Cell"), 4),
         QStringList { cashier + "|admin|52.00|52.00" });
@@ -206,10 +206,11 @@ TEST_F(PosPrintTest, TheTillCashPrintsItsInAndOutRows)
     ui::PreviewDialog *preview = onlyPreview();
     ASSERT_NE(preview, nullptr);
     QStringList printed;
-    for (const QString &row : printedRows(preview->report().pages.first(), QStringLiteral("Cell"), 7))
+    for (const QString &row :
+        printedRows(preview->report().pages.first(), QStringLiteral("Cell"), 7))
         printed.append(row.section(QLatin1Char('|'), 2));
-    EXPECT_EQ(printed, (QStringList { "POS 出款|0.00|80.00|admin|上交",
-                           "POS 入款|200.00|0.00|admin|备用零钱" }));
+    EXPECT_EQ(printed,
+        (QStringList { "POS 出款|0.00|80.00|admin|上交", "POS 入款|200.00|0.00|admin|备用零钱" }));
     EXPECT_EQ(printedRows(preview->report().pages.first(), QStringLiteral("Total"), 4),
         QStringList { "200.00|80.00||" });
     delete preview;
@@ -261,6 +262,6 @@ TEST_F(PosPrintTest, EveryTemplateFieldOfEveryReportIsFed)
         }
     }
     EXPECT_EQ(printedKeys,
-        (QStringList { "poslsz", "postj", "posmxb", "possxph1", "possxph2", "possxph3",
-            "possytj1", "poscrk", "possytj2" }));
+        (QStringList { "poslsz", "postj", "posmxb", "possxph1", "possxph2", "possxph3", "possytj1",
+            "poscrk", "possytj2" }));
 }

@@ -194,8 +194,8 @@ TEST_F(DocumentPrint, TheHandoverSlipShowsTheShiftsFiguresOnEitherRoll)
         QStringLiteral("上交营业款：1000.00"), QStringLiteral("下放营业款：234.50"),
         QStringLiteral("交接金额：1234.50"), QStringLiteral("备注：钱箱已清点"),
         QStringLiteral("交班人签字："), QStringLiteral("接班人签字：") };
-    for (const auto &[key, width] : { std::pair { QStringLiteral("jbxp"), 80 },
-             std::pair { QStringLiteral("jbxp58"), 58 } }) {
+    for (const auto &[key, width] :
+        { std::pair { QStringLiteral("jbxp"), 80 }, std::pair { QStringLiteral("jbxp58"), 58 } }) {
         const reports::PrintedDocument slip = printed(key, id);
         ASSERT_EQ(slip.report.pages.size(), 1) << key.toStdString();
         EXPECT_EQ(slip.report.pages.first().sizeMm.width(), width);
@@ -203,8 +203,8 @@ TEST_F(DocumentPrint, TheHandoverSlipShowsTheShiftsFiguresOnEitherRoll)
     }
     ui.clear();
     for (const QString &missing : { QStringLiteral("99"), QStringLiteral("1a") })
-        EXPECT_FALSE(reports::prepareDocument(session(), folders(), QStringLiteral("jbxp"), missing)
-                         .ok());
+        EXPECT_FALSE(
+            reports::prepareDocument(session(), folders(), QStringLiteral("jbxp"), missing).ok());
     EXPECT_EQ(ui.informed,
         (QStringList { QStringLiteral("单据：99不存在！"), QStringLiteral("单据：1a不存在！") }));
 }

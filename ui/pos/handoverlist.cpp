@@ -38,9 +38,8 @@ HandoverList::HandoverList(Workspace &workspace, QWidget *parent)
             amount ? places : 0, amount, c == 0 ? 150 : 0 });
     }
     setColumns(columns, QStringLiteral("POS交班记录"));
-    const std::pair<QString, QString> slips[]
-        = { { postexts::reprintSlip, QStringLiteral("jbxp") },
-              { postexts::reprintSlip58, QStringLiteral("jbxp58") } };
+    const std::pair<QString, QString> slips[] = { { postexts::reprintSlip, QStringLiteral("jbxp") },
+        { postexts::reprintSlip58, QStringLiteral("jbxp58") } };
     for (const auto &[label, key] : slips) {
         auto *print = new QPushButton(label, this);
         print->setEnabled(bool(workspace.print));
@@ -74,8 +73,8 @@ void HandoverList::fetch()
     m_rows = pos::handovers(session, range.from, range.to, m_cashier->text().trimmed());
     QList<QVariantList> rows;
     for (const pos::Handover &h : m_rows)
-        rows.append({ h.time, h.current, h.next, h.takings, h.handedUp, h.leftForNext, h.handed,
-            h.note });
+        rows.append(
+            { h.time, h.current, h.next, h.takings, h.handedUp, h.leftForNext, h.handed, h.note });
     setRows(rows);
 }
 

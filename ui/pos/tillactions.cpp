@@ -137,8 +137,8 @@ void TillScreen::handOver()
             session.ui(), [&] { figures = pos::shiftFigures(session, session.user().name, now); }))
         return;
     const QString slip = !m_workspace.print ? QString()
-        : m_narrowPaper                      ? QStringLiteral("jbxp58")
-                                             : QStringLiteral("jbxp");
+        : m_narrowPaper                     ? QStringLiteral("jbxp58")
+                                            : QStringLiteral("jbxp");
     HandoverDialog dialog(session, figures, slip, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
