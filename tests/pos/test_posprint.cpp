@@ -48,22 +48,6 @@ protected:
         return nullptr;
     }
 
-    // The three lines sold to the member: 20 off her card, 10 by WeChat, 22 in cash.
-    void sellWithSplit()
-    {
-        ringUpThreeLines();
-        onDialog([](QWidget *w) {
-            auto *pay = qobject_cast<ui::PaymentDialog *>(w);
-            ASSERT_NE(pay, nullptr);
-            pay->field(1)->setValue(20);
-            pay->field(4)->setValue(10);
-            pay->field(0)->setValue(22);
-            pay->accept();
-        });
-        key(Qt::Key_Equal);
-        ASSERT_EQ(till->lastNumber(), "XS25031410001") << ui.informed.join('\n').toStdString();
-    }
-
     // The one preview open now; fails the test when there is not exactly one.
     static ui::PreviewDialog *onlyPreview()
     {

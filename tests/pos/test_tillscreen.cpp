@@ -189,17 +189,7 @@ TEST_F(TillScreenTest, TheRankingByCashierShowsTheSaleWithItsProfitRate)
 // The shift of the sale above: 52 taken, 22 of it in cash; the cashier hands 20 up and leaves 2.
 TEST_F(TillScreenTest, TheHandoverWritesTheShiftsTakingsAndTheCountedSplit)
 {
-    ringUpThreeLines();
-    onDialog([](QWidget *w) {
-        auto *pay = qobject_cast<ui::PaymentDialog *>(w);
-        ASSERT_NE(pay, nullptr);
-        pay->field(1)->setValue(20);
-        pay->field(4)->setValue(10);
-        pay->field(0)->setValue(30);
-        pay->accept();
-    });
-    key(Qt::Key_Equal);
-    ASSERT_EQ(till->lastNumber(), "XS25031410001");
+    sellWithSplit();
     onDialog([](QWidget *w) {
         auto *handover = qobject_cast<ui::HandoverDialog *>(w);
         ASSERT_NE(handover, nullptr);

@@ -5,10 +5,12 @@
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/workspace.h"
+#include "ui/pos/tilldialogs.h"
 #include "ui/pos/tillscreen.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QTableWidget>
@@ -95,6 +97,22 @@ protected:
         scan(QStringLiteral("200003"));
         key(Qt::Key_F12);
         answer(Qt::Key_F2, card);
+    }
+
+    // The three lines sold to the member: 20 off her card, 10 by WeChat, 30 in cash (8 change).
+    void sellWithSplit()
+    {
+        ringUpThreeLines();
+        onDialog([](QWidget *w) {
+            auto *pay = qobject_cast<ui::PaymentDialog *>(w);
+            ASSERT_NE(pay, nullptr);
+            pay->field(1)->setValue(20);
+            pay->field(4)->setValue(10);
+            pay->field(0)->setValue(30);
+            pay->accept();
+        });
+        key(Qt::Key_Equal);
+        ASSERT_EQ(till->lastNumber(), "XS25031410001") << ui.informed.join('\n').toStdString();
     }
 
     QStringList shownLines() const
