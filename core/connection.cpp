@@ -99,6 +99,20 @@ bool openInThisProcess(const QString &path)
     return false;
 }
 
+// The key of the server's write lock of a set; advisory locks are kept per database.
+QString writeLockSql()
+{
+    return QStringLiteral("select pg_advisory_lock(730514)");
+}
+
+void releaseWriteLock(const QSqlDatabase &db, Dialect dialect) noexcept
+{
+    if (dialect != Dialect::Postgres)
+        return;
+    QSqlQuery query(db);
+    query.exec(QStringLiteral("select pg_advisory_unlock(730514)"));
+}
+
 } // namespace
 
 void Connection::fail(const QSqlError &error)
@@ -475,11 +489,24 @@ QStringList Connection::columnNames(const QString &table)
 void Connection::beginWrite()
 {
     if (m_depth == 0) {
-        execDirect(beginWriteSql(m_dialect));
+        // On the server, as on a file, one workstation writes to a set at a time: the lock is
+        // taken before the transaction starts, so that its snapshot already holds what the
+        // writer before it committed. Two workstations then never deadlock on each other's
+        // rows; serializable still refuses any writer that goes around the lock.
+        if (m_dialect == Dialect::Postgres)
+            execDirect(writeLockSql());
+        try {
+            execDirect(beginWriteSql(m_dialect));
+        } catch (const DbError &) {
+            releaseWriteLock(m_db, m_dialect);
+            throw;
+        }
         m_rollbackOnly = false;
     }
     ++m_depth;
 }
+
+
 
 void Connection::commitWrite()
 {
@@ -503,6 +530,7 @@ void Connection::commitWrite()
         throw;
     }
     m_depth = 0;
+    releaseWriteLock(m_db, m_dialect);
 }
 
 void Connection::rollbackWrite() noexcept
@@ -521,6 +549,7 @@ void Connection::rollbackWrite() noexcept
         query->finish();
     QSqlQuery query(m_db);
     query.exec(QStringLiteral("rollback"));
+    releaseWriteLock(m_db, m_dialect);
 }
 
 } // namespace medistock::core

@@ -102,9 +102,11 @@ protected:
     }
 };
 
-// Write skew: each workstation reads the row the other one writes. Serializable lets the first
-// commit and refuses the second with a conflict; guarded runs the second again and it goes
-// through on the new state. No update of either is lost.
+// Write skew: each of two writers reads the row the other one writes. The program's writers take
+// the set's write lock one after the other; this one goes around it (as another program on the
+// same database would). Serializable lets it commit first and refuses our operation with a
+// conflict; guarded runs the operation again and it goes through on the new state. No update of
+// either is lost.
 TEST_F(PostgresTest, ASerializationFailureRunsTheOperationAgain)
 {
     auto other = openAgain();
@@ -115,11 +117,11 @@ TEST_F(PostgresTest, ASerializationFailureRunsTheOperationAgain)
         Transaction transaction(*other);
         const QString seen = unitName(*other, QStringLiteral("100003"));
         if (runs == 1) {
-            Transaction first(db());
+            db().execDirect(QStringLiteral("begin isolation level serializable"));
             unitName(db(), QStringLiteral("100002"));
             db().exec(QStringLiteral("update jxc_dw set dw_name=? where dw_sn=?"),
                 { QStringLiteral("箱"), QStringLiteral("100003") });
-            first.commit();
+            db().execDirect(QStringLiteral("commit"));
         }
         other->exec(QStringLiteral("update jxc_dw set dw_name=? where dw_sn=?"),
             { seen + QStringLiteral("/件"), QStringLiteral("100002") });
@@ -132,6 +134,27 @@ TEST_F(PostgresTest, ASerializationFailureRunsTheOperationAgain)
     EXPECT_TRUE(interaction.informed.isEmpty());
     EXPECT_EQ(unitName(db(), QStringLiteral("100003")), QStringLiteral("箱"));
     EXPECT_EQ(unitName(db(), QStringLiteral("100002")), QStringLiteral("箱/件"));
+}
+
+// The write lock is the set's own: a second connection's transaction waits for it, and it is
+// given back at commit and at rollback alike.
+TEST_F(PostgresTest, TheWriteLockIsHeldForTheTransactionOnly)
+{
+    auto other = openAgain();
+    const QString held = QStringLiteral(
+        "select count(*) from pg_locks where locktype='advisory' and database=(select oid from "
+        "pg_database where datname=current_database())");
+    {
+        Transaction transaction(db());
+        EXPECT_EQ(other->firstValue(held).toInt(), 1);
+        transaction.commit();
+    }
+    EXPECT_EQ(other->firstValue(held).toInt(), 0);
+    {
+        Transaction transaction(db());
+        EXPECT_EQ(other->firstValue(held).toInt(), 1);
+    }
+    EXPECT_EQ(other->firstValue(held).toInt(), 0);
 }
 
 TEST_F(PostgresTest, InsertTellsTheNewRowsIdAndAPasswordHashFits)
