@@ -7,8 +7,9 @@
 #   scripts/pgcluster.sh stop DIR    stop that server and remove DIR
 #
 # The server refuses to run as root, so as root the cluster belongs to the unprivileged
-# `postgres` user that Debian's package creates. Durability is switched off: the data dies
-# with the run anyway, and the tests create many small databases.
+# `postgres` user that Debian's package creates. Durability, WAL for replicas and autovacuum are
+# switched off: the data dies with the run anyway, the tests create many small databases, and
+# a vacuum worker on the template would hold up every copy of it.
 set -euo pipefail
 
 bindir=$(ls -d /usr/lib/postgresql/*/bin 2>/dev/null | sort -V | tail -n 1)
@@ -44,7 +45,8 @@ start() {
         if as_owner "$bindir/pg_ctl" -D "$dir/data" -l "$dir/server.log" -w -t 60 start -o \
             "-p $port -k $dir -c listen_addresses=127.0.0.1 -c fsync=off \
              -c synchronous_commit=off -c full_page_writes=off -c max_connections=300 \
-             -c shared_buffers=64MB -c max_locks_per_transaction=256" >/dev/null 2>&1; then
+             -c shared_buffers=64MB -c max_locks_per_transaction=256 -c wal_level=minimal \
+             -c max_wal_senders=0 -c autovacuum=off" >/dev/null 2>&1; then
             echo "host=127.0.0.1 port=$port user=medistock dbname=postgres"
             return 0
         fi

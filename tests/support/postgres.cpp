@@ -12,8 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 namespace medistock::test {
 
 namespace {
@@ -58,6 +56,9 @@ void makeTemplate(core::Connection &server, const QString &name, const core::See
     }
     server.execDirect(
         QStringLiteral("alter database %1 rename to %2").arg(quoted(building), quoted(name)));
+    // Nobody may connect to it (a connection to a template holds up every copy of it).
+    server.execDirect(QStringLiteral("alter database %1 with allow_connections false is_template true")
+                          .arg(quoted(name)));
 }
 
 struct LeftOut
@@ -119,33 +120,115 @@ std::optional<core::Connection::PostgresOptions> testServer()
     return core::Connection::PostgresOptions::parse(text);
 }
 
-core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &seeds)
+namespace {
+
+// A test database is taken from a pool kept on the server: copying the template costs seconds
+// (it holds well over a thousand relations), putting a used database back to the template's
+// rows a fraction of that. Each pool database keeps the template's rows in the schema
+// medistock_pristine, and the shape of its tables as that schema's comment; a database whose
+// tables no longer have that shape (a test dropped, added or changed one) is made afresh.
+constexpr int poolSize = 64;
+constexpr int poolLockBase = 1900;
+
+const QString shapeSql = QStringLiteral(
+    "select md5(string_agg(table_name||'.'||column_name||':'||data_type||':'||"
+    "coalesce(column_default,''),',' order by table_name,ordinal_position)) from "
+    "information_schema.columns where table_schema='public'");
+
+void keepPristineRows(core::Connection &connection)
 {
-    static int made = 0;
-    const QString name = QStringLiteral("medistock_test_%1_%2").arg(getpid()).arg(++made);
-    const QString source = templateName(seeds);
-    auto server = core::Connection::openPostgres(*testServer());
+    connection.execDirect(QStringLiteral(
+        "do $$ declare t record; begin create schema medistock_pristine; "
+        "for t in select tablename from pg_tables where schemaname='public' loop "
+        "execute format('create table medistock_pristine.%I as select * from public.%I',"
+        "t.tablename,t.tablename); end loop; end $$"));
+    const QString shape = connection.firstText(shapeSql);
+    // The shape is an md5 text of hex digits: safe to stand in the statement.
+    connection.execDirect(
+        QStringLiteral("comment on schema medistock_pristine is '%1'").arg(shape));
+}
+
+// Puts the template's rows back; false when the tables have changed shape.
+bool resetToPristine(core::Connection &connection)
+{
+    const QString kept = connection.firstText(QStringLiteral(
+        "select obj_description(oid,'pg_namespace') from pg_namespace where "
+        "nspname='medistock_pristine'"));
+    if (kept.isEmpty() || kept != connection.firstText(shapeSql))
+        return false;
+    connection.execDirect(QStringLiteral(
+        "do $$ declare t record; begin "
+        "for t in select tablename from pg_tables where schemaname='medistock_pristine' loop "
+        "execute format('delete from public.%I',t.tablename); "
+        "execute format('insert into public.%I select * from medistock_pristine.%I',"
+        "t.tablename,t.tablename); "
+        "execute format('select setval(pg_get_serial_sequence(%L,''id''),"
+        "coalesce((select max(id) from public.%I),0)+1,false)','public.'||t.tablename,"
+        "t.tablename); end loop; end $$"));
+    return true;
+}
+
+void ensureTemplate(core::Connection &server, const QString &source, const core::SeedContext &seeds)
+{
     // One process makes the template; the others wait for it.
-    server->execDirect(QStringLiteral("select pg_advisory_lock(1847)"));
+    server.execDirect(QStringLiteral("select pg_advisory_lock(1847)"));
     try {
-        if (!server->exists(
-                QStringLiteral("select 1 from pg_database where datname=?"), { source }))
-            makeTemplate(*server, source, seeds);
+        if (!server.exists(QStringLiteral("select 1 from pg_database where datname=?"), { source }))
+            makeTemplate(server, source, seeds);
     } catch (...) {
-        server->execDirect(QStringLiteral("select pg_advisory_unlock(1847)"));
+        server.execDirect(QStringLiteral("select pg_advisory_unlock(1847)"));
         throw;
     }
-    server->execDirect(QStringLiteral("select pg_advisory_unlock(1847)"));
-    server->execDirect(
-        QStringLiteral("create database %1 template %2").arg(quoted(name), quoted(source)));
-    return testServer()->withDatabase(name);
+    server.execDirect(QStringLiteral("select pg_advisory_unlock(1847)"));
+}
+
+// The connection that holds this process's pool database (its lock) until the process ends.
+std::unique_ptr<core::Connection> &poolHolder()
+{
+    static std::unique_ptr<core::Connection> holder;
+    return holder;
+}
+
+} // namespace
+
+core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &seeds)
+{
+    const QString source = templateName(seeds);
+    auto server = core::Connection::openPostgres(*testServer());
+    ensureTemplate(*server, source, seeds);
+    for (int slot = 0; slot < poolSize; ++slot) {
+        if (!server->firstValue(QStringLiteral("select pg_try_advisory_lock(?)"),
+                        { poolLockBase + slot })
+                 .toBool())
+            continue;
+        const QString name = source + QStringLiteral("_%1").arg(slot);
+        const auto options = testServer()->withDatabase(name);
+        bool fresh = !server->exists(
+            QStringLiteral("select 1 from pg_database where datname=?"), { name });
+        if (!fresh) {
+            auto connection = core::Connection::openPostgres(options);
+            fresh = !resetToPristine(*connection);
+        }
+        if (fresh) {
+            server->execDirect(
+                QStringLiteral("drop database if exists %1 with (force)").arg(quoted(name)));
+            server->execDirect(
+                QStringLiteral("create database %1 template %2").arg(quoted(name), quoted(source)));
+            auto connection = core::Connection::openPostgres(options);
+            keepPristineRows(*connection);
+        }
+        poolHolder() = std::move(server);
+        return options;
+    }
+    throw core::DbError(QStringLiteral("all test databases of the pool are in use"));
 }
 
 void dropTestDatabase(const QString &name)
 {
     auto server = core::Connection::openPostgres(*testServer());
-    // With the account sets a test made beside its master (named master + "_" + code).
-    QStringList names { name };
+    // The account sets a test made beside its master (named master + "_" + code) go; the
+    // database itself goes back to the pool.
+    QStringList names;
     for (const QSqlRecord &row : server->rows(
              QStringLiteral("select datname from pg_database where datname like ?"),
              { name + QStringLiteral("\\_%") }))
@@ -153,6 +236,7 @@ void dropTestDatabase(const QString &name)
     for (const QString &database : std::as_const(names))
         server->execDirect(
             QStringLiteral("drop database if exists %1 with (force)").arg(quoted(database)));
+    poolHolder().reset();
 }
 
 int runTests(int argc, char **argv)

@@ -24,10 +24,14 @@ namespace medistock::test {
 core::Dialect testDialect();
 // The throwaway server of MEDISTOCK_TEST_PG (its maintenance database); empty when not set.
 std::optional<core::Connection::PostgresOptions> testServer();
-// A new database on the test server holding a master database made with `seeds` (a copy of a
-// template made once per server and seeds); the options to reach it.
+// A database on the test server for this process alone, holding a master database made with
+// `seeds`: a copy of a template made once per server and seeds, kept in a pool and put back to
+// the template's rows before it is handed out again (its schema medistock_pristine keeps
+// those rows; pg_dump of a test database should leave it out with -N medistock_pristine).
+// The options to reach it.
 core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &seeds);
-// Drops a database createTestDatabase made, also while connections to it are still open.
+// Gives the database back to the pool, dropping the account-set databases made beside it
+// (named name + "_" + code).
 void dropTestDatabase(const QString &name);
 
 // The main of every test executable: in the PostgreSQL run without a server, or for a test left
