@@ -149,14 +149,14 @@ BENCHMARK_CAPTURE(measurePosting, d_busy_line_year_back_1M, millionRows, bench::
     ->Iterations(1)
     ->Repetitions(15)
     ->ReportAggregatesOnly(true);
-BENCHMARK_CAPTURE(measurePosting, pg_a_receipt_today_10k, tenThousandRows, bench::receiptToday,
-    Engine::Postgres)
+BENCHMARK_CAPTURE(
+    measurePosting, pg_a_receipt_today_10k, tenThousandRows, bench::receiptToday, Engine::Postgres)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->Repetitions(25)
     ->ReportAggregatesOnly(true);
-BENCHMARK_CAPTURE(measurePosting, pg_a_receipt_today_1M, millionRows, bench::receiptToday,
-    Engine::Postgres)
+BENCHMARK_CAPTURE(
+    measurePosting, pg_a_receipt_today_1M, millionRows, bench::receiptToday, Engine::Postgres)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->Repetitions(25)
@@ -167,8 +167,8 @@ BENCHMARK_CAPTURE(measurePosting, pg_b_receipt_year_back_1M, millionRows, bench:
     ->Iterations(1)
     ->Repetitions(15)
     ->ReportAggregatesOnly(true);
-BENCHMARK_CAPTURE(measureReversal, pg_c_reversal_year_back_1M, millionRows,
-    bench::receiptYearBack, Engine::Postgres)
+BENCHMARK_CAPTURE(measureReversal, pg_c_reversal_year_back_1M, millionRows, bench::receiptYearBack,
+    Engine::Postgres)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->Repetitions(15)

@@ -307,8 +307,7 @@ QString serverCache(const LedgerShape &shape, const core::Connection::PostgresOp
                              .arg(shape.busyRows)
                              .arg(indexesKey());
     auto maintenance = core::Connection::openPostgres(server);
-    if (maintenance->exists(
-            QStringLiteral("select 1 from pg_database where datname=?"), { name }))
+    if (maintenance->exists(QStringLiteral("select 1 from pg_database where datname=?"), { name }))
         return name;
     const QString building = name + QStringLiteral("_building");
     maintenance->execDirect(QStringLiteral("drop database if exists ") + quoted(building));
@@ -400,7 +399,8 @@ BenchSet::BenchSet(const LedgerShape &shape, const core::Connection::PostgresOpt
                      .arg(QCoreApplication::applicationPid())
                      .arg(shape.rows);
     auto maintenance = core::Connection::openPostgres(server);
-    maintenance->execDirect(QStringLiteral("drop database if exists %1 with (force)").arg(quoted(m_database)));
+    maintenance->execDirect(
+        QStringLiteral("drop database if exists %1 with (force)").arg(quoted(m_database)));
     maintenance->execDirect(
         QStringLiteral("create database %1 template %2").arg(quoted(m_database), quoted(cached)));
     m_connection = core::Connection::openPostgres(server.withDatabase(m_database));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/connection.h"
 #include "core/interaction.h"
 #include "shell/session.h"
 #include "stock/movement.h"

@@ -45,7 +45,8 @@ void buildSetFile(Connection &master, const QString &path, const SeedContext &se
 QString quotedName(const QString &name)
 {
     QString inner = name;
-    return QLatin1Char('"') + inner.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
+    return QLatin1Char('"') + inner.replace(QLatin1Char('"'), QLatin1String("\"\""))
+        + QLatin1Char('"');
 }
 
 void registerSet(Connection &master, const AccountSet &created)
@@ -92,8 +93,7 @@ Result<AccountSet> createServerAccountSet(
         try {
             master.execDirect(QStringLiteral("drop database if exists %1 with (force)")
                                   .arg(quotedName(created.fileName)));
-        } catch (const DbError &) {
-        }
+        } catch (const DbError &) { }
     }
     if (!outcome)
         return outcome;

@@ -506,8 +506,6 @@ void Connection::beginWrite()
     ++m_depth;
 }
 
-
-
 void Connection::commitWrite()
 {
     if (m_depth == 0)

@@ -3,13 +3,14 @@
 # and, as NAME.pg, on a throwaway PostgreSQL server started here and stopped at the end.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+root=$PWD
 scripts/setup.sh
 scripts/build.sh
 
 pgdir=$(mktemp -d "${TMPDIR:-/tmp}/medistock-pg.XXXXXX")
 chmod 755 "$pgdir"
-trap 'scripts/pgcluster.sh stop "$pgdir"' EXIT
-MEDISTOCK_TEST_PG=$(scripts/pgcluster.sh start "$pgdir")
+trap '"$root/scripts/pgcluster.sh" stop "$pgdir"' EXIT
+MEDISTOCK_TEST_PG=$("$root/scripts/pgcluster.sh" start "$pgdir")
 export MEDISTOCK_TEST_PG
 
 cd build

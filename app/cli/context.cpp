@@ -62,7 +62,8 @@ core::Connection &Context::connection()
         const auto master = *postgresMaster();
         m_connection = core::Connection::openPostgres(m_options.set.isEmpty()
                 ? master
-                : master.withDatabase(core::accountSetDatabaseName(master.database, m_options.set)));
+                : master.withDatabase(
+                    core::accountSetDatabaseName(master.database, m_options.set)));
     }
     if (!m_connection) {
         const QString path = databasePath();

@@ -34,8 +34,8 @@ void printHelp(const Registry &registry, QTextStream &out)
 bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &error)
 {
     const QStringList valued { QStringLiteral("--data"), QStringLiteral("--pg"),
-        QStringLiteral("--set"),
-        QStringLiteral("--user"), QStringLiteral("--password"), QStringLiteral("--today") };
+        QStringLiteral("--set"), QStringLiteral("--user"), QStringLiteral("--password"),
+        QStringLiteral("--today") };
     QStringList rest;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
@@ -73,7 +73,8 @@ bool takeGlobalOptions(QStringList &arguments, GlobalOptions &options, QString &
     if (options.pg.isEmpty())
         options.pg = qEnvironmentVariable("MEDISTOCK_PG");
     if (!options.pg.isEmpty() && !core::Connection::PostgresOptions::parse(options.pg)) {
-        error = QStringLiteral("--pg 的连接串应为 \"host=… port=… dbname=… user=…\"：") + options.pg;
+        error
+            = QStringLiteral("--pg 的连接串应为 \"host=… port=… dbname=… user=…\"：") + options.pg;
         return false;
     }
     arguments = rest;

@@ -75,8 +75,8 @@ TEST(Guarded, RunsTheWholeBodyAgainAfterAConflictAndTellsWhenItKeepsFailing)
     runs = 0;
     const Outcome failed = guarded(interaction, [&]() -> Outcome {
         ++runs;
-        throw DbError(QStringLiteral("其他工作站正在修改同样的数据，请稍后再试。"),
-            DbError::Kind::Conflict);
+        throw DbError(
+            QStringLiteral("其他工作站正在修改同样的数据，请稍后再试。"), DbError::Kind::Conflict);
     });
     EXPECT_EQ(runs, conflictAttempts);
     EXPECT_EQ(failed.kind(), Outcome::Kind::Failed);
@@ -159,14 +159,14 @@ TEST_F(PostgresTest, TheWriteLockIsHeldForTheTransactionOnly)
 
 TEST_F(PostgresTest, InsertTellsTheNewRowsIdAndAPasswordHashFits)
 {
-    const qint64 first = db().insert(
-        QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"),
-        { QStringLiteral("100009"), QStringLiteral("板") });
-    const qint64 second = db().insert(
-        QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"),
-        { QStringLiteral("100010"), QStringLiteral("条") });
+    const qint64 first
+        = db().insert(QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"),
+            { QStringLiteral("100009"), QStringLiteral("板") });
+    const qint64 second
+        = db().insert(QStringLiteral("insert into jxc_dw (dw_sn,dw_name) values (?,?)"),
+            { QStringLiteral("100010"), QStringLiteral("条") });
     EXPECT_EQ(db().firstValue(QStringLiteral("select id from jxc_dw where dw_sn=?"),
-                  { QStringLiteral("100009") })
+                      { QStringLiteral("100009") })
                   .toLongLong(),
         first);
     EXPECT_EQ(second, first + 1);

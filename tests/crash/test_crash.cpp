@@ -138,7 +138,8 @@ protected:
 
     std::unique_ptr<core::Connection> open()
     {
-        return server ? core::Connection::openPostgres(*server) : core::Connection::openSqlite(path);
+        return server ? core::Connection::openPostgres(*server)
+                      : core::Connection::openSqlite(path);
     }
 
     // Opens the file as the next start would (recovering what a crash left) and tells what is

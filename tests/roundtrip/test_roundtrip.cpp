@@ -198,19 +198,23 @@ protected:
     QString dumpWithout(const QStringList &columns)
     {
         QString dump;
-        const QList<QSqlRecord> tables = db().rows(
-            QStringLiteral("select name from sqlite_master where type='table' and name not in "
-                           "('jxc_log','sqlite_sequence') order by name"));
+        const bool sqlite = db().dialect() == core::Dialect::Sqlite;
+        const QList<QSqlRecord> tables = db().rows(sqlite
+                ? QStringLiteral("select name from sqlite_master where type='table' and name not "
+                                 "in ('jxc_log','sqlite_sequence') order by name")
+                : QStringLiteral("select table_name from information_schema.tables where "
+                                 "table_schema=current_schema() and table_name<>'jxc_log' "
+                                 "order by 1"));
         for (const QSqlRecord &table : tables) {
             const QString name = table.value(0).toString();
             QStringList kept;
-            for (const QSqlRecord &column :
-                db().rows(QStringLiteral("select name from pragma_table_info(?)"), { name }))
-                if (!columns.contains(name + QLatin1Char('.') + column.value(0).toString()))
-                    kept.append(column.value(0).toString());
+            for (const QString &column : db().columnNames(name))
+                if (!columns.contains(name + QLatin1Char('.') + column))
+                    kept.append(column);
             dump += name + QLatin1Char('\n');
-            db().forEach(QStringLiteral("select %1 from %2 order by rowid")
-                             .arg(kept.join(QLatin1Char(',')), name),
+            db().forEach(QStringLiteral("select %1 from %2 order by %3")
+                             .arg(kept.join(QLatin1Char(',')), name,
+                                 sqlite ? QStringLiteral("rowid") : QStringLiteral("id")),
                 {}, [&](const QSqlQuery &q) {
                     QStringList values;
                     for (int i = 0; i < kept.size(); ++i)

@@ -108,7 +108,9 @@ QStringList queryRows(core::Connection &connection, const QString &sql, const QV
     for (const QSqlRecord &row : connection.rows(sql, params)) {
         QStringList values;
         for (int i = 0; i < row.count(); ++i)
-            values.append(row.value(i).toString());
+            // A NULL reads as empty on both engines (the server's driver hands it as a typed
+            // null whose text would be "0").
+            values.append(row.isNull(i) ? QString() : row.value(i).toString());
         lines.append(values.join(QLatin1Char('|')));
     }
     return lines;

@@ -46,7 +46,10 @@ protected:
     void reopen();
     // A second connection to the same set.
     std::unique_ptr<core::Connection> openAgain() const;
-    bool onPostgres() const { return m_connection && m_connection->dialect() == core::Dialect::Postgres; }
+    bool onPostgres() const
+    {
+        return m_connection && m_connection->dialect() == core::Dialect::Postgres;
+    }
 
     core::Clock clock { fixtureToday() };
 

@@ -17,9 +17,12 @@ bool compared(const QString &column)
 QStringList allTables(core::Connection &connection)
 {
     QStringList tables;
-    connection.forEach(QStringLiteral("select name from sqlite_master where type='table' and "
-                                      "name like 'jxc_%' order by name"),
-        {}, [&](const QSqlQuery &q) { tables.append(q.value(0).toString()); });
+    const QString sql = connection.dialect() == core::Dialect::Sqlite
+        ? QStringLiteral("select name from sqlite_master where type='table' and "
+                         "name like 'jxc_%' order by name")
+        : QStringLiteral("select table_name from information_schema.tables where "
+                         "table_schema=current_schema() and table_name like 'jxc_%' order by 1");
+    connection.forEach(sql, {}, [&](const QSqlQuery &q) { tables.append(q.value(0).toString()); });
     return tables;
 }
 

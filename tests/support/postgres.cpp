@@ -57,8 +57,9 @@ void makeTemplate(core::Connection &server, const QString &name, const core::See
     server.execDirect(
         QStringLiteral("alter database %1 rename to %2").arg(quoted(building), quoted(name)));
     // Nobody may connect to it (a connection to a template holds up every copy of it).
-    server.execDirect(QStringLiteral("alter database %1 with allow_connections false is_template true")
-                          .arg(quoted(name)));
+    server.execDirect(
+        QStringLiteral("alter database %1 with allow_connections false is_template true")
+            .arg(quoted(name)));
 }
 
 struct LeftOut
@@ -89,7 +90,8 @@ QString leftOutReason(const QString &test)
     for (const LeftOut &entry : leftOutTests()) {
         // "*" matches any text, "/" of parameterised names included.
         const QRegularExpression pattern(QRegularExpression::anchoredPattern(
-            QRegularExpression::escape(entry.pattern).replace(QLatin1String("\\*"), QLatin1String(".*"))));
+            QRegularExpression::escape(entry.pattern)
+                .replace(QLatin1String("\\*"), QLatin1String(".*"))));
         if (pattern.match(test).hasMatch())
             return entry.reason;
     }
@@ -130,10 +132,10 @@ namespace {
 constexpr int poolSize = 64;
 constexpr int poolLockBase = 1900;
 
-const QString shapeSql = QStringLiteral(
-    "select md5(string_agg(table_name||'.'||column_name||':'||data_type||':'||"
-    "coalesce(column_default,''),',' order by table_name,ordinal_position)) from "
-    "information_schema.columns where table_schema='public'");
+const QString shapeSql
+    = QStringLiteral("select md5(string_agg(table_name||'.'||column_name||':'||data_type||':'||"
+                     "coalesce(column_default,''),',' order by table_name,ordinal_position)) from "
+                     "information_schema.columns where table_schema='public'");
 
 void keepPristineRows(core::Connection &connection)
 {
@@ -151,9 +153,9 @@ void keepPristineRows(core::Connection &connection)
 // Puts the template's rows back; false when the tables have changed shape.
 bool resetToPristine(core::Connection &connection)
 {
-    const QString kept = connection.firstText(QStringLiteral(
-        "select obj_description(oid,'pg_namespace') from pg_namespace where "
-        "nspname='medistock_pristine'"));
+    const QString kept = connection.firstText(
+        QStringLiteral("select obj_description(oid,'pg_namespace') from pg_namespace where "
+                       "nspname='medistock_pristine'"));
     if (kept.isEmpty() || kept != connection.firstText(shapeSql))
         return false;
     connection.execDirect(QStringLiteral(
@@ -197,8 +199,9 @@ core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &se
     auto server = core::Connection::openPostgres(*testServer());
     ensureTemplate(*server, source, seeds);
     for (int slot = 0; slot < poolSize; ++slot) {
-        if (!server->firstValue(QStringLiteral("select pg_try_advisory_lock(?)"),
-                        { poolLockBase + slot })
+        if (!server
+                 ->firstValue(
+                     QStringLiteral("select pg_try_advisory_lock(?)"), { poolLockBase + slot })
                  .toBool())
             continue;
         const QString name = source + QStringLiteral("_%1").arg(slot);
@@ -229,9 +232,9 @@ void dropTestDatabase(const QString &name)
     // The account sets a test made beside its master (named master + "_" + code) go; the
     // database itself goes back to the pool.
     QStringList names;
-    for (const QSqlRecord &row : server->rows(
-             QStringLiteral("select datname from pg_database where datname like ?"),
-             { name + QStringLiteral("\\_%") }))
+    for (const QSqlRecord &row :
+        server->rows(QStringLiteral("select datname from pg_database where datname like ?"),
+            { name + QStringLiteral("\\_%") }))
         names.append(row.value(0).toString());
     for (const QString &database : std::as_const(names))
         server->execDirect(

@@ -1,9 +1,9 @@
 #include "core/accountsets.h"
+#include "core/connectionchoice.h"
 #include "core/datafolder.h"
 #include "core/password.h"
 #include "shell/operators.h"
 #include "tests/ui/uitest.h"
-#include "core/connectionchoice.h"
 #include "ui/shell/connectiondialog.h"
 #include "ui/shell/firstusedialog.h"
 #include "ui/shell/logindialog.h"
@@ -208,6 +208,7 @@ TEST(LoginConnection, TheConnectionDialogTakesTheServerTypedAndKeepsTheFilesOthe
 
     files.serverChoice()->setChecked(true);
     EXPECT_TRUE(files.hostField()->isEnabled());
+    files.hostField()->clear();
     test::typeInto(files.hostField(), QStringLiteral("192.168.1.10"));
     files.databaseField()->clear();
     test::typeInto(files.databaseField(), QStringLiteral("chain"));

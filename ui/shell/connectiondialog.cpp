@@ -25,8 +25,8 @@ ConnectionDialog::ConnectionDialog(const core::ConnectionChoice &choice, QWidget
 {
     setWindowTitle(shelltexts::connectionTitle);
     const core::Connection::PostgresOptions server
-        = choice.server.value_or(core::Connection::PostgresOptions { QStringLiteral("localhost"),
-            5432, QStringLiteral("jxc"), QString(), QString() });
+        = choice.server.value_or(core::Connection::PostgresOptions {
+            QStringLiteral("localhost"), 5432, QStringLiteral("jxc"), QString(), QString() });
     m_port->setRange(1, 65535);
     m_port->setValue(server.port);
     m_host->setText(server.host);
