@@ -49,16 +49,15 @@ QString quotedName(const QString &name)
         + QLatin1Char('"');
 }
 
+// The register row of a new set (inside the caller's transaction).
 void registerSet(Connection &master, const AccountSet &created)
 {
-    Transaction transaction(master);
     if (created.isDefault)
         master.exec(QStringLiteral("update jxc_xtzt set zt_default=0"));
     master.exec(QStringLiteral("insert into jxc_xtzt (zt_sn,zt_name,zt_default,zt_forbid,"
                                "zt_note,zt_dbname,zt_dbpwd) values (?,?,?,?,?,?,?)"),
         { created.code, created.name, created.isDefault ? 1 : 0, created.forbidden ? 1 : 0,
             created.note, created.fileName, registerPasswordText });
-    transaction.commit();
 }
 
 // On the server a new set is a new database beside the master's with every table made afresh;
@@ -85,7 +84,9 @@ Result<AccountSet> createServerAccountSet(
             if (!tables)
                 throw DbError(tables.message());
         }
+        Transaction transaction(master);
         registerSet(master, created);
+        transaction.commit();
         made = false;
         return Outcome::done();
     });
@@ -197,12 +198,7 @@ Result<AccountSet> createAccountSet(
         buildSetFile(master, building, { clock.today(), request.company });
 
         Transaction transaction(master);
-        if (created.isDefault)
-            master.exec(QStringLiteral("update jxc_xtzt set zt_default=0"));
-        master.exec(QStringLiteral("insert into jxc_xtzt (zt_sn,zt_name,zt_default,zt_forbid,"
-                                   "zt_note,zt_dbname,zt_dbpwd) values (?,?,?,?,?,?,?)"),
-            { created.code, created.name, created.isDefault ? 1 : 0, created.forbidden ? 1 : 0,
-                created.note, created.fileName, registerPasswordText });
+        registerSet(master, created);
         // A file of the same name is replaced, as copying over it always did.
         removeFiles(finalPath);
         if (!QFile::rename(building, finalPath))
