@@ -5,6 +5,7 @@
 #include "accounts/ledger.h"
 #include "accounts/texts.h"
 #include "core/interaction.h"
+#include "core/rounding.h"
 #include "documents/entry.h"
 #include "sales/entry.h"
 #include "sales/kinds.h"
@@ -14,15 +15,22 @@
 #include "sales/salesreturn.h"
 #include "shell/rights.h"
 #include "shell/session.h"
+#include "shell/settings.h"
+#include "stock/checks.h"
+#include "stock/costs.h"
 #include "ui/common/reading.h"
+#include "ui/common/workspace.h"
+#include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/sourcelinesdialog.h"
+#include "ui/documents/uncheckeddialog.h"
 #include "ui/sales/orderlinesdialog.h"
 #include "ui/sales/texts.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSqlRecord>
 
 namespace medistock::ui {
@@ -65,13 +73,56 @@ bool SalesScreenKind::isOrder() const
     return &m_entry == &sales::salesOrderKind();
 }
 
+bool SalesScreenKind::showsCost() const
+{
+    return shell::hasRight(m_session, QStringLiteral("qtcz"), 7);
+}
+
 QList<LineField> SalesScreenKind::lineFields() const
 {
     QList<LineField> fields = DocumentScreenKind::lineFields();
+    if (isSale()) {
+        fields.removeAll(LineField::Produced);
+        fields.insert(fields.indexOf(LineField::Quantity) + 1, LineField::Limit);
+    }
+    if (showsCost())
+        fields.insert(fields.indexOf(LineField::Price), LineField::Cost);
     if (!shell::hasRight(m_session, QStringLiteral("qtcz"), 9))
         for (LineField hidden : { LineField::Price, LineField::Amount, LineField::Total })
             fields.removeAll(hidden);
     return fields;
+}
+
+void SalesScreenKind::proposeFigures(const shell::Session &session, LineEntry &line,
+    const QString &warehouse, const QString &date) const
+{
+    if (isSale())
+        line.saleLimit = stock::saleLimit(session, line.goods);
+    if (!showsCost() || line.costTyped)
+        return;
+    const double base = isOrder() ? stock::currentCost(session, line.goods, warehouse)
+                                  : stock::costAsOf(session, line.goods, warehouse, date);
+    const int places = session.params().priceDecimals();
+    line.cost = QString::number(core::roundTo(base * line.factor(), places), 'f', places);
+}
+
+QString SalesScreenKind::costColumn() const
+{
+    return isSale() && showsCost()
+            && shell::hasRight(m_session, QStringLiteral("xsgl"), sales::rights::changeSaleCost)
+        ? QStringLiteral("ls_cbj2")
+        : QString();
+}
+
+void SalesScreenKind::loadLine(const documents::DocumentLineRow &stored, LineEntry &line) const
+{
+    if (isSale())
+        line.saleLimit = stock::saleLimit(m_session, line.goods);
+    if (showsCost())
+        line.cost = QString::number(
+            stored.stored.value(isReturn() ? QStringLiteral("th_cbj") : QStringLiteral("ls_cbj"))
+                .toDouble(),
+            'f', m_session.params().priceDecimals());
 }
 
 QList<std::pair<QString, QWidget *>> SalesScreenKind::createHeaderFields(QWidget *parent)
@@ -254,6 +305,33 @@ void SaleScreenKind::addActions(DocumentScreen &screen)
     screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
 }
 
+void SaleScreenKind::showList(DocumentScreen &screen)
+{
+    UncheckedDialog dialog(screen);
+    DocumentListScreen *list = dialog.list();
+    auto *all = new QPushButton(sltexts::checkAll, &dialog);
+    shell::Session &session = screen.workspace().session;
+    const bool allowed = shell::hasRight(session, QStringLiteral("xsgl"), checkRight());
+    all->setEnabled(allowed);
+    if (!allowed)
+        all->setToolTip(shell::noRightText(sltexts::checkRightName));
+    QObject::connect(all, &QPushButton::clicked, &dialog, [&session, &screen, list] {
+        QStringList numbers;
+        for (const PrintRequest &listed : list->listedDocuments())
+            numbers.append(listed.number);
+        if (!sales::checkListedSales(session, numbers))
+            return;
+        // The sale on the screen may have been among them.
+        if (!screen.number().isEmpty() && numbers.contains(screen.number()))
+            screen.openDocument(screen.number());
+        list->run();
+    });
+    auto *key = new QShortcut(QKeySequence(Qt::Key_F6), &dialog);
+    QObject::connect(key, &QShortcut::activated, all, &QPushButton::click);
+    list->addButton(all);
+    dialog.exec();
+}
+
 SalesReturnScreenKind::SalesReturnScreenKind(const shell::Session &session)
     : SalesScreenKind(session, sales::salesReturnKind())
 { }
@@ -276,6 +354,7 @@ QString SalesReturnScreenKind::dueLabel() const
 void SalesReturnScreenKind::loadLine(
     const documents::DocumentLineRow &stored, LineEntry &line) const
 {
+    SalesScreenKind::loadLine(stored, line);
     loadSourceLink(stored, line);
 }
 
