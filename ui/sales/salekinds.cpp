@@ -307,15 +307,20 @@ void SaleScreenKind::addActions(DocumentScreen &screen)
 
 void SaleScreenKind::showList(DocumentScreen &screen)
 {
-    UncheckedDialog dialog(screen);
-    DocumentListScreen *list = dialog.list();
-    auto *all = new QPushButton(sltexts::checkAll, &dialog);
+    uncheckedSalesDialog(screen)->exec();
+}
+
+std::unique_ptr<UncheckedDialog> uncheckedSalesDialog(DocumentScreen &screen)
+{
+    auto dialog = std::make_unique<UncheckedDialog>(screen);
+    DocumentListScreen *list = dialog->list();
+    auto *all = new QPushButton(sltexts::checkAll, dialog.get());
     shell::Session &session = screen.workspace().session;
-    const bool allowed = shell::hasRight(session, QStringLiteral("xsgl"), checkRight());
+    const bool allowed = shell::hasRight(session, QStringLiteral("xsgl"), sales::rights::checkSale);
     all->setEnabled(allowed);
     if (!allowed)
         all->setToolTip(shell::noRightText(sltexts::checkRightName));
-    QObject::connect(all, &QPushButton::clicked, &dialog, [&session, &screen, list] {
+    QObject::connect(all, &QPushButton::clicked, dialog.get(), [&session, &screen, list] {
         QStringList numbers;
         for (const PrintRequest &listed : list->listedDocuments())
             numbers.append(listed.number);
@@ -326,10 +331,10 @@ void SaleScreenKind::showList(DocumentScreen &screen)
             screen.openDocument(screen.number());
         list->run();
     });
-    auto *key = new QShortcut(QKeySequence(Qt::Key_F6), &dialog);
+    auto *key = new QShortcut(QKeySequence(Qt::Key_F6), dialog.get());
     QObject::connect(key, &QShortcut::activated, all, &QPushButton::click);
     list->addButton(all);
-    dialog.exec();
+    return dialog;
 }
 
 SalesReturnScreenKind::SalesReturnScreenKind(const shell::Session &session)

@@ -3,12 +3,15 @@
 #include "sales/entry.h"
 #include "ui/documents/screenkind.h"
 
+#include <memory>
+
 class QComboBox;
 class QLineEdit;
 
 namespace medistock::ui {
 
 struct ReturnSource;
+class UncheckedDialog;
 
 // What the sale and the customer return add to the shared document screen: the settlement mode,
 // account and amount received (refunded) in the header, since a sale is usually paid at the
@@ -137,5 +140,8 @@ public:
 
 // A customer return's lines taken from a checked sale.
 ReturnSource saleSource();
+
+// The unchecked sales of the sale screen, with "审核所有(F6)".
+std::unique_ptr<UncheckedDialog> uncheckedSalesDialog(DocumentScreen &screen);
 
 } // namespace medistock::ui
