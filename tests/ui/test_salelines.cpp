@@ -164,10 +164,14 @@ TEST_F(SaleScreenTest, CheckAllChecksTheListedSalesOnly)
     keys.onDialog<ui::UncheckedDialog>([this](ui::UncheckedDialog &dialog) {
         ui::DocumentListScreen *list = dialog.list();
         EXPECT_EQ(list->model()->dataRows(), 3);
-        list->partyField()->setChoice(QStringLiteral("100002"), QStringLiteral("华康药店"));
-        list->run();
+        QAbstractButton *all = test::buttonNamed(&dialog, QStringLiteral("审核所有(F6)"));
+        ASSERT_NE(all, nullptr);
+        EXPECT_TRUE(all->isEnabled());
+        // The clerk narrows the list to 华康药店 (Enter runs it) and checks all it shows.
+        list->partyField()->setFocus();
+        keys.type(QStringLiteral("hkyd"));
+        keys.press(Qt::Key_Return);
         ASSERT_EQ(list->model()->dataRows(), 2);
-        list->grid()->setFocus();
         keys.press(Qt::Key_F6);
         EXPECT_EQ(list->model()->dataRows(), 0);
         keys.press(Qt::Key_Escape);

@@ -56,7 +56,6 @@ QuotationScreen::QuotationScreen(Workspace &workspace, QWidget *parent)
         run();
     });
     setSideColumns();
-    setFocusProxy(m_side);
 }
 
 sales::QuotationSide QuotationScreen::side() const
