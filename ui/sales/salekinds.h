@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sales/entry.h"
+#include "ui/documents/invoicefields.h"
 #include "ui/documents/screenkind.h"
 
 #include <memory>
@@ -65,11 +66,7 @@ protected:
     QComboBox *m_mode = nullptr;
     QComboBox *m_account = nullptr;
     QLineEdit *m_paid = nullptr;
-    QLineEdit *m_invoiceNumber = nullptr;
-    QLineEdit *m_invoiceAmount = nullptr;
-    QLineEdit *m_freight = nullptr;
-    QLineEdit *m_packing = nullptr;
-    QComboBox *m_freightTerms = nullptr;
+    InvoiceFreightFields m_invoice;
 };
 
 // "商品销售": lines leave from the batches proposed first-expiry-first or picked (F4); "xsgl" 1

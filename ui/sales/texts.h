@@ -10,11 +10,6 @@ inline const QString mode = QStringLiteral("结算方式");
 inline const QString account = QStringLiteral("结算帐户");
 inline const QString received = QStringLiteral("实收金额");
 inline const QString refunded = QStringLiteral("退款金额");
-inline const QString invoiceNumber = QStringLiteral("发票号");
-inline const QString invoiceAmount = QStringLiteral("发票金额");
-inline const QString freight = QStringLiteral("运费");
-inline const QString packing = QStringLiteral("包装费");
-inline const QString freightTerms = QStringLiteral("付费方式");
 
 // Under the lines
 inline const QString receivable = QStringLiteral("应收金额");
