@@ -65,6 +65,21 @@ QList<WarehouseStock> stockByWarehouse(const shell::Session &session, const Stoc
 // By goods code, warehouse, expiry, batch number and production date.
 QList<BatchStock> stockByBatch(const shell::Session &session, const StockFilter &filter);
 
+// A goods whose stock is below its minimum g_zdkc ("最低库存"); goods without a minimum (0) never
+// are. The goods row keeps no maximum, so there is no alarm for too much stock.
+struct StockAlarm
+{
+    StockGoods goods; // warehouse fields set only when the alarm is for one warehouse
+    double quantity = 0; // kc_sl of the warehouse, or the goods' total g_kc
+    double minimum = 0; // g_zdkc
+    double shortage = 0; // minimum - quantity
+};
+
+// The alarms of one warehouse (its kc_sl, 0 where it never held the goods), or of all
+// warehouses together (g_kc) when `filter.warehouse` is empty, narrowed by the filter's class and
+// text; the disabled goods and the discount line are left out. By goods code.
+QList<StockAlarm> stockAlarms(const shell::Session &session, const StockFilter &filter);
+
 // One movement of the goods ledger as the ledger view shows it.
 struct LedgerEntry
 {

@@ -27,6 +27,8 @@ enum class LineField {
     Total,
     Stock,
     Remark,
+    Book, // a count's book quantity, the line's own column "kc_sl"
+    Difference, // quantity - book, highlighted when not 0
 };
 
 // One line as it stands on the screen. What the clerk typed is kept as typed, so that a line the

@@ -15,6 +15,8 @@
 #include "ui/stock/texts.h"
 
 #include <QComboBox>
+#include <QDialog>
+#include <QVBoxLayout>
 #include <QHash>
 
 namespace medistock::ui {
@@ -125,6 +127,19 @@ void GoodsLedgerScreen::fetch()
         m_sources.append({ e.kind, e.number });
     }
     setRows(rows);
+}
+
+void showLedgerDialog(
+    Workspace &workspace, const QString &goods, const QString &warehouse, QWidget *parent)
+{
+    QDialog dialog(parent);
+    auto *ledger = new GoodsLedgerScreen(workspace, &dialog);
+    ledger->showGoods(goods, warehouse);
+    dialog.setWindowTitle(ledger->windowTitle());
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(ledger);
+    dialog.resize(1280, 640);
+    dialog.exec();
 }
 
 void GoodsLedgerScreen::openSource(int row)

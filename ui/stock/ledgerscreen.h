@@ -42,4 +42,8 @@ private:
     QList<std::pair<QString, QString>> m_sources; // ledger kind and number of each row
 };
 
+// The ledger of a goods in a warehouse (empty: every warehouse) in a dialog over `parent`.
+void showLedgerDialog(
+    Workspace &workspace, const QString &goods, const QString &warehouse, QWidget *parent);
+
 } // namespace medistock::ui
