@@ -39,8 +39,8 @@ ui::LineEntry pickedLine(ui::DocumentScreen &screen, const char *goods, const ch
 void shootTransfer(const Shots &shots, ui::MainWindow &window)
 {
     ui::DocumentScreen *screen = openStockScreen(window, 1);
-    screen->appendLines({ pickedLine(*screen, "10020001", "5"),
-        pickedLine(*screen, "10010001", "4") });
+    screen->appendLines(
+        { pickedLine(*screen, "10020001", "5"), pickedLine(*screen, "10010001", "4") });
     screen->noteField()->setText(QStringLiteral("城西分店补货"));
     screen->grid()->setCurrentIndex(
         screen->lines()->index(0, screen->lines()->columnOf(ui::LineField::Batch)));

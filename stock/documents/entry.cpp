@@ -158,7 +158,8 @@ QList<BatchLine> countSheet(
     session.db().forEach(
         QStringLiteral("select t.g_sn,g.g_name,g.dw_name,t.t_ph,t.t_yxq,t.t_scrq,t.t_sl,g.g_jy "
                        "from jxc_tkc t join jxc_goods g on g.g_sn=t.g_sn where t.ck_sn=? and "
-                       "t.g_sn<>? and coalesce(g.gc_sn,'') like ? order by t.g_sn,t.t_ph,t.t_yxq,t.t_scrq,t.id"),
+                       "t.g_sn<>? and coalesce(g.gc_sn,'') like ? order by "
+                       "t.g_sn,t.t_ph,t.t_yxq,t.t_scrq,t.id"),
         { warehouse, QStringLiteral("00000000"), classCode + QLatin1Char('%') },
         [&](const QSqlQuery &q) {
             // Judged at quantity decimals: a batch emptied by decimals is empty.

@@ -134,16 +134,16 @@ TEST_F(StockQueryTest, AlarmsListGoodsBelowTheirMinimumInAllOrOneWarehouse)
         filter.classCode = classCode;
         QStringList lines;
         for (const stock::StockAlarm &a : stock::stockAlarms(session(), filter))
-            lines.append(QStringList { a.goods.code, a.goods.warehouseName,
-                core::plainNumber(a.quantity), core::plainNumber(a.minimum),
-                core::plainNumber(a.shortage) }
-                             .join(QLatin1Char('|')));
+            lines.append(
+                QStringList { a.goods.code, a.goods.warehouseName, core::plainNumber(a.quantity),
+                    core::plainNumber(a.minimum), core::plainNumber(a.shortage) }
+                    .join(QLatin1Char('|')));
         return lines;
     };
     EXPECT_EQ(alarms(QString(), QString()), QStringList { QStringLiteral("200001||14|15|1") });
     EXPECT_EQ(alarms(QStringLiteral("100002"), QString()),
-        (QStringList { QStringLiteral("200001|分店仓库|4|15|11"),
-            QStringLiteral("200002|分店仓库|0|2|2") }));
+        (QStringList {
+            QStringLiteral("200001|分店仓库|4|15|11"), QStringLiteral("200002|分店仓库|0|2|2") }));
     EXPECT_EQ(alarms(QStringLiteral("100002"), QStringLiteral("1001")),
         QStringList { QStringLiteral("200002|分店仓库|0|2|2") });
 }

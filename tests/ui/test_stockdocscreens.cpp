@@ -26,8 +26,8 @@ using medistock::test::Keyboard;
 
 namespace {
 
-documents::LineDraft line(const char *goods, const char *quantity, const char *batch,
-    const char *expiry)
+documents::LineDraft line(
+    const char *goods, const char *quantity, const char *batch, const char *expiry)
 {
     documents::LineDraft l;
     l.goods = QString::fromLatin1(goods);
@@ -119,8 +119,8 @@ TEST_F(StockDocumentScreensTest, ATransferKeyedAndCheckedMovesTheBatchBetweenWar
     EXPECT_TRUE(ui.informed.isEmpty()) << ui.informed.join(QLatin1Char('|')).toStdString();
     ASSERT_TRUE(screen.isChecked());
     EXPECT_EQ(screen.number(), QStringLiteral("DB25031410001"));
-    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_kcdbd"),
-                  QStringLiteral("ck_out,ck_in,db_status")),
+    EXPECT_EQ(test::tableRows(
+                  db(), QStringLiteral("jxc_kcdbd"), QStringLiteral("ck_out,ck_in,db_status")),
         QStringList { QStringLiteral("100001|100002|1") });
     EXPECT_EQ(batches(),
         (QStringList { QStringLiteral("10000001|100001|A1|7"),
@@ -132,7 +132,8 @@ TEST_F(StockDocumentScreensTest, ATransferKeyedAndCheckedMovesTheBatchBetweenWar
     ui.answerNext(true);
     keys.press(Qt::Key_F6);
     EXPECT_EQ(ui.asked,
-        QStringList { QStringLiteral("您的操作将取消当前选中的已审核单据：DB25031410001，确认吗？") });
+        QStringList {
+            QStringLiteral("您的操作将取消当前选中的已审核单据：DB25031410001，确认吗？") });
     EXPECT_FALSE(screen.isChecked());
     EXPECT_EQ(batches().value(0), QStringLiteral("10000001|100001|A1|10"));
     EXPECT_EQ(batches().value(2), QStringLiteral("10000001|100002|A1|0"));
@@ -227,15 +228,15 @@ TEST_F(StockDocumentScreensTest, TheCountSheetGoesToXlsxAndTheCountsComeBack)
     ui.clear();
     EXPECT_FALSE(kind.importCounts(wrong));
     EXPECT_EQ(ui.informed,
-        QStringList { QStringLiteral(
-            "盘点数量未导入：\r\n第3行：商品“10000001”批号“A9”不在盘点表中") });
+        QStringList {
+            QStringLiteral("盘点数量未导入：\r\n第3行：商品“10000001”批号“A9”不在盘点表中") });
     EXPECT_EQ(screen.lines()->line(0).quantity, QStringLiteral("10"));
 
     const QString counted = dir.filePath(QStringLiteral("counted.xlsx"));
     ASSERT_TRUE(core::writeXlsx(counted, QStringLiteral("盘点"), header,
         { { QStringLiteral("10000001"), QString(), QString(), QString(), QStringLiteral("A2"),
-            QString(), QStringLiteral("2027-06-30"), 5, 6.5 } })
-                    .ok());
+            QString(), QStringLiteral("2027-06-30"), 5,
+            6.5 } }).ok());
     ui.clear();
     EXPECT_TRUE(kind.importCounts(counted));
     EXPECT_EQ(ui.informed, QStringList { QStringLiteral("已导入 1 行盘点数量") });
@@ -342,8 +343,9 @@ TEST_F(StockDocumentScreensTest, ACountSheetIsNotUncheckedAfterLaterBusiness)
     ui.setDefaultAnswer(true);
     screen.uncheck();
     EXPECT_EQ(ui.informed.value(0),
-        QStringLiteral("在【2025-03-10】日期之后盘点商品已发生业务，\r\n\r\n单号为：【%1】，\r\n\r\n"
-                       "该盘点单 %2 不能撤销！")
+        QStringLiteral(
+            "在【2025-03-10】日期之后盘点商品已发生业务，\r\n\r\n单号为：【%1】，\r\n\r\n"
+            "该盘点单 %2 不能撤销！")
             .arg(saved.value(), number));
     EXPECT_TRUE(screen.isChecked());
     EXPECT_EQ(batches().value(2), QStringLiteral("10000002|100001|G1|4"));

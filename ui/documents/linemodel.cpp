@@ -254,8 +254,8 @@ QString LineModel::display(const LineEntry &line, int row, LineField field) cons
         return line.chosen ? fixed(bookOf(line), m_rounding.quantity) : QString();
     case LineField::Difference:
         if (const auto counted = number(line.quantity); counted && line.chosen)
-            return fixed(core::roundTo(*counted - bookOf(line), m_rounding.quantity),
-                m_rounding.quantity);
+            return fixed(
+                core::roundTo(*counted - bookOf(line), m_rounding.quantity), m_rounding.quantity);
         return {};
     }
     return {};

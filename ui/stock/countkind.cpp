@@ -37,8 +37,8 @@ QStringList sheetCaptions()
         sttexts::produced, sttexts::expiry, sttexts::bookQuantity, sttexts::countedQuantity };
 }
 
-QStringList keyOf(const QString &goods, const QString &batch, const QString &produced,
-    const QString &expiry)
+QStringList keyOf(
+    const QString &goods, const QString &batch, const QString &produced, const QString &expiry)
 {
     return { goods.trimmed(), batch.trimmed(), produced.trimmed(), expiry.trimmed() };
 }
@@ -121,7 +121,8 @@ double CountScreenKind::proposePrice(const shell::Session &session,
     return stock::currentCost(session, goods.code, warehouse) * unitFactor(session, goods, unit);
 }
 
-Result<QString> CountScreenKind::save(shell::Session &session, const documents::DocumentDraft &draft)
+Result<QString> CountScreenKind::save(
+    shell::Session &session, const documents::DocumentDraft &draft)
 {
     return stock::saveStockTaking(session, draft);
 }
@@ -220,8 +221,7 @@ bool CountScreenKind::exportSheet(const QString &path)
         rows.append({ line.goods, line.name, line.packing, line.unit, line.batch, line.produced,
             line.expiry, line.columns.value(QStringLiteral("kc_sl")).toDouble(), counted });
     }
-    const Outcome written
-        = core::writeXlsx(path, sttexts::countSheetFile, sheetCaptions(), rows);
+    const Outcome written = core::writeXlsx(path, sttexts::countSheetFile, sheetCaptions(), rows);
     session.ui().inform(written ? texts::exported(path) : written.message());
     return written.ok();
 }
@@ -248,8 +248,8 @@ bool CountScreenKind::importCounts(const QString &path)
         const QStringList cells = sheet[i] + QStringList(Columns, QString());
         if (cells.mid(0, Columns).join(QString()).trimmed().isEmpty())
             continue;
-        const int row = rowOf.value(
-            keyOf(cells[Code], cells[Batch], cells[Produced], cells[Expiry]), -1);
+        const int row
+            = rowOf.value(keyOf(cells[Code], cells[Batch], cells[Produced], cells[Expiry]), -1);
         const Result<double> counted
             = documents::readLineNumber(int(i), documents::LineNumber::Quantity, cells[Counted]);
         if (row < 0)

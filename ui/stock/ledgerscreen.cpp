@@ -16,8 +16,8 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QVBoxLayout>
 #include <QHash>
+#include <QVBoxLayout>
 
 namespace medistock::ui {
 

@@ -2,14 +2,14 @@
 
 #include "ui/common/screenregistry.h"
 #include "ui/documents/documentscreen.h"
+#include "ui/statistics/movementscreen.h"
+#include "ui/statistics/reportscreen.h"
 #include "ui/stock/alarmscreen.h"
 #include "ui/stock/countkind.h"
 #include "ui/stock/ledgerscreen.h"
 #include "ui/stock/openingkind.h"
 #include "ui/stock/stockkinds.h"
 #include "ui/stock/stockqueryscreen.h"
-#include "ui/statistics/movementscreen.h"
-#include "ui/statistics/reportscreen.h"
 
 namespace medistock::ui {
 

@@ -14,8 +14,8 @@
 #include "ui/stock/texts.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -87,8 +87,8 @@ double StockScreenKind::unitFactor(
     return 1;
 }
 
-double StockScreenKind::costOnScreen(const shell::Session &session,
-    const documents::GoodsChoice &goods, const QString &unit) const
+double StockScreenKind::costOnScreen(
+    const shell::Session &session, const documents::GoodsChoice &goods, const QString &unit) const
 {
     const double factor = unitFactor(session, goods, unit);
     if (!m_screen)

@@ -57,9 +57,9 @@ private:
     DocumentListScreen *m_list;
 };
 
-// "库存调拨单": the header's warehouse is the issuing one ("调出仓库"), whose batches the lines pick
-// (F4 on the batch cell); "调入仓库" is the kind's own field, another warehouse than the first by
-// default. The price is the cost of the transfer's date in the issuing warehouse. "调拨单查询"
+// "库存调拨单": the header's warehouse is the issuing one ("调出仓库"), whose batches the lines
+// pick (F4 on the batch cell); "调入仓库" is the kind's own field, another warehouse than the first
+// by default. The price is the cost of the transfer's date in the issuing warehouse. "调拨单查询"
 // (Ctrl+F) lists the transfers by date, warehouse (either side), goods and status.
 class TransferScreenKind : public StockScreenKind
 {

@@ -21,7 +21,9 @@ QString notOnSheet(const QString &scanned)
 
 QString rowNotOnSheet(int row, const QString &goodsCode, const QString &batchNumber)
 {
-    return QStringLiteral("第%1行：商品“%2”批号“%3”不在盘点表中").arg(row).arg(goodsCode, batchNumber);
+    return QStringLiteral("第%1行：商品“%2”批号“%3”不在盘点表中")
+        .arg(row)
+        .arg(goodsCode, batchNumber);
 }
 
 QString badCount(int row, const QString &typed)

@@ -77,8 +77,7 @@ inline const QString exportSheet = QStringLiteral("导出盘点表");
 inline const QString countSheetFile = QStringLiteral("库存盘点表");
 inline const QString bookQuantity = QStringLiteral("帐面数量");
 inline const QString countedQuantity = QStringLiteral("盘点数量");
-inline const QString replaceLines
-    = QStringLiteral("生成盘点表将替换当前单据中的商品，确认吗？");
+inline const QString replaceLines = QStringLiteral("生成盘点表将替换当前单据中的商品，确认吗？");
 inline const QString nothingToCount = QStringLiteral("该仓库（类别）没有可盘点的库存批次！");
 QString notOnSheet(const QString &scanned); // "条码“6901”的商品不在盘点表中！"
 QString rowNotOnSheet(int row, const QString &goodsCode, const QString &batchNumber);
