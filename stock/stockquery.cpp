@@ -146,7 +146,7 @@ QList<StockAlarm> stockAlarms(const shell::Session &session, const StockFilter &
 }
 
 QList<LedgerEntry> goodsLedger(const shell::Session &session, const QString &goods,
-    const QString &warehouse, const QString &from, const QString &to)
+    const QString &warehouse, const QString &from, const QString &to, const QString &kind)
 {
     QStringList where { QStringLiteral("g_sn=?") };
     QVariantList params { goods };
@@ -157,6 +157,7 @@ QList<LedgerEntry> goodsLedger(const shell::Session &session, const QString &goo
         }
     };
     add("ck_sn=?", warehouse);
+    add("gl_flag=?", kind);
     add("gl_kdrq>=?", from);
     add("gl_kdrq<=?", to.isEmpty() ? to : to + QStringLiteral(" 23:59:59"));
     QList<LedgerEntry> entries;

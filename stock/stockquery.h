@@ -100,8 +100,10 @@ struct LedgerEntry
 };
 
 // The ledger rows of a goods in a warehouse (every warehouse when `warehouse` is empty) dated
-// from `from` to `to` ("yyyy-MM-dd", each empty for no limit), by warehouse, date and id.
+// from `from` to `to` ("yyyy-MM-dd", each empty for no limit), of one kind gl_flag (any when
+// `kind` is empty), by warehouse, date and id. The running figures are those of the whole
+// ledger: a row keeps the stock after it, whichever rows are left out around it.
 QList<LedgerEntry> goodsLedger(const shell::Session &session, const QString &goods,
-    const QString &warehouse, const QString &from, const QString &to);
+    const QString &warehouse, const QString &from, const QString &to, const QString &kind = {});
 
 } // namespace medistock::stock

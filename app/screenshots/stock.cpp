@@ -3,6 +3,7 @@
 #include "core/connection.h"
 #include "documents/goodslookup.h"
 #include "shell/session.h"
+#include "ui/common/codenamefield.h"
 #include "ui/common/workspace.h"
 #include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
@@ -10,10 +11,12 @@
 #include "ui/documents/pickers.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/stock/alarmscreen.h"
+#include "ui/stock/averagescreen.h"
 #include "ui/stock/countkind.h"
 #include "ui/stock/stockkinds.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QTableView>
 
@@ -104,6 +107,14 @@ void shootQueries(const Shots &shots, ui::MainWindow &window, ui::Workspace &wor
     shots.shoot(&window, QStringLiteral("167-stock-alarm"));
     window.openOperation(QStringLiteral("rcgl"), 10);
     shots.shoot(&window, QStringLiteral("168-stock-movements"));
+    window.openOperation(QStringLiteral("kcgl"), 18);
+    auto *average = qobject_cast<ui::AverageScreen *>(window.tabs()->currentWidget());
+    average->goodsField()->setChoice(QStringLiteral("10020001"), QStringLiteral("阿莫西林胶囊"));
+    average->warehouseBox()->setCurrentIndex(
+        average->warehouseBox()->findData(QStringLiteral("100001")));
+    average->refresh();
+    average->averageField()->setText(QStringLiteral("6.50"));
+    shots.shoot(&window, QStringLiteral("169-average"));
 }
 
 } // namespace

@@ -168,6 +168,11 @@ TEST_F(StockQueryTest, TheLedgerSplitsMovementsIntoInAndOut)
                   QStringLiteral("2025-03-12"), QStringLiteral("2025-03-13"))
                   .size(),
         2);
+    // One kind keeps the running quantity of the whole ledger.
+    const auto receipts
+        = stock::goodsLedger(session(), QStringLiteral("200002"), {}, {}, {}, QStringLiteral("xt"));
+    ASSERT_EQ(receipts.size(), 1);
+    EXPECT_EQ(receipts[0].running.quantity, 3);
     const auto branch
         = stock::goodsLedger(session(), QStringLiteral("200001"), QStringLiteral("100002"), {}, {});
     ASSERT_EQ(branch.size(), 1);

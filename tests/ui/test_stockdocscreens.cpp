@@ -8,15 +8,19 @@
 #include "tests/support/documentrows.h"
 #include "tests/ui/keyboard.h"
 #include "tests/ui/uitest.h"
+#include "ui/common/codenamefield.h"
 #include "ui/common/datefield.h"
 #include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/stock/alarmscreen.h"
+#include "ui/stock/averagescreen.h"
 #include "ui/stock/countkind.h"
+#include "ui/stock/ledgerscreen.h"
 #include "ui/stock/stockkinds.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -294,24 +298,20 @@ TEST_F(StockDocumentScreensTest, TheStockListsExportWhatTheyShow)
     transfer.secondWarehouse = QStringLiteral("100002");
     transfer.lines = { line("10000001", "2", "A2", "2027-06-30") };
     ASSERT_TRUE(stock::saveTransfer(session(), transfer).ok());
-    const ui::ListedKind kind { &stock::transferEntry(), QStringLiteral("kcgl"), 1,
-        QStringLiteral("kcdb") };
-    ui::ListFilters filters;
-    filters.party = false;
-    ui::DocumentListScreen list(workspace(), QStringLiteral("调拨单查询"), { kind }, filters);
-    list.run();
+    ui::DocumentScreen screen(workspace(), std::make_unique<ui::TransferScreenKind>());
+    ui::TransferListDialog dialog(screen);
+    ui::DocumentListScreen &list = *dialog.list();
     ASSERT_EQ(list.model()->dataRows(), 1);
     const QString listFile = dir.filePath(QStringLiteral("transfers.xlsx"));
     list.exportTo(listFile);
-    const QStringList exported = sheetRows(listFile);
-    const QStringList shown = test::gridRows(list);
-    ASSERT_EQ(exported.size(), shown.size() + 1);
-    // Numbers go out as numbers, so that 2.00 reads back as 2; the party column stays empty.
-    EXPECT_EQ(shown.value(0),
-        QStringLiteral("DB25031410001|2025-03-14||主仓库|默认员工|1|2.00|0.00|未审核|||admin|"));
-    EXPECT_EQ(exported.value(1),
-        QStringLiteral("DB25031410001|2025-03-14||主仓库|默认员工|1|2|0|未审核|||admin"));
-    EXPECT_EQ(exported.value(2), QStringLiteral("合计|||||1|2|0"));
+    // The party and the amount, which a transfer does not keep, are neither shown nor exported;
+    // numbers go out as numbers, so that 2.00 reads back as 2.
+    EXPECT_EQ(sheetRows(listFile),
+        (QStringList {
+            QStringLiteral("单据号|日期|仓库|业务员|品种数|数量|状态|审核人|审核日期|操作员|备注"),
+            QStringLiteral("DB25031410001|2025-03-14|主仓库|默认员工|1|2|未审核|||admin"),
+            QStringLiteral("合计||||1|2") }));
+    EXPECT_EQ(list.model()->text(0, 6), QStringLiteral("2.00"));
 }
 
 // A sheet counted on 03-10 cannot be unchecked once a counted goods moved in its warehouse on a
@@ -349,4 +349,29 @@ TEST_F(StockDocumentScreensTest, ACountSheetIsNotUncheckedAfterLaterBusiness)
             .arg(saved.value(), number));
     EXPECT_TRUE(screen.isChecked());
     EXPECT_EQ(batches().value(2), QStringLiteral("10000002|100001|G1|4"));
+}
+
+// The average of 阿莫西林胶囊 in 主仓库 goes from 10 to 9.5 after the question; its ledger below
+// shows the new running figures.
+TEST_F(StockDocumentScreensTest, TheAverageIsChangedOnItsScreenAfterTheQuestion)
+{
+    ui::AverageScreen screen(workspace());
+    screen.goodsField()->setChoice(QStringLiteral("10000001"), QStringLiteral("阿莫西林胶囊"));
+    screen.warehouseBox()->setCurrentIndex(
+        screen.warehouseBox()->findData(QStringLiteral("100001")));
+    screen.refresh();
+    EXPECT_EQ(screen.nowLabel()->text(), QStringLiteral("10.00（帐面库存 15 盒）"));
+    test::typeInto(screen.averageField(), QStringLiteral("9.5"));
+    ui.answerNext(true);
+    screen.change();
+    ASSERT_EQ(ui.asked.size(), 1);
+    EXPECT_TRUE(ui.asked[0].startsWith(
+        QStringLiteral("确认将商品“阿莫西林胶囊”的成本均价由 10 改为 9.5 吗？")));
+    EXPECT_EQ(screen.nowLabel()->text(), QStringLiteral("9.50（帐面库存 15 盒）"));
+    EXPECT_EQ(db().firstText(QStringLiteral("select g_pjjj from jxc_goods where g_sn=?"),
+                  { QStringLiteral("10000001") }),
+        QStringLiteral("9.5"));
+    const ui::GoodsLedgerScreen &ledger = *screen.ledger();
+    EXPECT_EQ(ledger.model()->text(ledger.model()->dataRows() - 1, 12), QStringLiteral("9.50"));
+    EXPECT_TRUE(screen.averageField()->text().isEmpty());
 }

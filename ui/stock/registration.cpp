@@ -5,6 +5,7 @@
 #include "ui/statistics/movementscreen.h"
 #include "ui/statistics/reportscreen.h"
 #include "ui/stock/alarmscreen.h"
+#include "ui/stock/averagescreen.h"
 #include "ui/stock/countkind.h"
 #include "ui/stock/ledgerscreen.h"
 #include "ui/stock/openingkind.h"
@@ -29,6 +30,8 @@ void registerStockScreens(ScreenRegistry &registry)
         [](Workspace &workspace) { return new LossOverflowScreen(workspace); });
     registry.addTab(area, QStringLiteral("库存报警查询"),
         [](Workspace &workspace) { return new StockAlarmScreen(workspace); });
+    registry.addTab(area, QStringLiteral("修改商品均价"),
+        [](Workspace &workspace) { return new AverageScreen(workspace); });
     registry.addTab(area, QStringLiteral("库存变动情况"),
         [](Workspace &workspace) { return new GoodsLedgerScreen(workspace); });
     // "库存变动查询" of "日常管理" is the ledger of every goods of the statistics.

@@ -20,6 +20,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSqlRecord>
+#include <QTableView>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace medistock::ui {
@@ -41,6 +43,22 @@ ListFilters transferFilters()
     return filters;
 }
 
+// A transfer has no party, and keeps its value only as the lines' totals: the list's party and
+// amount columns and the lines' amount before tax would stay empty or 0, so they are hidden.
+void hideEmptyColumns(DocumentListScreen &list)
+{
+    const QList<QueryColumn> &columns = list.model()->columns();
+    for (int column = 0; column < columns.size(); ++column)
+        if (columns[column].caption == QStringLiteral("供货商")
+            || columns[column].caption == QStringLiteral("金额"))
+            list.grid()->setColumnHidden(column, true);
+    QTableWidget *lines = list.linesGrid();
+    for (int column = 0; column < lines->columnCount(); ++column)
+        if (lines->horizontalHeaderItem(column)
+            && lines->horizontalHeaderItem(column)->text() == QStringLiteral("金额"))
+            lines->setColumnHidden(column, true);
+}
+
 } // namespace
 
 TransferListDialog::TransferListDialog(DocumentScreen &screen)
@@ -58,6 +76,7 @@ TransferListDialog::TransferListDialog(DocumentScreen &screen)
     layout->addWidget(m_list);
     resize(1100, 600);
     m_list->run();
+    hideEmptyColumns(*m_list);
 }
 
 Outcome StockScreenKind::remove(shell::Session &session, const QString &number)

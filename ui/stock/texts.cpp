@@ -14,6 +14,11 @@ QString posted(const QString &entry)
     return QStringLiteral("已建账：") + entry;
 }
 
+QString averageShown(const QString &perUnit, const QString &onHand, const QString &baseUnit)
+{
+    return QStringLiteral("%1（帐面库存 %2 %3）").arg(perUnit, onHand, baseUnit);
+}
+
 QString notOnSheet(const QString &scanned)
 {
     return QStringLiteral("条码“%1”的商品不在盘点表中！").arg(scanned);

@@ -34,6 +34,7 @@ inline const QString ledgerTitle = QStringLiteral("库存变动情况");
 inline const QString goods = QStringLiteral("商品");
 inline const QString date = QStringLiteral("日期");
 inline const QString kind = QStringLiteral("单据类型");
+inline const QString allKinds = QStringLiteral("全部");
 inline const QString number = QStringLiteral("单据号");
 inline const QString party = QStringLiteral("往来单位");
 inline const QString in = QStringLiteral("入库数量");
@@ -84,6 +85,15 @@ QString rowNotOnSheet(int row, const QString &goodsCode, const QString &batchNum
 QString badCount(int row, const QString &typed);
 QString importRefused(const QStringList &problems); // the rows named, one per line
 QString imported(int lines); // "已导入 3 行盘点数量"
+
+// The average changed by hand
+inline const QString averageTitle = QStringLiteral("修改商品均价");
+inline const QString changeAverage = QStringLiteral("修改均价");
+inline const QString averageNow = QStringLiteral("当前均价");
+inline const QString newAverage = QStringLiteral("新均价");
+inline const QString chooseGoods = QStringLiteral("请先选择商品！");
+// "12.50（帐面库存 10 盒）"
+QString averageShown(const QString &perUnit, const QString &onHand, const QString &baseUnit);
 
 // Stock alarms
 inline const QString alarmTitle = QStringLiteral("库存报警查询");
