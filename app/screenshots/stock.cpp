@@ -89,6 +89,8 @@ void shootLossOverflow(const Shots &shots, ui::MainWindow &window)
     pages->setCurrentWidget(pages->overflowScreen());
     ui::DocumentScreen *overflow = pages->overflowScreen();
     ui::LineEntry found = pickedLine(*overflow, "10020001", "1");
+    found.batch = QStringLiteral("A2411");
+    found.expiry = QStringLiteral("2028-10-31");
     overflow->appendLines({ found });
     overflow->noteField()->setText(QStringLiteral("盘点发现"));
     shots.shoot(&window, QStringLiteral("166-overflow"));
@@ -98,15 +100,13 @@ void shootQueries(const Shots &shots, ui::MainWindow &window, ui::Workspace &wor
 {
     // Minimums for the alarm, as the goods dialog would set them.
     for (const auto &[goods, minimum] :
-        { std::pair { "10020001", 200 }, std::pair { "10010001", 100 } })
+        { std::pair { "10020001", 1500 }, std::pair { "10010001", 600 } })
         workspace.session.db().exec(QStringLiteral("update jxc_goods set g_zdkc=? where g_sn=?"),
             { minimum, QString::fromLatin1(goods) });
     window.openOperation(QStringLiteral("kcgl"), 4);
     auto *alarms = qobject_cast<ui::StockAlarmScreen *>(window.tabs()->currentWidget());
     alarms->run();
     shots.shoot(&window, QStringLiteral("167-stock-alarm"));
-    window.openOperation(QStringLiteral("rcgl"), 10);
-    shots.shoot(&window, QStringLiteral("168-stock-movements"));
     window.openOperation(QStringLiteral("kcgl"), 18);
     auto *average = qobject_cast<ui::AverageScreen *>(window.tabs()->currentWidget());
     average->goodsField()->setChoice(QStringLiteral("10020001"), QStringLiteral("阿莫西林胶囊"));

@@ -33,6 +33,9 @@ AverageScreen::AverageScreen(Workspace &workspace, QWidget *parent)
     setWindowTitle(sttexts::averageTitle);
     fillMasterBox(m_warehouse, workspace.session, "warehouse", true);
     m_average->setAlignment(Qt::AlignRight);
+    // The form keeps to the left; the ledger below takes the width.
+    m_goods->setMaximumWidth(360);
+    m_warehouse->setMaximumWidth(240);
     m_average->setMaximumWidth(160);
     m_change->setShortcut(QKeySequence(Qt::Key_F5));
     auto *form = new QFormLayout;
@@ -41,8 +44,12 @@ AverageScreen::AverageScreen(Workspace &workspace, QWidget *parent)
     form->addRow(sttexts::averageNow + QStringLiteral("："), m_now);
     form->addRow(sttexts::newAverage + QStringLiteral("："), m_average);
     form->addRow(QString(), m_change);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    auto *top = new QHBoxLayout;
+    top->addLayout(form);
+    top->addStretch(1);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(form);
+    layout->addLayout(top);
     layout->addWidget(m_ledger, 1);
     enableEnterNavigation(this);
     m_average->setProperty("enterConfirms", true);
