@@ -63,7 +63,8 @@ LineEntry sheetLine(const shell::Session &session, const stock::BatchLine &batch
 } // namespace
 
 CountScreenKind::CountScreenKind()
-    : StockScreenKind(stock::stockTakingRights())
+    : StockScreenKind(
+        stock::stockTakingRights(), stock::checkStockTaking, stock::uncheckStockTaking)
 { }
 
 const documents::DocumentKind &CountScreenKind::entry() const
@@ -125,16 +126,6 @@ Result<QString> CountScreenKind::save(
     shell::Session &session, const documents::DocumentDraft &draft)
 {
     return stock::saveStockTaking(session, draft);
-}
-
-Outcome CountScreenKind::check(shell::Session &session, const QString &number, QWidget *)
-{
-    return stock::checkStockTaking(session, number);
-}
-
-Outcome CountScreenKind::uncheck(shell::Session &session, const QString &number)
-{
-    return stock::uncheckStockTaking(session, number);
 }
 
 void CountScreenKind::addActions(DocumentScreen &screen)

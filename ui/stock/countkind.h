@@ -34,8 +34,6 @@ public:
     double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
         const QString &unit, const QString &party) const override;
     Result<QString> save(shell::Session &session, const documents::DocumentDraft &draft) override;
-    Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
-    Outcome uncheck(shell::Session &session, const QString &number) override;
     void addActions(DocumentScreen &screen) override;
 
     QComboBox *classBox() const { return m_class; }

@@ -79,6 +79,16 @@ TransferListDialog::TransferListDialog(DocumentScreen &screen)
     hideEmptyColumns(*m_list);
 }
 
+Outcome StockScreenKind::check(shell::Session &session, const QString &number, QWidget *)
+{
+    return m_check(session, number);
+}
+
+Outcome StockScreenKind::uncheck(shell::Session &session, const QString &number)
+{
+    return m_uncheck(session, number);
+}
+
 Outcome StockScreenKind::remove(shell::Session &session, const QString &number)
 {
     return documents::deleteDocument(session, entry(), number);
@@ -117,7 +127,7 @@ double StockScreenKind::costOnScreen(
 }
 
 TransferScreenKind::TransferScreenKind()
-    : StockScreenKind(stock::transferRights())
+    : StockScreenKind(stock::transferRights(), stock::checkTransfer, stock::uncheckTransfer)
 { }
 
 const documents::DocumentKind &TransferScreenKind::entry() const
@@ -175,16 +185,6 @@ Result<QString> TransferScreenKind::save(
     return stock::saveTransfer(session, transfer);
 }
 
-Outcome TransferScreenKind::check(shell::Session &session, const QString &number, QWidget *)
-{
-    return stock::checkTransfer(session, number);
-}
-
-Outcome TransferScreenKind::uncheck(shell::Session &session, const QString &number)
-{
-    return stock::uncheckTransfer(session, number);
-}
-
 void TransferScreenKind::addActions(DocumentScreen &screen)
 {
     StockScreenKind::addActions(screen);
@@ -198,7 +198,8 @@ void TransferScreenKind::addActions(DocumentScreen &screen)
 }
 
 LossOverflowScreenKind::LossOverflowScreenKind(bool loss)
-    : StockScreenKind(stock::lossOverflowRights())
+    : StockScreenKind(stock::lossOverflowRights(), loss ? stock::checkLoss : stock::checkOverflow,
+        loss ? stock::uncheckLoss : stock::uncheckOverflow)
     , m_loss(loss)
 { }
 
@@ -234,16 +235,6 @@ Result<QString> LossOverflowScreenKind::save(
     shell::Session &session, const documents::DocumentDraft &draft)
 {
     return m_loss ? stock::saveLoss(session, draft) : stock::saveOverflow(session, draft);
-}
-
-Outcome LossOverflowScreenKind::check(shell::Session &session, const QString &number, QWidget *)
-{
-    return m_loss ? stock::checkLoss(session, number) : stock::checkOverflow(session, number);
-}
-
-Outcome LossOverflowScreenKind::uncheck(shell::Session &session, const QString &number)
-{
-    return m_loss ? stock::uncheckLoss(session, number) : stock::uncheckOverflow(session, number);
 }
 
 LossOverflowScreen::LossOverflowScreen(Workspace &workspace, QWidget *parent)

@@ -21,12 +21,18 @@ class StockScreenKind : public DocumentScreenKind
 public:
     int checkRight() const override { return m_rights.first; }
     int uncheckRight() const override { return m_rights.second; }
+    Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
+    Outcome uncheck(shell::Session &session, const QString &number) override;
     Outcome remove(shell::Session &session, const QString &number) override;
     void addActions(DocumentScreen &screen) override;
 
 protected:
-    explicit StockScreenKind(stock::StockRights rights)
+    // The stock module's check and uncheck of the kind.
+    using Step = Outcome (*)(shell::Session &, const QString &);
+    StockScreenKind(stock::StockRights rights, Step checking, Step unchecking)
         : m_rights(rights.check, rights.uncheck)
+        , m_check(checking)
+        , m_uncheck(unchecking)
     { }
     // The screen the kind is shown on, found from a header field's parent while the screen builds
     // its header (before addActions).
@@ -42,6 +48,8 @@ protected:
 
 private:
     std::pair<int, int> m_rights;
+    Step m_check;
+    Step m_uncheck;
 };
 
 // "调拨单查询" over the transfer screen: the transfers by date, warehouse (either side), goods and
@@ -77,8 +85,6 @@ public:
     double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
         const QString &unit, const QString &party) const override;
     Result<QString> save(shell::Session &session, const documents::DocumentDraft &draft) override;
-    Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
-    Outcome uncheck(shell::Session &session, const QString &number) override;
     void addActions(DocumentScreen &screen) override;
 
     QComboBox *receivingBox() const { return m_in; }
@@ -102,8 +108,6 @@ public:
     double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
         const QString &unit, const QString &party) const override;
     Result<QString> save(shell::Session &session, const documents::DocumentDraft &draft) override;
-    Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
-    Outcome uncheck(shell::Session &session, const QString &number) override;
 
 private:
     bool m_loss;
