@@ -1,7 +1,8 @@
 #include "app/screenshots/stock.h"
 
-#include "core/connection.h"
 #include "documents/goodslookup.h"
+#include "masterdata/kinds.h"
+#include "masterdata/masterrows.h"
 #include "shell/session.h"
 #include "ui/common/codenamefield.h"
 #include "ui/common/workspace.h"
@@ -98,11 +99,12 @@ void shootLossOverflow(const Shots &shots, ui::MainWindow &window)
 
 void shootQueries(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
 {
-    // Minimums for the alarm, as the goods dialog would set them.
+    // Minimums for the alarm, set as the goods dialog sets them.
+    const masterdata::MasterKind &goodsKind = *masterdata::findMasterKind(QStringLiteral("goods"));
     for (const auto &[goods, minimum] :
         { std::pair { "10020001", 1500 }, std::pair { "10010001", 600 } })
-        workspace.session.db().exec(QStringLiteral("update jxc_goods set g_zdkc=? where g_sn=?"),
-            { minimum, QString::fromLatin1(goods) });
+        masterdata::updateMasterRow(workspace.session, goodsKind, QString::fromLatin1(goods),
+            { { QStringLiteral("g_zdkc"), minimum } });
     window.openOperation(QStringLiteral("kcgl"), 4);
     auto *alarms = qobject_cast<ui::StockAlarmScreen *>(window.tabs()->currentWidget());
     alarms->run();
