@@ -126,9 +126,10 @@ ui::PreviewDialog *printFrom(QWidget *screen)
     return nullptr;
 }
 
-// The handover of the morning's shift (100 left in the drawer) and its slip on both rolls, the
-// list of handovers, and three POS reports in their print previews.
-void shootPosPrints(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
+// The receipt of the sample sale, the handover of the morning's shift (100 left in the drawer) and
+// its slip on both rolls, the list of handovers, and four POS reports in their print previews.
+void shootPosPrints(
+    const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace, const QString &sold)
 {
     shell::Session &session = workspace.session;
     const pos::ShiftFigures shift
@@ -146,6 +147,12 @@ void shootPosPrints(const Shots &shots, ui::MainWindow &window, ui::Workspace &w
         slip->setZoom(1.5);
         shots.shoot(slip, QStringLiteral("%1-preview-%2").arg(n++).arg(QString::fromLatin1(key)));
         slip->close();
+    }
+    if (ui::PreviewDialog *receipt
+        = ui::printWithPreview(workspace, QStringLiteral("posxp"), sold, &window)) {
+        receipt->setZoom(1.5);
+        shots.shoot(receipt, QStringLiteral("217-preview-posxp"));
+        receipt->close();
     }
     ui::HandoverListDialog handovers(workspace, &window);
     shots.shootOver(&window, &handovers, QStringLiteral("212-till-handovers"));
@@ -188,5 +195,5 @@ void shootPos(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspa
                     .arg(i == 1 ? QStringLiteral("details") : QStringLiteral("ranking-cashiers")));
         }
     }
-    shootPosPrints(shots, window, workspace);
+    shootPosPrints(shots, window, workspace, sold);
 }
