@@ -161,6 +161,8 @@ TEST_F(StockDocumentScreensTest, ACountSheetPostsExactlyItsOneDifferenceAndUnche
     };
     EXPECT_EQ(cells(2),
         QStringLiteral("3|10000002|感冒灵颗粒||盒|G1||2026-12-31|4.00|4|0.00|10.00|40.00"));
+    EXPECT_EQ(screen.lines()->headerData(9, Qt::Horizontal, Qt::DisplayRole).toString(),
+        QStringLiteral("盘点数量"));
 
     // The scanner types into its field and ends with Enter.
     kind.scanField()->setFocus();

@@ -92,6 +92,14 @@ LineModel::LineModel(
     , m_rounding(rounding)
 { }
 
+void LineModel::setCaption(LineField field, const QString &caption)
+{
+    m_captions.insert(field, caption);
+    const int column = columnOf(field);
+    if (column >= 0)
+        emit headerDataChanged(Qt::Horizontal, column, column);
+}
+
 void LineModel::setEditable(bool editable)
 {
     beginResetModel();
@@ -411,7 +419,7 @@ Qt::ItemFlags LineModel::flags(const QModelIndex &index) const
 QVariant LineModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section < m_fields.size())
-        return captionOf(m_fields.at(section));
+        return m_captions.value(m_fields.at(section), captionOf(m_fields.at(section)));
     return QAbstractTableModel::headerData(section, orientation, role);
 }
 

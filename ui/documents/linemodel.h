@@ -5,6 +5,7 @@
 #include "documents/lines.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QList>
 
 namespace medistock::ui {
@@ -75,6 +76,9 @@ public:
     // The column of a field; -1 when the grid does not show it.
     int columnOf(LineField field) const { return int(m_fields.indexOf(field)); }
 
+    // A kind's own caption of a field ("盘点数量" for the quantity of a count).
+    void setCaption(LineField field, const QString &caption);
+
     void setEditable(bool editable);
     bool isEditable() const { return m_editable; }
     // Whether lines may be added (goods typed into a new line).
@@ -122,6 +126,7 @@ private:
     void setAmount(LineEntry &line, const QString &typed);
 
     QList<LineField> m_fields;
+    QHash<LineField, QString> m_captions;
     documents::LineRounding m_rounding;
     QList<LineEntry> m_lines;
     bool m_editable = true;

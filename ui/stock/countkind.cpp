@@ -131,6 +131,7 @@ Result<QString> CountScreenKind::save(
 void CountScreenKind::addActions(DocumentScreen &screen)
 {
     StockScreenKind::addActions(screen);
+    screen.lines()->setCaption(LineField::Quantity, sttexts::countedQuantity);
     auto *make = new QPushButton(sttexts::makeSheet + QStringLiteral("(F10)"), &screen);
     QObject::connect(make, &QPushButton::clicked, &screen, [this] { makeSheet(); });
     screen.addEditingAction(make, QKeySequence(Qt::Key_F10));
