@@ -5,6 +5,7 @@
 #include "documents/lines.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QList>
 
 namespace medistock::ui {
@@ -27,6 +28,8 @@ enum class LineField {
     Total,
     Stock,
     Remark,
+    Book, // a count's book quantity, the line's own column "kc_sl"
+    Difference, // quantity - book, highlighted when not 0
     Cost, // the cost price per line unit
     Limit, // the goods' most per sale (g_xzsl), blank for none
 };
@@ -78,6 +81,9 @@ public:
     // The column of a field; -1 when the grid does not show it.
     int columnOf(LineField field) const { return int(m_fields.indexOf(field)); }
 
+    // A kind's own caption of a field ("盘点数量" for the quantity of a count).
+    void setCaption(LineField field, const QString &caption);
+
     void setEditable(bool editable);
     bool isEditable() const { return m_editable; }
     // The line column a typed cost goes into, per base unit; empty: the cost is never typed.
@@ -127,6 +133,7 @@ private:
     void setAmount(LineEntry &line, const QString &typed);
 
     QList<LineField> m_fields;
+    QHash<LineField, QString> m_captions;
     documents::LineRounding m_rounding;
     QList<LineEntry> m_lines;
     bool m_editable = true;
