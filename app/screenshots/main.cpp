@@ -275,6 +275,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerReportScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
+    ui::registerMoneyScreens(registry);
     ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
