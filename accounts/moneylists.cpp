@@ -99,8 +99,9 @@ QList<PartyBalance> partyBalances(
     const bool customer = kind == PartyKind::Customer;
     const QString prefix = customer ? QStringLiteral("kh_") : QStringLiteral("ghs_");
     Query query;
-    query.add(QStringLiteral("select %1sn,%1name,%1lwje from %2 where 1=1")
-                  .arg(prefix, customer ? QStringLiteral("jxc_khxx") : QStringLiteral("jxc_ghsxx")));
+    query.add(
+        QStringLiteral("select %1sn,%1name,%1lwje from %2 where 1=1")
+            .arg(prefix, customer ? QStringLiteral("jxc_khxx") : QStringLiteral("jxc_ghsxx")));
     query.whereContains({ prefix + QStringLiteral("sn"), prefix + QStringLiteral("name"),
                             prefix + QStringLiteral("jm") },
         search);
@@ -123,7 +124,8 @@ QList<LedgerRow> writtenOffRows(
     core::Connection &connection, PartyKind kind, const MoneyFilter &filter)
 {
     Query query = ledgerQuery(kind, filter);
-    query.add(QStringLiteral(" and a.k_djtxt=? order by a.k_rq,a.id"), { texts::writtenOffText(kind) });
+    query.add(
+        QStringLiteral(" and a.k_djtxt=? order by a.k_rq,a.id"), { texts::writtenOffText(kind) });
     return collect<LedgerRow>(connection, query, readLedgerRow);
 }
 
@@ -143,9 +145,9 @@ QList<InvoiceRow> invoiceRows(
     query.add(counted ? QStringLiteral(" and a.fp_check<>0 order by a.fp_ghskh,a.fp_rq,a.id")
                       : QStringLiteral(" and a.fp_check=0 order by a.fp_rq desc,a.id desc"));
     return collect<InvoiceRow>(connection, query, [](const QSqlQuery &q) {
-        return InvoiceRow { q.value(0).toLongLong(), text(q, 1), text(q, 2), text(q, 3),
-            text(q, 4), text(q, 5), figure(q, 6), figure(q, 7), figure(q, 8), figure(q, 9),
-            text(q, 10), text(q, 11), text(q, 12), text(q, 13), q.value(14).toInt() != 0 };
+        return InvoiceRow { q.value(0).toLongLong(), text(q, 1), text(q, 2), text(q, 3), text(q, 4),
+            text(q, 5), figure(q, 6), figure(q, 7), figure(q, 8), figure(q, 9), text(q, 10),
+            text(q, 11), text(q, 12), text(q, 13), q.value(14).toInt() != 0 };
     });
 }
 
@@ -168,8 +170,8 @@ QList<CashMovement> cashMovements(core::Connection &connection, const MoneyFilte
     });
 }
 
-QList<ExpenseRow> listExpenses(core::Connection &connection, std::optional<ExpenseKind> kind,
-    const MoneyFilter &filter)
+QList<ExpenseRow> listExpenses(
+    core::Connection &connection, std::optional<ExpenseKind> kind, const MoneyFilter &filter)
 {
     Query query;
     query.add(QStringLiteral("select a.gl_djh,a.fy_rq,a.fy_flag,a.fy_lx,a.fy_je,a.fy_kmmc,a.de_sn,"

@@ -83,7 +83,8 @@ struct LedgerRow
     QString operatorName;
 };
 // The party's ledger rows in the range (every party when the filter names none), in ledger order.
-QList<LedgerRow> ledgerRows(core::Connection &connection, PartyKind kind, const MoneyFilter &filter);
+QList<LedgerRow> ledgerRows(
+    core::Connection &connection, PartyKind kind, const MoneyFilter &filter);
 // The rows that wrote off small change ("增加应收款(抹零)" / "增加应付款(抹零)") in the range;
 // `due` holds the amount written off, as a negative figure.
 QList<LedgerRow> writtenOffRows(
@@ -147,8 +148,8 @@ struct ExpenseRow
 };
 // Expenses and income in the range (one kind, or both when none is given), by date and number;
 // the automatic fee rows of document checks are expenses.
-QList<ExpenseRow> listExpenses(core::Connection &connection, std::optional<ExpenseKind> kind,
-    const MoneyFilter &filter);
+QList<ExpenseRow> listExpenses(
+    core::Connection &connection, std::optional<ExpenseKind> kind, const MoneyFilter &filter);
 // The names of the expense and income types, in their order.
 QStringList expenseTypeNames(core::Connection &connection);
 

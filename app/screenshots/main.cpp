@@ -7,6 +7,7 @@
 #include "app/screenshots/loans.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/money.h"
 #include "app/screenshots/pos.h"
 #include "app/screenshots/reports.h"
 #include "app/screenshots/sales.h"
@@ -311,6 +312,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
+    shootMoney(shots, window, workspace);
 }
 
 } // namespace

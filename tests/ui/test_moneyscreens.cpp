@@ -124,16 +124,17 @@ TEST_F(MoneyScreensTest, ACheckedCollectionLowersTheBalanceOnTheLedgerAndItsUnch
     ui::RegistrationScreen collections(workspace(), accounts::RegistrationKind::Collection);
     collections.show();
     enter(collections, Qt::Key_F2,
-        { { QStringLiteral("客户"), customer }, { QStringLiteral("实收金额"), QStringLiteral("30") },
+        { { QStringLiteral("客户"), customer },
+            { QStringLiteral("实收金额"), QStringLiteral("30") },
             { QStringLiteral("抹零金额"), QStringLiteral("0.5") },
             { QStringLiteral("备注"), QStringLiteral("三月货款") } });
     ASSERT_EQ(collections.model()->dataRows(), 1) << ui.informed.join('\n').toStdString();
-    EXPECT_EQ(collections.model()->text(0, 10), QStringLiteral("未审核"));
+    EXPECT_EQ(collections.model()->text(0, 9), QStringLiteral("未审核"));
     EXPECT_EQ(balanceOf(ledger, customer), 100); // saved, not yet checked
 
     collections.grid()->selectRow(0);
     press(collections, Qt::Key_F6);
-    EXPECT_EQ(collections.model()->text(0, 10), QStringLiteral("已审核"));
+    EXPECT_EQ(collections.model()->text(0, 9), QStringLiteral("已审核"));
     EXPECT_EQ(balanceOf(ledger, customer), 69.5);
     ledger.grid()->selectRow(ledger.model()->dataRows() - 1);
     for (int r = 0; r < ledger.model()->dataRows(); ++r)
@@ -149,7 +150,7 @@ TEST_F(MoneyScreensTest, ACheckedCollectionLowersTheBalanceOnTheLedgerAndItsUnch
 
     ui.answerNext(true);
     press(collections, Qt::Key_F7);
-    EXPECT_EQ(collections.model()->text(0, 10), QStringLiteral("未审核"));
+    EXPECT_EQ(collections.model()->text(0, 9), QStringLiteral("未审核"));
     EXPECT_EQ(balanceOf(ledger, customer), 100);
 }
 
@@ -182,13 +183,15 @@ TEST_F(MoneyScreensTest, AnInvoicingRowMovesTheRegistersRunningBalance)
     ui::InvoiceScreen invoices(workspace(), accounts::PartyKind::Customer, true);
     invoices.show();
     enter(invoices, Qt::Key_F2,
-        { { QStringLiteral("客户"), customer }, { QStringLiteral("开票金额"), QStringLiteral("40") },
+        { { QStringLiteral("客户"), customer },
+            { QStringLiteral("开票金额"), QStringLiteral("40") },
             { QStringLiteral("发票号"), QStringLiteral("No.0012345") } });
     ASSERT_EQ(invoices.model()->dataRows(), 1) << ui.informed.join('\n').toStdString();
     EXPECT_EQ(invoices.model()->value(0, 7).toDouble(), 40);
     EXPECT_EQ(invoices.model()->value(0, 8).toDouble(), -40);
     enter(invoices, Qt::Key_F2,
-        { { QStringLiteral("客户"), customer }, { QStringLiteral("开票金额"), QStringLiteral("25") } });
+        { { QStringLiteral("客户"), customer },
+            { QStringLiteral("开票金额"), QStringLiteral("25") } });
     ASSERT_EQ(invoices.model()->dataRows(), 2);
     EXPECT_EQ(invoices.model()->value(1, 8).toDouble(), -65);
 
@@ -199,6 +202,7 @@ TEST_F(MoneyScreensTest, AnInvoicingRowMovesTheRegistersRunningBalance)
     ASSERT_EQ(invoices.model()->dataRows(), 1);
     EXPECT_EQ(invoices.model()->value(0, 8).toDouble(), -25);
     ui::InvoiceScreen aside(workspace(), accounts::PartyKind::Customer, false);
+    aside.show();
     aside.run();
     ASSERT_EQ(aside.model()->dataRows(), 1);
     aside.grid()->selectRow(0);
@@ -264,7 +268,8 @@ TEST_F(MoneyScreensTest, EveryListExportsWhatItShows)
     ui::RegistrationScreen collections(workspace(), accounts::RegistrationKind::Collection);
     collections.show();
     enter(collections, Qt::Key_F2,
-        { { QStringLiteral("客户"), customer }, { QStringLiteral("实收金额"), QStringLiteral("30") },
+        { { QStringLiteral("客户"), customer },
+            { QStringLiteral("实收金额"), QStringLiteral("30") },
             { QStringLiteral("抹零金额"), QStringLiteral("0.5") } });
     collections.grid()->selectRow(0);
     press(collections, Qt::Key_F6);
@@ -285,7 +290,8 @@ TEST_F(MoneyScreensTest, EveryListExportsWhatItShows)
     ui::InvoiceScreen invoices(workspace(), accounts::PartyKind::Customer, true);
     invoices.show();
     enter(invoices, Qt::Key_F2,
-        { { QStringLiteral("客户"), customer }, { QStringLiteral("开票金额"), QStringLiteral("40") } });
+        { { QStringLiteral("客户"), customer },
+            { QStringLiteral("开票金额"), QStringLiteral("40") } });
     expectExportRoundTrip(invoices, QStringLiteral("发票台账"));
 
     ui::CashBookScreen book(workspace());

@@ -7,9 +7,9 @@
 #include "core/interaction.h"
 #include "shell/session.h"
 #include "ui/common/datefield.h"
-#include "ui/common/workspace.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
+#include "ui/common/workspace.h"
 #include "ui/documents/pickers.h"
 
 #include <QComboBox>
@@ -36,7 +36,8 @@ QString statusText(bool checked)
 // The movements this screen enters; the rest belong to their documents.
 std::optional<MovementKind> ownKind(const QString &number)
 {
-    for (MovementKind kind : { MovementKind::Receipt, MovementKind::Payment, MovementKind::Transfer })
+    for (MovementKind kind :
+        { MovementKind::Receipt, MovementKind::Payment, MovementKind::Transfer })
         if (number.startsWith(accounts::movementPrefix(kind)))
             return kind;
     return std::nullopt;
@@ -64,16 +65,23 @@ CashBookScreen::CashBookScreen(Workspace &workspace, QWidget *parent)
     addStatusFilter();
     m_account->setCurrentIndex(m_account->count() > 1 ? 1 : 0);
     connect(m_account, &QComboBox::currentIndexChanged, this, &QueryScreen::run);
-    addOperation(QStringLiteral("进款"), Qt::Key_F2, [this] { enter(int(MovementKind::Receipt)); },
-        "rcgl", 7);
-    addOperation(QStringLiteral("出款"), Qt::Key_F3, [this] { enter(int(MovementKind::Payment)); },
-        "rcgl", 7);
-    addOperation(QStringLiteral("转账"), Qt::Key_F4,
-        [this] { enter(int(MovementKind::Transfer)); }, "rcgl", 7);
-    addOperation(QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "rcgl", 7);
-    addOperation(QStringLiteral("审核"), Qt::Key_F6, [this] { check(); }, "rcgl", 13);
-    addOperation(QStringLiteral("取消审核"), Qt::Key_F7, [this] { uncheck(); }, "rcgl", 13);
-    addOperation(QStringLiteral("审核所有"), Qt::Key_F9, [this] { checkAll(); }, "rcgl", 13);
+    addOperation(
+        QStringLiteral("进款"), Qt::Key_F2, [this] { enter(int(MovementKind::Receipt)); }, "rcgl",
+        7);
+    addOperation(
+        QStringLiteral("出款"), Qt::Key_F3, [this] { enter(int(MovementKind::Payment)); }, "rcgl",
+        7);
+    addOperation(
+        QStringLiteral("转账"), Qt::Key_F4, [this] { enter(int(MovementKind::Transfer)); }, "rcgl",
+        7);
+    addOperation(
+        QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "rcgl", 7);
+    addOperation(
+        QStringLiteral("审核"), Qt::Key_F6, [this] { check(); }, "rcgl", 13);
+    addOperation(
+        QStringLiteral("取消审核"), Qt::Key_F7, [this] { uncheck(); }, "rcgl", 13);
+    addOperation(
+        QStringLiteral("审核所有"), Qt::Key_F9, [this] { checkAll(); }, "rcgl", 13);
     setColumns({ { QStringLiteral("日期") },
                    { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },
                    { QStringLiteral("类别"), QueryColumn::Kind::Text, 0, false, 100 },
@@ -137,8 +145,8 @@ bool CashBookScreen::edit(int kind, const accounts::CashMovement *row)
     QLineEdit *amount = form.addAmount(QStringLiteral("金额"), row ? qAbs(row->amount) : 0);
     auto *account = new QComboBox(&form);
     fillAccountBox(account, session());
-    form.addRow(kind == int(MovementKind::Transfer) ? QStringLiteral("转出账户")
-                                                    : QStringLiteral("账户"),
+    form.addRow(
+        kind == int(MovementKind::Transfer) ? QStringLiteral("转出账户") : QStringLiteral("账户"),
         account);
     chooseCode(account, row ? row->account : m_account->currentData().toString());
     QComboBox *target = nullptr;
@@ -180,7 +188,8 @@ void CashBookScreen::remove()
     if (!row)
         return;
     if (!ownKind(row->number)) {
-        session().ui().inform(QStringLiteral("该记录由单据%1产生，请在原单据中修改。").arg(row->number));
+        session().ui().inform(
+            QStringLiteral("该记录由单据%1产生，请在原单据中修改。").arg(row->number));
         return;
     }
     const QString number = row->number;
@@ -208,10 +217,14 @@ void CashBookScreen::checkAll()
 BankAccountsScreen::BankAccountsScreen(Workspace &workspace, QWidget *parent)
     : MoneyListScreen(workspace, QStringLiteral("现金银行期初建账"), parent)
 {
-    addOperation(QStringLiteral("新增账户"), Qt::Key_F2, [this] { add(); }, "rcgl", 7);
-    addOperation(QStringLiteral("修改名称"), Qt::Key_F3, [this] { rename(); }, "rcgl", 7);
-    addOperation(QStringLiteral("期初金额"), Qt::Key_F4, [this] { setOpening(); }, "rcgl", 7);
-    addOperation(QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "rcgl", 7);
+    addOperation(
+        QStringLiteral("新增账户"), Qt::Key_F2, [this] { add(); }, "rcgl", 7);
+    addOperation(
+        QStringLiteral("修改名称"), Qt::Key_F3, [this] { rename(); }, "rcgl", 7);
+    addOperation(
+        QStringLiteral("期初金额"), Qt::Key_F4, [this] { setOpening(); }, "rcgl", 7);
+    addOperation(
+        QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "rcgl", 7);
     setColumns({ { QStringLiteral("编号") },
                    { QStringLiteral("账户名称"), QueryColumn::Kind::Text, 0, false, 160 },
                    { QStringLiteral("类型") }, money(QStringLiteral("期初金额")),
@@ -255,7 +268,8 @@ void BankAccountsScreen::rename()
         return;
     MoneyFormDialog form(session(), QStringLiteral("修改名称：") + name, this);
     QLineEdit *newName = form.addText(QStringLiteral("新名称"), name);
-    form.setSubmit([&] { return accounts::renameBankAccount(session(), name, newName->text()).ok(); });
+    form.setSubmit(
+        [&] { return accounts::renameBankAccount(session(), name, newName->text()).ok(); });
     refreshAfter(form.exec() == QDialog::Accepted);
 }
 
@@ -268,8 +282,8 @@ void BankAccountsScreen::setOpening()
     QLineEdit *amount = form.addAmount(
         accounts::texts::openingField(), model()->value(currentRow(), 3).toDouble());
     form.setSubmit([&]() -> bool {
-        const auto value = form.amount(
-            amount, accounts::texts::openingField(), core::NumberKind::SignedAmount);
+        const auto value
+            = form.amount(amount, accounts::texts::openingField(), core::NumberKind::SignedAmount);
         return value && accounts::setOpeningAmount(session(), name, *value).ok();
     });
     refreshAfter(form.exec() == QDialog::Accepted);
@@ -292,20 +306,23 @@ ExpenseScreen::ExpenseScreen(Workspace &workspace, QWidget *parent)
     addStatusFilter();
     connect(m_kind, &QComboBox::currentIndexChanged, this, &QueryScreen::run);
     using accounts::ExpenseKind;
-    addOperation(QStringLiteral("费用"), Qt::Key_F2, [this] { enter(ExpenseKind::Expense); },
-        "rcgl", 6);
-    addOperation(QStringLiteral("收入"), Qt::Key_F3, [this] { enter(ExpenseKind::Income); },
-        "rcgl", 6);
-    addOperation(QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "rcgl", 6);
-    addOperation(QStringLiteral("审核"), Qt::Key_F6, [this] { check(); }, "rcgl", 12);
-    addOperation(QStringLiteral("取消审核"), Qt::Key_F7, [this] { uncheck(); }, "rcgl", 12);
-    setColumns({ { QStringLiteral("日期") },
-                   { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },
-                   { QStringLiteral("类别") }, { QStringLiteral("项目") },
-                   money(QStringLiteral("金额")), { QStringLiteral("账户") },
-                   { QStringLiteral("部门") }, { QStringLiteral("业务员") },
-                   { QStringLiteral("状态") },
-                   { QStringLiteral("备注"), QueryColumn::Kind::Text, 0, false, 200 } },
+    addOperation(
+        QStringLiteral("费用"), Qt::Key_F2, [this] { enter(ExpenseKind::Expense); }, "rcgl", 6);
+    addOperation(
+        QStringLiteral("收入"), Qt::Key_F3, [this] { enter(ExpenseKind::Income); }, "rcgl", 6);
+    addOperation(
+        QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "rcgl", 6);
+    addOperation(
+        QStringLiteral("审核"), Qt::Key_F6, [this] { check(); }, "rcgl", 12);
+    addOperation(
+        QStringLiteral("取消审核"), Qt::Key_F7, [this] { uncheck(); }, "rcgl", 12);
+    setColumns(
+        { { QStringLiteral("日期") },
+            { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },
+            { QStringLiteral("类别") }, { QStringLiteral("项目") }, money(QStringLiteral("金额")),
+            { QStringLiteral("账户") }, { QStringLiteral("部门") }, { QStringLiteral("业务员") },
+            { QStringLiteral("状态") },
+            { QStringLiteral("备注"), QueryColumn::Kind::Text, 0, false, 200 } },
         QStringLiteral("expenses"));
     connect(this, &QueryScreen::activated, this, [this](int) { change(); });
 }

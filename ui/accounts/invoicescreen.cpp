@@ -3,13 +3,13 @@
 #include "accounts/invoices.h"
 #include "accounts/moneylists.h"
 #include "accounts/texts.h"
-#include "core/rounding.h"
 #include "core/interaction.h"
+#include "core/rounding.h"
 #include "shell/session.h"
 #include "ui/common/codenamefield.h"
 #include "ui/common/datefield.h"
-#include "ui/common/workspace.h"
 #include "ui/common/reading.h"
+#include "ui/common/workspace.h"
 #include "ui/documents/pickers.h"
 
 #include <QComboBox>
@@ -50,9 +50,9 @@ int screenRight(PartyKind kind)
 
 InvoiceScreen::InvoiceScreen(Workspace &workspace, PartyKind kind, bool counted, QWidget *parent)
     : MoneyListScreen(workspace,
-          kind == PartyKind::Customer ? QStringLiteral("销售发票管理")
-                                      : QStringLiteral("进货发票管理"),
-          parent)
+        kind == PartyKind::Customer ? QStringLiteral("销售发票管理")
+                                    : QStringLiteral("进货发票管理"),
+        parent)
     , m_kind(kind)
     , m_counted(counted)
     , m_party(makePartyField(workspace.session, tableOf(kind), this))
@@ -63,23 +63,26 @@ InvoiceScreen::InvoiceScreen(Workspace &workspace, PartyKind kind, bool counted,
     connect(m_party, &CodeNameField::chosen, this, &QueryScreen::run);
     const int right = screenRight(kind);
     if (counted) {
-        addOperation(QStringLiteral("增加发票"), Qt::Key_F2, [this] { addInvoicing(); }, "wlzk",
-            right);
-        addOperation(QStringLiteral("修改发票"), Qt::Key_F3, [this] { changeInvoicing(); },
-            "wlzk", right);
-        addOperation(QStringLiteral("发票登记"), Qt::Key_F4, [this] { registerInvoice(); },
-            "wlzk", right);
-        addOperation(QStringLiteral("排除"), Qt::Key_F7, [this] { setAside(); }, "wlzk", right);
+        addOperation(
+            QStringLiteral("增加发票"), Qt::Key_F2, [this] { addInvoicing(); }, "wlzk", right);
+        addOperation(
+            QStringLiteral("修改发票"), Qt::Key_F3, [this] { changeInvoicing(); }, "wlzk", right);
+        addOperation(
+            QStringLiteral("发票登记"), Qt::Key_F4, [this] { registerInvoice(); }, "wlzk", right);
+        addOperation(
+            QStringLiteral("排除"), Qt::Key_F7, [this] { setAside(); }, "wlzk", right);
     } else {
-        addOperation(QStringLiteral("审核"), Qt::Key_F6, [this] { takeBack(); }, "wlzk",
-            checkRight(kind));
-        addOperation(QStringLiteral("审核所有"), Qt::Key_F9, [this] { takeBackAll(); }, "wlzk",
+        addOperation(
+            QStringLiteral("审核"), Qt::Key_F6, [this] { takeBack(); }, "wlzk", checkRight(kind));
+        addOperation(
+            QStringLiteral("审核所有"), Qt::Key_F9, [this] { takeBackAll(); }, "wlzk",
             checkRight(kind));
     }
-    addOperation(QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "wlzk", right);
+    addOperation(
+        QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "wlzk", right);
     if (counted)
-        addOperation(QStringLiteral("重新计算"), Qt::Key_F9, [this] { recalculate(); }, "wlzk",
-            right);
+        addOperation(
+            QStringLiteral("重新计算"), Qt::Key_F9, [this] { recalculate(); }, "wlzk", right);
     const QString who = accounts::texts::partyWord(kind);
     setColumns({ { QStringLiteral("日期") },
                    { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },
@@ -103,9 +106,8 @@ void InvoiceScreen::fetch()
     m_rows = accounts::invoiceRows(session().db(), m_kind, filter);
     QList<QVariantList> rows;
     for (const accounts::InvoiceRow &r : m_rows)
-        rows.append({ r.date, r.number, r.party, r.partyName, r.text, r.opening, r.due,
-            r.invoiced, m_counted ? QVariant(r.balance) : QVariant(), r.invoiceNumber,
-            r.invoiceDate, r.note });
+        rows.append({ r.date, r.number, r.party, r.partyName, r.text, r.opening, r.due, r.invoiced,
+            m_counted ? QVariant(r.balance) : QVariant(), r.invoiceNumber, r.invoiceDate, r.note });
     setRows(rows);
 }
 
@@ -149,13 +151,14 @@ bool InvoiceScreen::editInvoicing(const accounts::InvoiceRow *row)
             balance->setText(party.isEmpty()
                     ? QString()
                     : QString::number(
-                          accounts::currentInvoiceBalance(session().db(), m_kind, party), 'f', 2));
+                        accounts::currentInvoiceBalance(session().db(), m_kind, party), 'f', 2));
         });
     };
     connect(who, &CodeNameField::chosen, &form, showBalance);
     DateField *date = form.addDate(QStringLiteral("日期"), row ? row->date : session().today());
     QLineEdit *amount = form.addAmount(QStringLiteral("开票金额"), row ? row->invoiced : 0);
-    QLineEdit *number = form.addText(QStringLiteral("发票号"), row ? row->invoiceNumber : QString());
+    QLineEdit *number
+        = form.addText(QStringLiteral("发票号"), row ? row->invoiceNumber : QString());
     DateField *invoiceDate
         = form.addDate(QStringLiteral("开票日期"), row ? row->invoiceDate : session().today());
     auto *salesman = new QComboBox(&form);
@@ -198,7 +201,8 @@ void InvoiceScreen::registerInvoice()
     const QString documentNumber = row->number;
     MoneyFormDialog form(session(), QStringLiteral("发票登记：") + documentNumber, this);
     QLineEdit *number = form.addText(QStringLiteral("发票号"), row->invoiceNumber);
-    QLineEdit *amount = form.addAmount(QStringLiteral("开票金额"), row->invoiced ? row->invoiced : row->due);
+    QLineEdit *amount
+        = form.addAmount(QStringLiteral("开票金额"), row->invoiced ? row->invoiced : row->due);
     DateField *date = form.addDate(QStringLiteral("开票日期"),
         row->invoiceDate.isEmpty() ? session().today() : row->invoiceDate);
     QLineEdit *note = form.addText(QStringLiteral("备注"), row->note);
@@ -221,7 +225,8 @@ void InvoiceScreen::setAside()
 void InvoiceScreen::remove()
 {
     const accounts::InvoiceRow *row = current();
-    if (row && session().ui().ask(QStringLiteral("确定删除单据：%1的发票记录吗？").arg(row->number)))
+    if (row
+        && session().ui().ask(QStringLiteral("确定删除单据：%1的发票记录吗？").arg(row->number)))
         refreshAfter(accounts::deleteInvoiceRow(session(), row->id).ok());
 }
 

@@ -19,8 +19,8 @@ class InvoiceScreen : public MoneyListScreen
 {
     Q_OBJECT
 public:
-    InvoiceScreen(Workspace &workspace, accounts::PartyKind kind, bool counted,
-        QWidget *parent = nullptr);
+    InvoiceScreen(
+        Workspace &workspace, accounts::PartyKind kind, bool counted, QWidget *parent = nullptr);
 
     CodeNameField *partyField() const { return m_party; }
 

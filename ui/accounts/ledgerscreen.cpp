@@ -70,8 +70,8 @@ void LedgerRowsScreen::fetch()
         accounts::MoneyFilter filter = baseFilter();
         filter.party = m_party;
         for (const accounts::LedgerRow &r : accounts::ledgerRows(session().db(), m_kind, filter))
-            rows.append({ r.date, r.number, r.text, r.opening, r.due, r.paid, r.discount,
-                r.balance, r.account, r.link, r.operatorName, r.note });
+            rows.append({ r.date, r.number, r.text, r.opening, r.due, r.paid, r.discount, r.balance,
+                r.account, r.link, r.operatorName, r.note });
     }
     setRows(rows);
 }
@@ -127,8 +127,8 @@ void LedgerScreen::recalculate()
     if (row >= 0 && row < m_rows.size())
         party->addItem(m_rows[row].name, m_rows[row].party);
     form.addRow(accounts::texts::partyWord(m_kind), party);
-    DateField *from = form.addDate(QStringLiteral("开始日期"),
-        session().clock().today().addYears(-1).toString(Qt::ISODate));
+    DateField *from = form.addDate(
+        QStringLiteral("开始日期"), session().clock().today().addYears(-1).toString(Qt::ISODate));
     form.setSubmit([&] {
         const QDate date = QDate::fromString(from->text(), Qt::ISODate);
         if (!date.isValid()) {
@@ -169,8 +169,8 @@ void WrittenOffScreen::fetch()
     filter.party = m_party->code();
     QList<QVariantList> rows;
     for (const accounts::LedgerRow &r : accounts::writtenOffRows(session().db(), m_kind, filter))
-        rows.append({ r.date, r.number, r.link, r.party, r.partyName, -r.due, r.operatorName,
-            r.note });
+        rows.append(
+            { r.date, r.number, r.link, r.party, r.partyName, -r.due, r.operatorName, r.note });
     setRows(rows);
 }
 

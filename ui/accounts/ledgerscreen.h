@@ -71,7 +71,8 @@ private:
     CodeNameField *m_party;
 };
 
-// The window of "应收帐表" / "应付帐表": the balances with their ledger, and the written-off change.
+// The window of "应收帐表" / "应付帐表": the balances with their ledger, and the written-off
+// change.
 QTabWidget *ledgerWindow(Workspace &workspace, accounts::PartyKind kind);
 
 } // namespace medistock::ui

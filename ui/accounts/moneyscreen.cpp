@@ -2,9 +2,9 @@
 
 #include "accounts/bankaccounts.h"
 #include "accounts/cashbook.h"
+#include "core/interaction.h"
 #include "core/rounding.h"
 #include "shell/rights.h"
-#include "core/interaction.h"
 #include "shell/session.h"
 #include "ui/common/datefield.h"
 #include "ui/common/keys.h"

@@ -24,6 +24,9 @@ class DateField;
 // F2 新增, F3 修改, Del 删除, F6 审核, F7 取消审核, so a clerk's hands learn one set. A button is
 // enabled only with its right; the operations test the right again. After an operation that went
 // through, the list runs again and keeps the row the clerk was on.
+// The check entries of the menu ("收款登记审核", "现金银行审核" …) open the same lists on what is
+// still unchecked. Rows that another document posted (a sale's cash row) are shown but changed
+// only through that document; a transfer's two rows are deleted and entered again, not changed.
 class MoneyListScreen : public QueryScreen
 {
     Q_OBJECT

@@ -51,21 +51,28 @@ void registerMoneyScreens(ScreenRegistry &registry)
             return shown(new RegistrationScreen(workspace, kind));
         });
         registry.addTab(area, QString::fromUtf8(operation) + QStringLiteral("审核"),
-            [kind](Workspace &workspace) {
-                return waiting(new RegistrationScreen(workspace, kind));
-            });
+            [kind](
+                Workspace &workspace) { return waiting(new RegistrationScreen(workspace, kind)); });
     }
+    registry.addTab(area, QStringLiteral("修改收付款日期"), [](Workspace &workspace) {
+        auto *tabs = new QTabWidget;
+        tabs->addTab(shown(new RegistrationScreen(workspace, RegistrationKind::Collection, tabs)),
+            QStringLiteral("收款登记"));
+        tabs->addTab(shown(new RegistrationScreen(workspace, RegistrationKind::Payment, tabs)),
+            QStringLiteral("付款登记"));
+        return tabs;
+    });
     registry.addTab(area, QStringLiteral("应收帐表"),
         [](Workspace &workspace) { return ledgerWindow(workspace, PartyKind::Customer); });
     registry.addTab(area, QStringLiteral("应付帐表"),
         [](Workspace &workspace) { return ledgerWindow(workspace, PartyKind::Supplier); });
-    const std::pair<const char *, PartyKind> invoices[] = { { "进货发票", PartyKind::Supplier },
-        { "销售发票", PartyKind::Customer } };
+    const std::pair<const char *, PartyKind> invoices[]
+        = { { "进货发票", PartyKind::Supplier }, { "销售发票", PartyKind::Customer } };
     for (const auto &[name, kind] : invoices) {
         registry.addTab(area, QString::fromUtf8(name) + QStringLiteral("管理"),
             [kind](Workspace &workspace) { return invoiceWindow(workspace, kind); });
-        registry.addTab(area, QString::fromUtf8(name) + QStringLiteral("审核"),
-            [kind](Workspace &workspace) {
+        registry.addTab(
+            area, QString::fromUtf8(name) + QStringLiteral("审核"), [kind](Workspace &workspace) {
                 QTabWidget *window = invoiceWindow(workspace, kind);
                 window->setCurrentIndex(1);
                 return window;

@@ -5,8 +5,8 @@
 #include "shell/session.h"
 #include "ui/common/codenamefield.h"
 #include "ui/common/datefield.h"
-#include "ui/common/workspace.h"
 #include "ui/common/reading.h"
+#include "ui/common/workspace.h"
 #include "ui/documents/pickers.h"
 
 #include <QComboBox>
@@ -49,6 +49,21 @@ QString kindTitle(RegistrationKind kind)
     return QString::fromUtf8(titles[int(kind)]);
 }
 
+// The money columns a kind leaves out: an entry has no discount or written-off change, a
+// collection or payment owes nothing new.
+QList<int> leftOut(RegistrationKind kind)
+{
+    return isEntry(kind) ? QList<int> { 6, 7 } : QList<int> { 4 };
+}
+
+template<class T> QList<T> shownOf(RegistrationKind kind, QList<T> all)
+{
+    const QList<int> drop = leftOut(kind);
+    for (auto it = drop.rbegin(); it != drop.rend(); ++it)
+        all.removeAt(*it);
+    return all;
+}
+
 QList<QueryColumn> columns(RegistrationKind kind)
 {
     const accounts::PartyKind party = accounts::registrationParty(kind);
@@ -56,14 +71,16 @@ QList<QueryColumn> columns(RegistrationKind kind)
     const auto money = [](const QString &caption) {
         return QueryColumn { caption, QueryColumn::Kind::Number, 2, true };
     };
-    return { { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },
-        { QStringLiteral("日期") }, { who + QStringLiteral("编号") },
-        { who + QStringLiteral("名称"), QueryColumn::Kind::Text, 0, false, 160 },
-        money(accounts::texts::dueField(party)), money(accounts::texts::paidField(party)),
-        money(accounts::texts::discountField()), money(accounts::texts::writtenOffField()),
-        { QStringLiteral("账户") }, { QStringLiteral("业务员") }, { QStringLiteral("状态") },
-        { QStringLiteral("审核人") }, { QStringLiteral("审核日期") },
-        { QStringLiteral("备注"), QueryColumn::Kind::Text, 0, false, 160 } };
+    return shownOf<QueryColumn>(kind,
+        { { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },
+            { QStringLiteral("日期"), QueryColumn::Kind::Text, 0, false, 90 },
+            { who + QStringLiteral("编号"), QueryColumn::Kind::Text, 0, false, 70 },
+            { who + QStringLiteral("名称"), QueryColumn::Kind::Text, 0, false, 160 },
+            money(accounts::texts::dueField(party)), money(accounts::texts::paidField(party)),
+            money(accounts::texts::discountField()), money(accounts::texts::writtenOffField()),
+            { QStringLiteral("账户") }, { QStringLiteral("业务员") }, { QStringLiteral("状态") },
+            { QStringLiteral("审核人") }, { QStringLiteral("审核日期") },
+            { QStringLiteral("备注"), QueryColumn::Kind::Text, 0, false, 160 } });
 }
 
 } // namespace
@@ -78,14 +95,20 @@ RegistrationScreen::RegistrationScreen(
     addFilter(partyLabel(partyTable(kind)), m_party);
     addStatusFilter();
     connect(m_party, &CodeNameField::chosen, this, &QueryScreen::run);
-    addOperation(QStringLiteral("新增"), Qt::Key_F2, [this] { add(); }, "wlzk", saveRight(kind));
-    addOperation(QStringLiteral("修改"), Qt::Key_F3, [this] { change(); }, "wlzk", saveRight(kind));
-    addOperation(QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "wlzk",
-        saveRight(kind));
-    addOperation(QStringLiteral("审核"), Qt::Key_F6, [this] { check(); }, "wlzk", checkRight(kind));
-    addOperation(QStringLiteral("取消审核"), Qt::Key_F7, [this] { uncheck(); }, "wlzk",
-        checkRight(kind));
-    setColumns(columns(kind), QStringLiteral("registrations-") + accounts::registrationPrefix(kind));
+    addOperation(
+        QStringLiteral("新增"), Qt::Key_F2, [this] { add(); }, "wlzk", saveRight(kind));
+    addOperation(
+        QStringLiteral("修改"), Qt::Key_F3, [this] { change(); }, "wlzk", saveRight(kind));
+    addOperation(
+        QStringLiteral("删除"), Qt::Key_Delete, [this] { remove(); }, "wlzk", saveRight(kind));
+    addOperation(
+        QStringLiteral("修改日期"), Qt::Key_F4, [this] { changeDate(); }, "wlzk", 11);
+    addOperation(
+        QStringLiteral("审核"), Qt::Key_F6, [this] { check(); }, "wlzk", checkRight(kind));
+    addOperation(
+        QStringLiteral("取消审核"), Qt::Key_F7, [this] { uncheck(); }, "wlzk", checkRight(kind));
+    setColumns(
+        columns(kind), QStringLiteral("registrations-") + accounts::registrationPrefix(kind));
     connect(this, &QueryScreen::activated, this, [this](int) { change(); });
 }
 
@@ -96,10 +119,11 @@ void RegistrationScreen::fetch()
     m_rows = accounts::listRegistrations(session().db(), m_kind, filter);
     QList<QVariantList> rows;
     for (const accounts::RegistrationRow &r : m_rows)
-        rows.append({ r.number, r.date, r.party, r.partyName, r.due, r.paid, r.discount,
-            r.writtenOff, r.account, r.salesmanName,
-            r.checked ? QStringLiteral("已审核") : QStringLiteral("未审核"), r.checker,
-            r.checkDate, r.note });
+        rows.append(shownOf<QVariant>(m_kind,
+            { r.number, r.date, r.party, r.partyName, r.due, r.paid, r.discount, r.writtenOff,
+                r.account, r.salesmanName,
+                r.checked ? QStringLiteral("已审核") : QStringLiteral("未审核"), r.checker,
+                r.checkDate, r.note }));
     setRows(rows);
 }
 
@@ -152,6 +176,19 @@ void RegistrationScreen::uncheck()
     const QString number = currentNumber();
     if (!number.isEmpty())
         refreshAfter(accounts::uncheckRegistration(session(), number).ok());
+}
+
+void RegistrationScreen::changeDate()
+{
+    const accounts::RegistrationRow *row = current();
+    if (!row)
+        return;
+    const QString number = row->number;
+    MoneyFormDialog form(session(), QStringLiteral("修改收付款日期：") + number, this);
+    DateField *date = form.addDate(QStringLiteral("新日期"), row->date);
+    form.setSubmit(
+        [&] { return accounts::changeRegistrationDate(session(), number, date->text()).ok(); });
+    refreshAfter(form.exec() == QDialog::Accepted);
 }
 
 bool RegistrationScreen::edit(const accounts::RegistrationRow *row)
