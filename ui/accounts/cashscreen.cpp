@@ -153,6 +153,7 @@ bool CashBookScreen::edit(int kind, const accounts::CashMovement *row)
     if (kind == int(MovementKind::Transfer)) {
         target = new QComboBox(&form);
         fillAccountBox(target, session());
+        target->setCurrentIndex(account->currentIndex() == 0 && target->count() > 1 ? 1 : 0);
         form.addRow(QStringLiteral("转入账户"), target);
     }
     auto *salesman = new QComboBox(&form);
