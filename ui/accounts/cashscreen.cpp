@@ -91,6 +91,7 @@ CashBookScreen::CashBookScreen(Workspace &workspace, QWidget *parent)
                    { QStringLiteral("业务员") }, { QStringLiteral("状态") },
                    { QStringLiteral("备注"), QueryColumn::Kind::Text, 0, false, 180 } },
         QStringLiteral("cash-book"));
+    setNumberColumn(1);
     connect(this, &QueryScreen::activated, this, [this](int) { change(); });
 }
 
@@ -193,21 +194,17 @@ void CashBookScreen::remove()
             QStringLiteral("该记录由单据%1产生，请在原单据中修改。").arg(row->number));
         return;
     }
-    const QString number = row->number;
-    if (session().ui().ask(QStringLiteral("确定删除单据：%1吗？").arg(number)))
-        refreshAfter(accounts::deleteMovement(session(), number).ok());
+    deleteCurrent(accounts::deleteMovement);
 }
 
 void CashBookScreen::check()
 {
-    if (const accounts::CashMovement *row = current())
-        refreshAfter(accounts::checkMovement(session(), row->number).ok());
+    operateOnCurrent(accounts::checkMovement);
 }
 
 void CashBookScreen::uncheck()
 {
-    if (const accounts::CashMovement *row = current())
-        refreshAfter(accounts::uncheckMovement(session(), row->number).ok());
+    operateOnCurrent(accounts::uncheckMovement);
 }
 
 void CashBookScreen::checkAll()
@@ -325,6 +322,7 @@ ExpenseScreen::ExpenseScreen(Workspace &workspace, QWidget *parent)
             { QStringLiteral("状态") },
             { QStringLiteral("备注"), QueryColumn::Kind::Text, 0, false, 200 } },
         QStringLiteral("expenses"));
+    setNumberColumn(1);
     connect(this, &QueryScreen::activated, this, [this](int) { change(); });
 }
 
@@ -426,24 +424,17 @@ bool ExpenseScreen::edit(accounts::ExpenseKind kind, const accounts::ExpenseRow 
 
 void ExpenseScreen::remove()
 {
-    const accounts::ExpenseRow *row = current();
-    if (!row)
-        return;
-    const QString number = row->number;
-    if (session().ui().ask(QStringLiteral("确定删除单据：%1吗？").arg(number)))
-        refreshAfter(accounts::deleteExpense(session(), number).ok());
+    deleteCurrent(accounts::deleteExpense);
 }
 
 void ExpenseScreen::check()
 {
-    if (const accounts::ExpenseRow *row = current())
-        refreshAfter(accounts::checkExpense(session(), row->number).ok());
+    operateOnCurrent(accounts::checkExpense);
 }
 
 void ExpenseScreen::uncheck()
 {
-    if (const accounts::ExpenseRow *row = current())
-        refreshAfter(accounts::uncheckExpense(session(), row->number).ok());
+    operateOnCurrent(accounts::uncheckExpense);
 }
 
 QTabWidget *cashWindow(Workspace &workspace)

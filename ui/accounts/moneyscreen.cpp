@@ -96,6 +96,26 @@ void MoneyListScreen::refreshAfter(bool done)
         grid()->selectRow(row);
 }
 
+QString MoneyListScreen::currentNumber() const
+{
+    const int row = currentRow();
+    return row >= 0 ? model()->text(row, m_numberColumn) : QString();
+}
+
+void MoneyListScreen::operateOnCurrent(DocumentOperation operation)
+{
+    const QString number = currentNumber();
+    if (!number.isEmpty())
+        refreshAfter(operation(session(), number).ok());
+}
+
+void MoneyListScreen::deleteCurrent(DocumentOperation operation)
+{
+    const QString number = currentNumber();
+    if (!number.isEmpty() && session().ui().ask(QStringLiteral("确定删除单据：%1吗？").arg(number)))
+        refreshAfter(operation(session(), number).ok());
+}
+
 MoneyFormDialog::MoneyFormDialog(shell::Session &session, const QString &title, QWidget *parent)
     : QDialog(parent)
     , m_session(session)

@@ -48,10 +48,21 @@ public:
     // Runs the list again after an operation that went through, staying on the same row.
     void refreshAfter(bool done);
 
+    using DocumentOperation = Outcome (*)(shell::Session &, const QString &);
+    // The column that holds a row's document number.
+    void setNumberColumn(int column) { m_numberColumn = column; }
+    // The current row's document number; empty when none.
+    QString currentNumber() const;
+    // Runs the operation on the current row's document and refreshes after it; deleting asks
+    // "确定删除单据：…吗？" first.
+    void operateOnCurrent(DocumentOperation operation);
+    void deleteCurrent(DocumentOperation operation);
+
 private:
     DateField *m_from = nullptr;
     DateField *m_to = nullptr;
     QComboBox *m_status = nullptr;
+    int m_numberColumn = 0;
 };
 
 // The form of one money entry: labelled fields one under another, Enter moving on, "确定" and

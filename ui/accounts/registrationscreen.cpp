@@ -133,12 +133,6 @@ const accounts::RegistrationRow *RegistrationScreen::current() const
     return row >= 0 && row < m_rows.size() ? &m_rows[row] : nullptr;
 }
 
-QString RegistrationScreen::currentNumber() const
-{
-    const accounts::RegistrationRow *row = current();
-    return row ? row->number : QString();
-}
-
 void RegistrationScreen::add()
 {
     refreshAfter(edit(nullptr));
@@ -159,23 +153,17 @@ void RegistrationScreen::change()
 
 void RegistrationScreen::remove()
 {
-    const QString number = currentNumber();
-    if (!number.isEmpty() && session().ui().ask(QStringLiteral("确定删除单据：%1吗？").arg(number)))
-        refreshAfter(accounts::deleteRegistration(session(), number).ok());
+    deleteCurrent(accounts::deleteRegistration);
 }
 
 void RegistrationScreen::check()
 {
-    const QString number = currentNumber();
-    if (!number.isEmpty())
-        refreshAfter(accounts::checkRegistration(session(), number).ok());
+    operateOnCurrent(accounts::checkRegistration);
 }
 
 void RegistrationScreen::uncheck()
 {
-    const QString number = currentNumber();
-    if (!number.isEmpty())
-        refreshAfter(accounts::uncheckRegistration(session(), number).ok());
+    operateOnCurrent(accounts::uncheckRegistration);
 }
 
 void RegistrationScreen::changeDate()

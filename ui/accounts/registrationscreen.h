@@ -22,8 +22,6 @@ public:
         Workspace &workspace, accounts::RegistrationKind kind, QWidget *parent = nullptr);
 
     CodeNameField *partyField() const { return m_party; }
-    // The number of the list's current row; empty when none.
-    QString currentNumber() const;
 
 public slots:
     void add();
