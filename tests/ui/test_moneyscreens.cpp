@@ -154,6 +154,19 @@ TEST_F(MoneyScreensTest, ACheckedCollectionLowersTheBalanceOnTheLedgerAndItsUnch
     EXPECT_EQ(balanceOf(ledger, customer), 100);
 }
 
+TEST_F(MoneyScreensTest, RecalculationOnTheLedgerRepairsAPartysFigureAfterItsQuestion)
+{
+    owe(100);
+    session().db().exec(QStringLiteral("update jxc_khxx set kh_lwje=7 where kh_sn=?"), { customer });
+    ui::LedgerScreen ledger(workspace(), accounts::PartyKind::Customer);
+    ledger.show();
+    EXPECT_EQ(balanceOf(ledger, customer), 7);
+    ui.answerNext(true);
+    enter(ledger, Qt::Key_F6, {});
+    ASSERT_EQ(ui.asked.size(), 1);
+    EXPECT_EQ(balanceOf(ledger, customer), 100);
+}
+
 TEST_F(MoneyScreensTest, ARefusedCollectionKeepsTheFormAndWritesNothing)
 {
     ui::RegistrationScreen collections(workspace(), accounts::RegistrationKind::Collection);

@@ -243,25 +243,8 @@ void InvoiceScreen::takeBackAll()
 
 void InvoiceScreen::recalculate()
 {
-    MoneyFormDialog form(session(), QStringLiteral("重新计算发票数据"), this);
-    auto *party = new QComboBox(&form);
-    const bool customer = m_kind == PartyKind::Customer;
-    party->addItem(customer ? QStringLiteral("所有客户") : QStringLiteral("所有供货商"), QString());
-    if (!m_party->code().isEmpty())
-        party->addItem(m_party->text(), m_party->code());
-    form.addRow(accounts::texts::partyWord(m_kind), party);
-    DateField *from = form.addDate(QStringLiteral("开始日期"), fromField()->text());
-    form.setSubmit([&] {
-        const QDate date = QDate::fromString(from->text(), Qt::ISODate);
-        if (!date.isValid()) {
-            session().ui().inform(accounts::texts::dateInvalid());
-            return false;
-        }
-        return accounts::recalculateAllInvoices(
-            session(), m_kind, party->currentData().toString(), date)
-            .ok();
-    });
-    refreshAfter(form.exec() == QDialog::Accepted);
+    recalculateParties(QStringLiteral("重新计算发票数据"), m_kind, m_party->code(), m_party->text(),
+        fromField()->text(), accounts::recalculateAllInvoices);
 }
 
 QTabWidget *invoiceWindow(Workspace &workspace, PartyKind kind)

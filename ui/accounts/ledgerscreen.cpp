@@ -118,28 +118,13 @@ void LedgerScreen::fetch()
 
 void LedgerScreen::recalculate()
 {
-    const bool customer = m_kind == accounts::PartyKind::Customer;
-    MoneyFormDialog form(session(),
-        customer ? QStringLiteral("重新计算应收款") : QStringLiteral("重新计算应付款"), this);
-    auto *party = new QComboBox(&form);
-    party->addItem(customer ? QStringLiteral("所有客户") : QStringLiteral("所有供货商"), QString());
     const int row = currentRow();
-    if (row >= 0 && row < m_rows.size())
-        party->addItem(m_rows[row].name, m_rows[row].party);
-    form.addRow(accounts::texts::partyWord(m_kind), party);
-    DateField *from = form.addDate(
-        QStringLiteral("开始日期"), session().clock().today().addYears(-1).toString(Qt::ISODate));
-    form.setSubmit([&] {
-        const QDate date = QDate::fromString(from->text(), Qt::ISODate);
-        if (!date.isValid()) {
-            session().ui().inform(accounts::texts::dateInvalid());
-            return false;
-        }
-        return accounts::recalculateAllLedgers(
-            session(), m_kind, party->currentData().toString(), date)
-            .ok();
-    });
-    refreshAfter(form.exec() == QDialog::Accepted);
+    const bool chosen = row >= 0 && row < m_rows.size();
+    recalculateParties(m_kind == accounts::PartyKind::Customer ? QStringLiteral("重新计算应收款")
+                                                               : QStringLiteral("重新计算应付款"),
+        m_kind, chosen ? m_rows[row].party : QString(), chosen ? m_rows[row].name : QString(),
+        session().clock().today().addYears(-1).toString(Qt::ISODate),
+        accounts::recalculateAllLedgers);
 }
 
 WrittenOffScreen::WrittenOffScreen(Workspace &workspace, accounts::PartyKind kind, QWidget *parent)

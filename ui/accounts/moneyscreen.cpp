@@ -2,6 +2,7 @@
 
 #include "accounts/bankaccounts.h"
 #include "accounts/cashbook.h"
+#include "accounts/texts.h"
 #include "core/interaction.h"
 #include "core/rounding.h"
 #include "shell/rights.h"
@@ -114,6 +115,30 @@ void MoneyListScreen::deleteCurrent(DocumentOperation operation)
     const QString number = currentNumber();
     if (!number.isEmpty() && session().ui().ask(QStringLiteral("确定删除单据：%1吗？").arg(number)))
         refreshAfter(operation(session(), number).ok());
+}
+
+void MoneyListScreen::recalculateParties(const QString &title, accounts::PartyKind kind,
+    const QString &party, const QString &partyName, const QString &from,
+    Recalculation recalculation)
+{
+    MoneyFormDialog form(session(), title, this);
+    auto *parties = new QComboBox(&form);
+    parties->addItem(kind == accounts::PartyKind::Customer ? QStringLiteral("所有客户")
+                                                           : QStringLiteral("所有供货商"),
+        QString());
+    if (!party.isEmpty())
+        parties->addItem(partyName, party);
+    form.addRow(accounts::texts::partyWord(kind), parties);
+    DateField *date = form.addDate(QStringLiteral("开始日期"), from);
+    form.setSubmit([&] {
+        const QDate start = QDate::fromString(date->text(), Qt::ISODate);
+        if (!start.isValid()) {
+            session().ui().inform(accounts::texts::dateInvalid());
+            return false;
+        }
+        return recalculation(session(), kind, parties->currentData().toString(), start).ok();
+    });
+    refreshAfter(form.exec() == QDialog::Accepted);
 }
 
 MoneyFormDialog::MoneyFormDialog(shell::Session &session, const QString &title, QWidget *parent)

@@ -58,6 +58,13 @@ public:
     void operateOnCurrent(DocumentOperation operation);
     void deleteCurrent(DocumentOperation operation);
 
+    using Recalculation
+        = Outcome (*)(shell::Session &, accounts::PartyKind, const QString &, QDate);
+    // The recalculation window: "所有客户" ("所有供货商") or the party given, from a date; the
+    // operation asks its question. Refreshes after it ran.
+    void recalculateParties(const QString &title, accounts::PartyKind kind, const QString &party,
+        const QString &partyName, const QString &from, Recalculation recalculation);
+
 private:
     DateField *m_from = nullptr;
     DateField *m_to = nullptr;
