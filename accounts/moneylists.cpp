@@ -1,10 +1,15 @@
 #include "accounts/moneylists.h"
 
+#include "accounts/invoices.h"
 #include "accounts/statementsupport.h"
 #include "accounts/texts.h"
 #include "core/connection.h"
+#include "core/rounding.h"
 
+#include <QDate>
+#include <QHash>
 #include <QSqlQuery>
+#include <QSqlRecord>
 
 namespace medistock::accounts {
 
@@ -149,6 +154,46 @@ QList<InvoiceRow> invoiceRows(
             text(q, 5), figure(q, 6), figure(q, 7), figure(q, 8), figure(q, 9), text(q, 10),
             text(q, 11), text(q, 12), text(q, 13), q.value(14).toInt() != 0 };
     });
+}
+
+QList<InvoiceSummary> invoiceSummary(
+    core::Connection &connection, PartyKind kind, const MoneyFilter &filter)
+{
+    Query sums;
+    sums.add(QStringLiteral("select fp_ghskh,sum(fp_yfje),sum(fp_kpje) from jxc_fpdjb where "
+                            "fp_check<>0 and fp_type=?"),
+        { partyKindCode(kind) });
+    sums.whereEqual(QStringLiteral("fp_ghskh"), filter.party);
+    whereDates(sums, QStringLiteral("fp_rq"), filter);
+    sums.add(QStringLiteral(" group by fp_ghskh"));
+    QHash<QString, std::pair<double, double>> inRange;
+    connection.forEach(sums.sql, sums.params, [&](const QSqlQuery &q) {
+        inRange.insert(text(q, 0), { figure(q, 1), figure(q, 2) });
+    });
+    const QDate from = QDate::fromString(filter.from, Qt::ISODate);
+    const bool customer = kind == PartyKind::Customer;
+    const QString prefix = customer ? QStringLiteral("kh_") : QStringLiteral("ghs_");
+    Query parties;
+    parties.add(
+        QStringLiteral("select %1sn,%1name from %2 where %1forbid=0")
+            .arg(prefix, customer ? QStringLiteral("jxc_khxx") : QStringLiteral("jxc_ghsxx")));
+    parties.whereEqual(prefix + QStringLiteral("sn"), filter.party);
+    parties.add(QStringLiteral(" order by %1sn").arg(prefix));
+    QList<InvoiceSummary> rows;
+    for (const QSqlRecord &p : connection.rows(parties.sql, parties.params)) {
+        InvoiceSummary row { p.value(0).toString(), p.value(1).toString() };
+        if (from.isValid())
+            row.opening = invoiceBalanceAsOf(
+                connection, kind, row.party, from.addDays(-1).toString(Qt::ISODate));
+        const auto found = inRange.constFind(row.party);
+        if (found == inRange.cend() && row.opening == 0)
+            continue;
+        if (found != inRange.cend())
+            std::tie(row.due, row.invoiced) = *found;
+        row.outstanding = core::roundTo(row.opening + row.due - row.invoiced, 8) + 0.0;
+        rows.append(row);
+    }
+    return rows;
 }
 
 QList<CashMovement> cashMovements(core::Connection &connection, const MoneyFilter &filter)

@@ -113,6 +113,22 @@ struct InvoiceRow
 QList<InvoiceRow> invoiceRows(
     core::Connection &connection, PartyKind kind, const MoneyFilter &filter);
 
+// "发票汇总": per party not forbidden, the balance still to be invoiced before the range
+// ("期初应开", from the last counted row before it), what the range added and invoiced, and what
+// remains: opening + due - invoiced. Parties with neither an opening nor a row in the range are
+// left out; by party code.
+struct InvoiceSummary
+{
+    QString party;
+    QString partyName;
+    double opening = 0;
+    double due = 0;
+    double invoiced = 0;
+    double outstanding = 0;
+};
+QList<InvoiceSummary> invoiceSummary(
+    core::Connection &connection, PartyKind kind, const MoneyFilter &filter);
+
 struct CashMovement
 {
     qint64 id = 0;

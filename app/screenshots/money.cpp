@@ -190,6 +190,8 @@ void shootMoney(const Shots &shots, ui::MainWindow &window, ui::Workspace &works
         [invoices] { invoices->addInvoicing(); });
     current<ui::InvoiceScreen>(window, 1);
     shots.shoot(&window, QStringLiteral("%1-invoices-set-aside").arg(n++));
+    current<ui::InvoiceSummaryScreen>(window, 2);
+    shots.shoot(&window, QStringLiteral("%1-invoice-summary").arg(n++));
     window.openOperation(area, 12);
     current<ui::InvoiceScreen>(window, 0);
     shots.shoot(&window, QStringLiteral("%1-purchase-invoices").arg(n++));

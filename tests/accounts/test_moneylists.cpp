@@ -124,6 +124,40 @@ TEST_F(MoneyListsTest, InvoiceRowsCountedInOrderAndSetAsideOnesApart)
     EXPECT_EQ(invoiceRows(db(), PartyKind::Supplier, {}).size(), 0);
 }
 
+TEST_F(MoneyListsTest, TheInvoiceSummaryCarriesTheOpeningIntoWhatRemainsToBeInvoiced)
+{
+    setParameter(QStringLiteral("cs_shdj"), 1);
+    InvoicingDraft draft;
+    draft.party = customer();
+    draft.date = QStringLiteral("2025-02-20");
+    draft.amount = 30;
+    saved(addInvoicing(session(), draft));
+    draft.date = QStringLiteral("2025-03-10");
+    draft.amount = 25;
+    saved(addInvoicing(session(), draft));
+    setParameter(QStringLiteral("cs_shdj"), 0);
+    draft.amount = 5; // set aside: counts nowhere
+    saved(addInvoicing(session(), draft));
+    // The row of a checked document: 100 to invoice, 30 of it invoiced already.
+    db().exec(QStringLiteral("update jxc_fpdjb set fp_yfje=100 where fp_rq=?"),
+        { QStringLiteral("2025-02-20") });
+    recalculateInvoices(db(), PartyKind::Customer, customer(), QStringLiteral("2025-01-01"));
+
+    const MoneyFilter march { QStringLiteral("2025-03-01"), QStringLiteral("2025-03-31") };
+    const auto rows = invoiceSummary(db(), PartyKind::Customer, march);
+    ASSERT_EQ(rows.size(), 1);
+    EXPECT_EQ(rows[0].party, customer());
+    EXPECT_EQ(rows[0].opening, 70);
+    EXPECT_EQ(rows[0].due, 0);
+    EXPECT_EQ(rows[0].invoiced, 25);
+    EXPECT_EQ(rows[0].outstanding, 45);
+    const MoneyFilter april { QStringLiteral("2025-04-01"), QStringLiteral("2025-04-30") };
+    ASSERT_EQ(invoiceSummary(db(), PartyKind::Customer, april).size(), 1);
+    EXPECT_EQ(invoiceSummary(db(), PartyKind::Customer, april)[0].outstanding, 45);
+    const MoneyFilter january { QStringLiteral("2025-01-01"), QStringLiteral("2025-01-31") };
+    EXPECT_EQ(invoiceSummary(db(), PartyKind::Customer, january).size(), 0);
+}
+
 TEST_F(MoneyListsTest, CashMovementsShowTheBalanceOfCountedRowsOnly)
 {
     const QString in = movement(MovementKind::Receipt, "2025-03-14", 200);

@@ -157,7 +157,8 @@ TEST_F(MoneyScreensTest, ACheckedCollectionLowersTheBalanceOnTheLedgerAndItsUnch
 TEST_F(MoneyScreensTest, RecalculationOnTheLedgerRepairsAPartysFigureAfterItsQuestion)
 {
     owe(100);
-    session().db().exec(QStringLiteral("update jxc_khxx set kh_lwje=7 where kh_sn=?"), { customer });
+    session().db().exec(
+        QStringLiteral("update jxc_khxx set kh_lwje=7 where kh_sn=?"), { customer });
     ui::LedgerScreen ledger(workspace(), accounts::PartyKind::Customer);
     ledger.show();
     EXPECT_EQ(balanceOf(ledger, customer), 7);
@@ -306,6 +307,11 @@ TEST_F(MoneyScreensTest, EveryListExportsWhatItShows)
         { { QStringLiteral("客户"), customer },
             { QStringLiteral("开票金额"), QStringLiteral("40") } });
     expectExportRoundTrip(invoices, QStringLiteral("发票台账"));
+    ui::InvoiceSummaryScreen summary(workspace(), accounts::PartyKind::Customer);
+    summary.run();
+    ASSERT_EQ(summary.model()->dataRows(), 1);
+    EXPECT_EQ(summary.model()->value(0, 5).toDouble(), -40);
+    expectExportRoundTrip(summary, QStringLiteral("发票汇总"));
 
     ui::CashBookScreen book(workspace());
     book.run();

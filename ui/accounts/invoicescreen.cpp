@@ -247,6 +247,33 @@ void InvoiceScreen::recalculate()
         fromField()->text(), accounts::recalculateAllInvoices);
 }
 
+InvoiceSummaryScreen::InvoiceSummaryScreen(Workspace &workspace, PartyKind kind, QWidget *parent)
+    : MoneyListScreen(workspace, QStringLiteral("发票汇总"), parent)
+    , m_kind(kind)
+    , m_party(makePartyField(workspace.session, tableOf(kind), this))
+{
+    addRangeFilters();
+    addFilter(partyLabel(tableOf(kind)), m_party);
+    connect(m_party, &CodeNameField::chosen, this, &QueryScreen::run);
+    const QString who = accounts::texts::partyWord(kind);
+    setColumns({ { who + QStringLiteral("编号") },
+                   { who + QStringLiteral("名称"), QueryColumn::Kind::Text, 0, false, 220 },
+                   money(QStringLiteral("期初应开")), money(QStringLiteral("应开金额")),
+                   money(QStringLiteral("开票金额")), money(QStringLiteral("未开金额")) },
+        QStringLiteral("invoice-summary-") + accounts::partyKindCode(kind));
+}
+
+void InvoiceSummaryScreen::fetch()
+{
+    accounts::MoneyFilter filter = baseFilter();
+    filter.party = m_party->code();
+    QList<QVariantList> rows;
+    for (const accounts::InvoiceSummary &r :
+        accounts::invoiceSummary(session().db(), m_kind, filter))
+        rows.append({ r.party, r.partyName, r.opening, r.due, r.invoiced, r.outstanding });
+    setRows(rows);
+}
+
 QTabWidget *invoiceWindow(Workspace &workspace, PartyKind kind)
 {
     auto *tabs = new QTabWidget;
@@ -254,6 +281,9 @@ QTabWidget *invoiceWindow(Workspace &workspace, PartyKind kind)
     auto *aside = new InvoiceScreen(workspace, kind, false, tabs);
     tabs->addTab(counted, QStringLiteral("发票台账"));
     tabs->addTab(aside, QStringLiteral("待处理发票"));
+    auto *summary = new InvoiceSummaryScreen(workspace, kind, tabs);
+    tabs->addTab(summary, QStringLiteral("发票汇总"));
+    summary->run();
     tabs->setFocusProxy(counted);
     counted->run();
     aside->run();

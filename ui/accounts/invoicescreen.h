@@ -14,7 +14,8 @@ class CodeNameField;
 // after each; F2 adds an invoicing ("增加发票", showing the party's balance), F3 changes one,
 // F4 writes the invoice onto a document's row ("发票登记"), F7 sets a row aside, Del deletes it,
 // F9 recalculates from a date. The other tab holds the set-aside rows, newest first: F6 takes
-// one back (the kind's check right), F9 takes back all of them after the question.
+// one back (the kind's check right), F9 takes back all of them after the question. A third tab
+// sums the register per party ("发票汇总").
 class InvoiceScreen : public MoneyListScreen
 {
     Q_OBJECT
@@ -45,6 +46,22 @@ private:
     bool m_counted;
     CodeNameField *m_party;
     QList<accounts::InvoiceRow> m_rows;
+};
+
+// "发票汇总": per party, the opening amount still to be invoiced ("期初应开"), what the range
+// added and invoiced, and what remains.
+class InvoiceSummaryScreen : public MoneyListScreen
+{
+    Q_OBJECT
+public:
+    InvoiceSummaryScreen(Workspace &workspace, accounts::PartyKind kind, QWidget *parent = nullptr);
+
+protected:
+    void fetch() override;
+
+private:
+    accounts::PartyKind m_kind;
+    CodeNameField *m_party;
 };
 
 QTabWidget *invoiceWindow(Workspace &workspace, accounts::PartyKind kind);
