@@ -24,12 +24,6 @@ namespace {
 
 using accounts::PartyKind;
 
-documents::PartyTable tableOf(PartyKind kind)
-{
-    return kind == PartyKind::Customer ? documents::PartyTable::Customer
-                                       : documents::PartyTable::Supplier;
-}
-
 QueryColumn money(const QString &caption, bool summed = true)
 {
     return { caption, QueryColumn::Kind::Number, 2, summed };
@@ -55,12 +49,10 @@ InvoiceScreen::InvoiceScreen(Workspace &workspace, PartyKind kind, bool counted,
         parent)
     , m_kind(kind)
     , m_counted(counted)
-    , m_party(makePartyField(workspace.session, tableOf(kind), this))
 {
     addRangeFilters();
     fromField()->setText(session().clock().today().addYears(-1).toString(Qt::ISODate));
-    addFilter(partyLabel(tableOf(kind)), m_party);
-    connect(m_party, &CodeNameField::chosen, this, &QueryScreen::run);
+    m_party = addPartyFilter(kind);
     const int right = screenRight(kind);
     if (counted) {
         addOperation(
@@ -142,8 +134,8 @@ bool InvoiceScreen::editInvoicing(const accounts::InvoiceRow *row)
         (row ? QStringLiteral("修改") : QStringLiteral("增加"))
             + (customer ? QStringLiteral("销售发票") : QStringLiteral("进货发票")),
         this);
-    auto *who = makePartyField(session(), tableOf(m_kind), &form);
-    form.addRow(partyLabel(tableOf(m_kind)), who);
+    auto *who = makePartyField(session(), partyTableOf(m_kind), &form);
+    form.addRow(partyLabel(partyTableOf(m_kind)), who);
     auto *balance = new QLabel(&form);
     form.addRow(QStringLiteral("未开金额"), balance);
     const auto showBalance = [this, balance](const QString &party) {
@@ -250,11 +242,9 @@ void InvoiceScreen::recalculate()
 InvoiceSummaryScreen::InvoiceSummaryScreen(Workspace &workspace, PartyKind kind, QWidget *parent)
     : MoneyListScreen(workspace, QStringLiteral("发票汇总"), parent)
     , m_kind(kind)
-    , m_party(makePartyField(workspace.session, tableOf(kind), this))
 {
     addRangeFilters();
-    addFilter(partyLabel(tableOf(kind)), m_party);
-    connect(m_party, &CodeNameField::chosen, this, &QueryScreen::run);
+    m_party = addPartyFilter(kind);
     const QString who = accounts::texts::partyWord(kind);
     setColumns({ { who + QStringLiteral("编号") },
                    { who + QStringLiteral("名称"), QueryColumn::Kind::Text, 0, false, 220 },

@@ -44,7 +44,7 @@ private:
 
     accounts::PartyKind m_kind;
     bool m_counted;
-    CodeNameField *m_party;
+    CodeNameField *m_party = nullptr;
     QList<accounts::InvoiceRow> m_rows;
 };
 
@@ -61,7 +61,7 @@ protected:
 
 private:
     accounts::PartyKind m_kind;
-    CodeNameField *m_party;
+    CodeNameField *m_party = nullptr;
 };
 
 QTabWidget *invoiceWindow(Workspace &workspace, accounts::PartyKind kind);

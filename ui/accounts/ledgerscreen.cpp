@@ -19,12 +19,6 @@ namespace medistock::ui {
 
 namespace {
 
-documents::PartyTable tableOf(accounts::PartyKind kind)
-{
-    return kind == accounts::PartyKind::Customer ? documents::PartyTable::Customer
-                                                 : documents::PartyTable::Supplier;
-}
-
 QueryColumn money(const QString &caption, bool summed = true)
 {
     return { caption, QueryColumn::Kind::Number, 2, summed };
@@ -130,11 +124,9 @@ void LedgerScreen::recalculate()
 WrittenOffScreen::WrittenOffScreen(Workspace &workspace, accounts::PartyKind kind, QWidget *parent)
     : MoneyListScreen(workspace, QStringLiteral("抹零金额"), parent)
     , m_kind(kind)
-    , m_party(makePartyField(workspace.session, tableOf(kind), this))
 {
     addRangeFilters();
-    addFilter(partyLabel(tableOf(kind)), m_party);
-    connect(m_party, &CodeNameField::chosen, this, &QueryScreen::run);
+    m_party = addPartyFilter(kind);
     const QString who = accounts::texts::partyWord(kind);
     setColumns({ { QStringLiteral("日期") },
                    { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },

@@ -68,7 +68,7 @@ protected:
 
 private:
     accounts::PartyKind m_kind;
-    CodeNameField *m_party;
+    CodeNameField *m_party = nullptr;
 };
 
 // The window of "应收帐表" / "应付帐表": the balances with their ledger, and the written-off

@@ -7,11 +7,13 @@
 #include "core/rounding.h"
 #include "shell/rights.h"
 #include "shell/session.h"
+#include "ui/common/codenamefield.h"
 #include "ui/common/datefield.h"
 #include "ui/common/keys.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
+#include "ui/documents/pickers.h"
 
 #include <QComboBox>
 #include <QDate>
@@ -73,6 +75,20 @@ void MoneyListScreen::addStatusFilter()
     m_status->addItems({ texts::all(), QStringLiteral("未审核"), QStringLiteral("已审核") });
     addFilter(QStringLiteral("状态"), m_status);
     connect(m_status, &QComboBox::currentIndexChanged, this, &QueryScreen::run);
+}
+
+documents::PartyTable partyTableOf(accounts::PartyKind kind)
+{
+    return kind == accounts::PartyKind::Customer ? documents::PartyTable::Customer
+                                                 : documents::PartyTable::Supplier;
+}
+
+CodeNameField *MoneyListScreen::addPartyFilter(accounts::PartyKind kind)
+{
+    CodeNameField *party = makePartyField(session(), partyTableOf(kind), this);
+    addFilter(partyLabel(partyTableOf(kind)), party);
+    connect(party, &CodeNameField::chosen, this, &QueryScreen::run);
+    return party;
 }
 
 accounts::MoneyFilter MoneyListScreen::baseFilter() const

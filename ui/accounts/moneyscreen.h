@@ -2,6 +2,7 @@
 
 #include "accounts/moneylists.h"
 #include "core/numbers.h"
+#include "documents/descriptor.h"
 #include "ui/common/queryscreen.h"
 
 #include <QDialog>
@@ -16,7 +17,11 @@ class QPushButton;
 
 namespace medistock::ui {
 
+class CodeNameField;
 class DateField;
+
+// The party table of the customers ("kh") or suppliers ("ghs") for the shared pickers.
+documents::PartyTable partyTableOf(accounts::PartyKind kind);
 
 // The money screens share one shape: a list (a QueryScreen, so totals, "记录数" and the export
 // come with it) with the date range and status filters where the list has them, and the
@@ -40,6 +45,8 @@ public:
     // The range (the last month up to today), and the status ("全部", "未审核", "已审核").
     void addRangeFilters();
     void addStatusFilter();
+    // The customer or supplier filter (all when empty); choosing one runs the list.
+    CodeNameField *addPartyFilter(accounts::PartyKind kind);
     DateField *fromField() const { return m_from; }
     DateField *toField() const { return m_to; }
     QComboBox *statusBox() const { return m_status; }

@@ -23,13 +23,6 @@ bool isEntry(RegistrationKind kind)
     return kind == RegistrationKind::Receivable || kind == RegistrationKind::Payable;
 }
 
-documents::PartyTable partyTable(RegistrationKind kind)
-{
-    return accounts::registrationParty(kind) == accounts::PartyKind::Customer
-        ? documents::PartyTable::Customer
-        : documents::PartyTable::Supplier;
-}
-
 // The check right of each kind in "往来帐款".
 int checkRight(RegistrationKind kind)
 {
@@ -89,12 +82,10 @@ RegistrationScreen::RegistrationScreen(
     Workspace &workspace, accounts::RegistrationKind kind, QWidget *parent)
     : MoneyListScreen(workspace, kindTitle(kind), parent)
     , m_kind(kind)
-    , m_party(makePartyField(workspace.session, partyTable(kind), this))
 {
     addRangeFilters();
-    addFilter(partyLabel(partyTable(kind)), m_party);
+    m_party = addPartyFilter(accounts::registrationParty(kind));
     addStatusFilter();
-    connect(m_party, &CodeNameField::chosen, this, &QueryScreen::run);
     addOperation(
         QStringLiteral("新增"), Qt::Key_F2, [this] { add(); }, "wlzk", saveRight(kind));
     addOperation(
@@ -184,8 +175,8 @@ bool RegistrationScreen::edit(const accounts::RegistrationRow *row)
     const accounts::PartyKind party = accounts::registrationParty(m_kind);
     namespace t = accounts::texts;
     MoneyFormDialog form(session(), kindTitle(m_kind), this);
-    auto *who = makePartyField(session(), partyTable(m_kind), &form);
-    form.addRow(partyLabel(partyTable(m_kind)), who);
+    auto *who = makePartyField(session(), partyTableOf(accounts::registrationParty(m_kind)), &form);
+    form.addRow(partyLabel(partyTableOf(accounts::registrationParty(m_kind))), who);
     DateField *date = form.addDate(QStringLiteral("日期"), row ? row->date : session().today());
     QLineEdit *due = nullptr;
     QLineEdit *discount = nullptr;

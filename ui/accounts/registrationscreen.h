@@ -40,7 +40,7 @@ private:
     const accounts::RegistrationRow *current() const;
 
     accounts::RegistrationKind m_kind;
-    CodeNameField *m_party;
+    CodeNameField *m_party = nullptr;
     QList<accounts::RegistrationRow> m_rows;
 };
 
