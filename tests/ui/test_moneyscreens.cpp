@@ -324,3 +324,71 @@ TEST_F(MoneyScreensTest, EveryListExportsWhatItShows)
     enter(expenses, Qt::Key_F3, { { QStringLiteral("金额"), QStringLiteral("12.5") } });
     expectExportRoundTrip(expenses, QStringLiteral("费用及收入"));
 }
+
+TEST_F(MoneyScreensTest, ATransferMovesMoneyBetweenTwoAccountsOnceChecked)
+{
+    ui::CashBookScreen book(workspace());
+    book.show();
+    book.accountBox()->setCurrentIndex(0); // all accounts
+    enter(book, Qt::Key_F4,
+        { { QStringLiteral("金额"), QStringLiteral("500") },
+            { QStringLiteral("转出账户"), QStringLiteral("现金") },
+            { QStringLiteral("转入账户"), QStringLiteral("工行帐号") } });
+    ui::BankAccountsScreen accountsScreen(workspace());
+    accountsScreen.run();
+    EXPECT_EQ(accountsScreen.model()->value(0, 4).toDouble(), 0); // not counted before its check
+    const int row = book.model()->dataRows() - 1;
+    ASSERT_GE(row, 1) << ui.informed.join('\n').toStdString();
+    book.grid()->selectRow(row);
+    press(book, Qt::Key_F6);
+    accountsScreen.run();
+    EXPECT_EQ(accountsScreen.model()->text(0, 1), QStringLiteral("现金"));
+    EXPECT_EQ(accountsScreen.model()->value(0, 4).toDouble(), -500);
+    EXPECT_EQ(accountsScreen.model()->text(1, 1), QStringLiteral("工行帐号"));
+    EXPECT_EQ(accountsScreen.model()->value(1, 4).toDouble(), 500);
+}
+
+TEST_F(MoneyScreensTest, ANewDateOnACheckedCollectionMovesItsLedgerRow)
+{
+    owe(100);
+    accounts::RegistrationDraft draft;
+    draft.kind = accounts::RegistrationKind::Collection;
+    draft.party = customer;
+    draft.date = session().clock().today().addDays(-3).toString(Qt::ISODate);
+    draft.paid = 40;
+    draft.account = QStringLiteral("现金");
+    const auto number = accounts::saveRegistration(session(), draft);
+    ASSERT_TRUE(number.ok());
+    ASSERT_TRUE(accounts::checkRegistration(session(), number.value()).ok());
+
+    ui::RegistrationScreen collections(workspace(), accounts::RegistrationKind::Collection);
+    collections.show();
+    collections.run();
+    collections.grid()->selectRow(0);
+    enter(collections, Qt::Key_F4, { { QStringLiteral("新日期"), session().today() } });
+    EXPECT_EQ(collections.model()->text(0, 1), session().today());
+    ui::LedgerScreen ledger(workspace(), accounts::PartyKind::Customer);
+    ledger.run();
+    ledger.grid()->selectRow(0);
+    const ui::QueryModel &rows = *ledger.ledger()->model();
+    ASSERT_EQ(rows.dataRows(), 2);
+    EXPECT_EQ(rows.text(0, 2), QStringLiteral("增加应收款")); // the entry now comes first
+    EXPECT_EQ(rows.value(0, 7).toDouble(), 100);
+    EXPECT_EQ(rows.value(1, 7).toDouble(), 60);
+}
+
+TEST_F(MoneyScreensTest, WithoutTheCheckRightTheCheckButtonsAreOffWithTheirTooltip)
+{
+    addOperatorWithRights(
+        QStringLiteral("小李"), { { QStringLiteral("wlzk"), QStringLiteral("11") } });
+    switchOperator(QStringLiteral("小李"));
+    ui::RegistrationScreen collections(workspace(), accounts::RegistrationKind::Collection);
+    QAbstractButton *add = test::buttonNamed(&collections, QStringLiteral("新增(F2)"));
+    QAbstractButton *check = test::buttonNamed(&collections, QStringLiteral("审核(F6)"));
+    QAbstractButton *uncheck = test::buttonNamed(&collections, QStringLiteral("取消审核(F7)"));
+    ASSERT_TRUE(add && check && uncheck);
+    EXPECT_TRUE(add->isEnabled());
+    EXPECT_FALSE(check->isEnabled());
+    EXPECT_FALSE(uncheck->isEnabled());
+    EXPECT_EQ(check->toolTip(), QStringLiteral("您没有此项操作的权限"));
+}
