@@ -5,6 +5,7 @@
 #include "app/screenshots/documents.h"
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/loans.h"
+#include "app/screenshots/stock.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "app/screenshots/money.h"
@@ -312,6 +313,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
+    shootStock(shots, window, workspace);
     shootMoney(shots, window, workspace);
 }
 
