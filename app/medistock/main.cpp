@@ -60,6 +60,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerReportScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
+    ui::registerMoneyScreens(registry);
     ui::registerPosScreens(registry);
 }
 

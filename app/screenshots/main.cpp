@@ -8,6 +8,7 @@
 #include "app/screenshots/stock.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/money.h"
 #include "app/screenshots/pos.h"
 #include "app/screenshots/reports.h"
 #include "app/screenshots/sales.h"
@@ -276,6 +277,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerReportScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
+    ui::registerMoneyScreens(registry);
     ui::registerPosScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
@@ -312,6 +314,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
     shootStock(shots, window, workspace);
+    shootMoney(shots, window, workspace);
 }
 
 } // namespace
