@@ -34,7 +34,8 @@ double firstNumber(core::Connection &connection, const QString &sql, const QVari
 const RunningBook &ledgerBook()
 {
     static const RunningBook book { "jxc_ysyfk", "k_ljje", "k_rq",
-        "coalesce(k_qcje,0)+coalesce(k_yfje,0)-coalesce(k_sfje,0)", "k_type=? and k_ghskh=?", "k_type,k_ghskh" };
+        "coalesce(k_qcje,0)+coalesce(k_yfje,0)-coalesce(k_sfje,0)", "k_type=? and k_ghskh=?",
+        "k_type,k_ghskh" };
     return book;
 }
 
@@ -106,9 +107,9 @@ QList<QVariantList> chainsOf(core::Connection &connection, const RunningBook &bo
     const QString keys = name(book.keys);
     const int count = int(keys.count(QLatin1Char(',')) + 1);
     QList<QVariantList> chains;
-    connection.forEach(QStringLiteral("select %1 from %2 group by %1 order by %1")
-                           .arg(keys, name(book.table)),
-        {}, [&](const QSqlQuery &q) {
+    connection.forEach(
+        QStringLiteral("select %1 from %2 group by %1 order by %1").arg(keys, name(book.table)), {},
+        [&](const QSqlQuery &q) {
             QVariantList chain;
             for (int i = 0; i < count; ++i)
                 chain.append(q.value(i).toString());

@@ -51,11 +51,12 @@ Outcome writeBackup(
 {
     if (!QDir().mkpath(QFileInfo(target).absolutePath()))
         return core::refuse(session.ui(),
-            QStringLiteral("不能建立备份文件夹“%1”。").arg(shown(QFileInfo(target).absolutePath())));
+            QStringLiteral("不能建立备份文件夹“%1”。")
+                .arg(shown(QFileInfo(target).absolutePath())));
     const QString partial = target + QStringLiteral(".part");
     QFile::remove(partial);
-    const QString copied = copyDatabase(session.db().filePath(), partial, CopyMode::ToNewFile,
-        progress);
+    const QString copied
+        = copyDatabase(session.db().filePath(), partial, CopyMode::ToNewFile, progress);
     QString refusal = copied.isEmpty() ? core::verifyDatabaseFile(partial) : copied;
     if (refusal.isEmpty() && QFile::exists(target) && !QFile::remove(target))
         refusal = QStringLiteral("不能替换已有的备份文件“%1”。").arg(shown(target));
@@ -117,7 +118,8 @@ Result<QString> restoreAccountSet(
         return allowed;
     const QString file = QFileInfo(source).absoluteFilePath();
     if (!QFileInfo::exists(file))
-        return core::refuse(session.ui(), badBackupText(QStringLiteral("备份文件不存在：") + shown(file)));
+        return core::refuse(
+            session.ui(), badBackupText(QStringLiteral("备份文件不存在：") + shown(file)));
     if (QFileInfo(file) == QFileInfo(session.db().filePath()))
         return core::refuse(session.ui(), badBackupText(QStringLiteral("这是当前帐套文件本身。")));
     QString refusal = core::inspectDatabaseFile(file);
@@ -125,9 +127,10 @@ Result<QString> restoreAccountSet(
         refusal = core::verifyDatabaseFile(file);
     if (!refusal.isEmpty())
         return core::refuse(session.ui(), badBackupText(refusal));
-    if (!session.ui().ask(QStringLiteral("从备份文件恢复帐套数据：\r\n%1\r\n当前帐套的全部数据将被备份"
-                                         "文件里的数据替换（替换前的数据另存一份），确认吗？")
-                              .arg(shown(file))))
+    if (!session.ui().ask(
+            QStringLiteral("从备份文件恢复帐套数据：\r\n%1\r\n当前帐套的全部数据将被备份"
+                           "文件里的数据替换（替换前的数据另存一份），确认吗？")
+                .arg(shown(file))))
         return Outcome::refused(QString());
     const QString kept = QDir(backupFolder(setFolder(session)))
                              .filePath(baseName(session) + QStringLiteral("_before_restore_")
@@ -158,16 +161,16 @@ Result<QString> dailyBackup(const shell::Session &session)
         return QString();
     const QDir folder(backupFolder(setFolder(session)));
     const QString prefix = baseName(session) + QStringLiteral("_auto_");
-    const QString file = folder.filePath(
-        prefix + session.clock().today().toString(QStringLiteral("yyyyMMdd")) + QStringLiteral(".db"));
+    const QString file = folder.filePath(prefix
+        + session.clock().today().toString(QStringLiteral("yyyyMMdd")) + QStringLiteral(".db"));
     if (QFileInfo::exists(file))
         return QString();
     const Outcome written = writeBackup(session, file, {});
     if (!written)
         return written;
     // The date in the name sorts as text; the newest come first.
-    const QStringList daily = folder.entryList({ prefix + QStringLiteral("*.db") }, QDir::Files,
-        QDir::Name | QDir::Reversed);
+    const QStringList daily = folder.entryList(
+        { prefix + QStringLiteral("*.db") }, QDir::Files, QDir::Name | QDir::Reversed);
     for (qsizetype i = kept; i < daily.size(); ++i)
         QFile::remove(folder.filePath(daily.at(i)));
     return file;

@@ -13,10 +13,10 @@ const accounts::RunningBook *const books[]
 QString partyLabel(core::Connection &db, const QString &kind, const QString &code)
 {
     const bool customer = kind == QLatin1String("kh");
-    const QString name = db.firstText(customer
-            ? QStringLiteral("select kh_name from jxc_khxx where kh_sn=?")
-            : QStringLiteral("select ghs_name from jxc_ghsxx where ghs_sn=?"),
-        { code });
+    const QString name
+        = db.firstText(customer ? QStringLiteral("select kh_name from jxc_khxx where kh_sn=?")
+                                : QStringLiteral("select ghs_name from jxc_ghsxx where ghs_sn=?"),
+            { code });
     return (customer ? QStringLiteral("客户 ") : QStringLiteral("供货商 ")) + code
         + (name.isEmpty() ? QString() : QLatin1Char(' ') + name);
 }
@@ -51,8 +51,8 @@ QList<BalanceDrift> balanceDrifts(core::Connection &db, int &rowsChecked)
 QString describe(core::Connection &db, const BalanceDrift &drift)
 {
     const QString table = QString::fromLatin1(drift.book->table);
-    const QString number = db.firstText(
-        QStringLiteral("select gl_djh from %1 where id=?").arg(table), { drift.id });
+    const QString number
+        = db.firstText(QStringLiteral("select gl_djh from %1 where id=?").arg(table), { drift.id });
     return QStringLiteral("%1 %2 %3：余额 帐上 %4，重算 %5")
         .arg(chainLabel(db, drift), number, drift.date, core::plainNumber(drift.stored),
             core::plainNumber(drift.computed));

@@ -165,9 +165,9 @@ QString describe(core::Connection &db, const LedgerDrift &drift)
 {
     QStringList parts;
     for (const auto &[label, figures] : drift.figures)
-        parts.append(QStringLiteral("%1 帐上 %2，重算 %3")
-                         .arg(label, core::plainNumber(figures.first),
-                             core::plainNumber(figures.second)));
+        parts.append(
+            QStringLiteral("%1 帐上 %2，重算 %3")
+                .arg(label, core::plainNumber(figures.first), core::plainNumber(figures.second)));
     return QStringLiteral("流水账 %1 %2（%3，%4）：%5")
         .arg(drift.number, drift.date, goodsLabel(db, drift.goods),
             warehouseLabel(db, drift.warehouse), parts.join(QStringLiteral("；")));

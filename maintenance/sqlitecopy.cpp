@@ -44,9 +44,11 @@ int runSteps(sqlite3_backup *backup, const CopyProgress &progress)
             sqlite3_sleep(50);
             continue;
         }
+        const int total = sqlite3_backup_pagecount(backup);
+        if (rc == SQLITE_DONE && progress)
+            progress(total, total);
         if (rc != SQLITE_OK)
             return rc;
-        const int total = sqlite3_backup_pagecount(backup);
         if (progress && !progress(total - sqlite3_backup_remaining(backup), total))
             return SQLITE_INTERRUPT;
     }
@@ -73,14 +75,13 @@ QString copyDatabase(
     Handle source, target;
     if (!open(source, from, SQLITE_OPEN_READONLY))
         return failedText(to, source.error());
-    const int targetFlags = mode == CopyMode::ToNewFile
-        ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
-        : SQLITE_OPEN_READWRITE;
+    const int targetFlags = mode == CopyMode::ToNewFile ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
+                                                        : SQLITE_OPEN_READWRITE;
     if (!open(target, to, targetFlags))
         return failedText(to, target.error());
     // One read snapshot for the whole copy.
-    if (sqlite3_exec(source.db, "begin; select count(*) from sqlite_master;", nullptr, nullptr,
-            nullptr)
+    if (sqlite3_exec(
+            source.db, "begin; select count(*) from sqlite_master;", nullptr, nullptr, nullptr)
         != SQLITE_OK)
         return failedText(to, source.error());
     sqlite3_backup *backup = sqlite3_backup_init(target.db, "main", source.db, "main");

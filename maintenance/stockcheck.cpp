@@ -83,7 +83,8 @@ QList<StockDrift> stockDrifts(core::Connection &db)
         });
     db.forEach(QStringLiteral("select g_sn,ck_sn,kc_sl from jxc_kcsp where g_sn<>?"), { discount },
         [&](const QSqlQuery &q) {
-            Sums::add(warehouse.stored, { q.value(0).toString(), q.value(1).toString(), {}, {}, {} },
+            Sums::add(warehouse.stored,
+                { q.value(0).toString(), q.value(1).toString(), {}, {}, {} },
                 q.value(2).toDouble());
         });
     db.forEach(
@@ -96,7 +97,8 @@ QList<StockDrift> stockDrifts(core::Connection &db)
         });
     db.forEach(QStringLiteral("select g_sn,g_kc from jxc_goods where g_sn<>?"), { discount },
         [&](const QSqlQuery &q) {
-            Sums::add(goods.stored, { q.value(0).toString(), {}, {}, {}, {} }, q.value(1).toDouble());
+            Sums::add(
+                goods.stored, { q.value(0).toString(), {}, {}, {}, {} }, q.value(1).toDouble());
         });
     QList<StockDrift> drifts;
     compare(Area::Warehouse, warehouse, drifts);
@@ -107,9 +109,9 @@ QList<StockDrift> stockDrifts(core::Connection &db)
 
 QString describe(core::Connection &db, const StockDrift &drift)
 {
-    const QString figures = QStringLiteral("库存 %1，流水账合计 %2")
-                                .arg(core::plainNumber(drift.stored),
-                                    core::plainNumber(drift.ledger));
+    const QString figures
+        = QStringLiteral("库存 %1，流水账合计 %2")
+              .arg(core::plainNumber(drift.stored), core::plainNumber(drift.ledger));
     const QString goods = goodsLabel(db, drift.key.goods);
     switch (drift.area) {
     case Area::Warehouse:
@@ -117,8 +119,8 @@ QString describe(core::Connection &db, const StockDrift &drift)
             .arg(goods, warehouseLabel(db, drift.key.warehouse), figures);
     case Area::Batch:
         return QStringLiteral("批次库存（%1，%2，批号 %3，有效期至 %4，生产日期 %5）：%6")
-            .arg(goods, warehouseLabel(db, drift.key.warehouse), drift.key.batch,
-                drift.key.expiry, drift.key.produced, figures);
+            .arg(goods, warehouseLabel(db, drift.key.warehouse), drift.key.batch, drift.key.expiry,
+                drift.key.produced, figures);
     default:
         return QStringLiteral("商品库存（%1）：%2").arg(goods, figures);
     }

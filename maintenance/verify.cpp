@@ -98,7 +98,8 @@ void checkDifferences(const shell::Session &session, VerifyReport &report)
         const double expected = row.openingAmount + row.inAmount - row.outAmount;
         report.differences.append({ Area::Difference,
             QStringLiteral("进销存差额（%1）：期初加入库减出库 %2，流水账结存金额 %3，差额：%4")
-                .arg(goodsLabel(db, row.goods), core::plainNumber(session.params().roundAmount(expected)),
+                .arg(goodsLabel(db, row.goods),
+                    core::plainNumber(session.params().roundAmount(expected)),
                     core::plainNumber(row.closingAmount), core::plainNumber(row.difference)),
             false });
     }
@@ -153,8 +154,8 @@ void mendStock(const shell::Session &session, const StockDrift &d, QStringList &
     } else {
         stock::applyGoodsTotals(session, d.key.goods, delta, 0, 0);
     }
-    changes.append(describe(session.db(), d) + QStringLiteral("：库存改为 ")
-        + core::plainNumber(d.ledger));
+    changes.append(
+        describe(session.db(), d) + QStringLiteral("：库存改为 ") + core::plainNumber(d.ledger));
 }
 
 QStringList mend(const shell::Session &session, const Drifts &drifts)
@@ -167,10 +168,10 @@ QStringList mend(const shell::Session &session, const Drifts &drifts)
         if (!chains.contains(chain)) {
             chains.insert(chain);
             const stock::RerunSummary rerun = stock::rerunLedger(session, d.id, false);
-            changes.append(QStringLiteral("流水账（%1，%2）：从 %3 起重算，改写 %4 行")
-                               .arg(goodsLabel(db, d.goods), warehouseLabel(db, d.warehouse),
-                                   d.date)
-                               .arg(rerun.rowsRewritten));
+            changes.append(
+                QStringLiteral("流水账（%1，%2）：从 %3 起重算，改写 %4 行")
+                    .arg(goodsLabel(db, d.goods), warehouseLabel(db, d.warehouse), d.date)
+                    .arg(rerun.rowsRewritten));
         }
     }
     QSet<QString> balances;
@@ -228,9 +229,10 @@ Result<QStringList> repairBooks(const shell::Session &session)
         [](const Finding &f) { return f.repairable; });
     if (repairable == 0)
         return QStringList();
-    if (!session.ui().ask(QStringLiteral("核对发现 %1 处可以修复的问题。\r\n是否重算流水账和往来余额，"
-                                         "并按流水账修正库存？")
-                              .arg(repairable)))
+    if (!session.ui().ask(
+            QStringLiteral("核对发现 %1 处可以修复的问题。\r\n是否重算流水账和往来余额，"
+                           "并按流水账修正库存？")
+                .arg(repairable)))
         return QStringList();
     QStringList changes;
     const Outcome outcome = core::guarded(session.ui(), [&] {

@@ -56,7 +56,8 @@ struct VerifyReport
 using VerifyProgress = std::function<bool(int done, int total)>;
 
 // Runs every check. Refused without the right, or when cancelled.
-Result<VerifyReport> verifyBooks(const shell::Session &session, const VerifyProgress &progress = {});
+Result<VerifyReport> verifyBooks(
+    const shell::Session &session, const VerifyProgress &progress = {});
 
 // The report as lines of text: each finding ("没有发现问题。" when there is none), then the
 // difference check's goods under their heading, then the notes.

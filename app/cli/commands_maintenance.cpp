@@ -23,8 +23,8 @@ int runVerify(Context &context, Args &args)
     if (repair) {
         const auto repaired = maintenance::repairBooks(session);
         const QStringList &changes = valueOf(repaired);
-        printLines(context, changes.isEmpty() ? QStringList { QStringLiteral("没有作任何修改。") }
-                                              : changes);
+        printLines(context,
+            changes.isEmpty() ? QStringList { QStringLiteral("没有作任何修改。") } : changes);
         return ExitDone;
     }
     const auto verified = maintenance::verifyBooks(session);

@@ -56,9 +56,10 @@ protected:
 
     qint64 ledgerRow(const QString &goods, const QString &date)
     {
-        return db().firstValue(QStringLiteral("select id from jxc_goodslist where g_sn=? and "
-                                              "ck_sn='100001' and gl_kdrq=?"),
-                       { goods, date })
+        return db()
+            .firstValue(QStringLiteral("select id from jxc_goodslist where g_sn=? and "
+                                       "ck_sn='100001' and gl_kdrq=?"),
+                { goods, date })
             .toLongLong();
     }
 };
@@ -83,13 +84,16 @@ TEST_F(VerifyTest, FindsEachFigureChangedByHandWithBothFigures)
 {
     postBusiness();
     const qint64 row = ledgerRow(QStringLiteral("200001"), QStringLiteral("2025-02-03"));
-    db().exec(QStringLiteral("update jxc_goodslist set gl_kc=gl_kc+7,gl_pjjj=3 where id=?"), { row });
-    db().exec(QStringLiteral("update jxc_kcsp set kc_sl=99 where g_sn='200002' and ck_sn='100001'"));
+    db().exec(
+        QStringLiteral("update jxc_goodslist set gl_kc=gl_kc+7,gl_pjjj=3 where id=?"), { row });
+    db().exec(
+        QStringLiteral("update jxc_kcsp set kc_sl=99 where g_sn='200002' and ck_sn='100001'"));
     db().exec(QStringLiteral("update jxc_ysyfk set k_ljje=k_ljje+100 where id=(select min(id) from "
                              "jxc_ysyfk where k_type='kh')"));
     EXPECT_EQ(findings(),
         QStringList({
-            QStringLiteral("仓库库存（商品 200002 板蓝根颗粒，仓库 100001 主仓库）：库存 99，流水账合计 32"),
+            QStringLiteral(
+                "仓库库存（商品 200002 板蓝根颗粒，仓库 100001 主仓库）：库存 99，流水账合计 32"),
             QStringLiteral("流水账 CJ25020310001 2025-02-03（商品 200001 阿莫西林胶囊，仓库 100001 "
                            "主仓库）：结存数量 帐上 97，重算 90；成本均价 帐上 3，重算 10.44"),
             QStringLiteral("应收应付帐（客户 100002 华康药店） XS25012010001 2025-01-20：余额 帐上 "
@@ -121,9 +125,11 @@ TEST_F(VerifyTest, RepairMendsWhatItFoundAndASecondCheckFindsNothing)
                            "起重算，改写 1 行"),
             QStringLiteral("现金银行帐（帐户 现金） XS25030510001 2025-03-05：余额 帐上 5，重算 "
                            "0：从 2025-03-05 起重算余额"),
-            QStringLiteral("批次库存（商品 200001 阿莫西林胶囊，仓库 100001 主仓库，批号 P2，"
-                           "有效期至 2027-11-30，生产日期 2024-12-01）：库存 17，流水账合计 20：库存改为 20"),
-            QStringLiteral("商品库存（商品 200002 板蓝根颗粒）：库存 0，流水账合计 32：库存改为 32"),
+            QStringLiteral(
+                "批次库存（商品 200001 阿莫西林胶囊，仓库 100001 主仓库，批号 P2，"
+                "有效期至 2027-11-30，生产日期 2024-12-01）：库存 17，流水账合计 20：库存改为 20"),
+            QStringLiteral(
+                "商品库存（商品 200002 板蓝根颗粒）：库存 0，流水账合计 32：库存改为 32"),
         }));
     EXPECT_EQ(findings(), QStringList());
     // The books are as the program left them, but for the log row of the repair.
@@ -165,8 +171,9 @@ TEST_F(VerifyTest, ABatchRowDeletedByHandIsMadeAgain)
     postBusiness();
     db().exec(QStringLiteral("delete from jxc_tkc where g_sn='200001' and t_ph='P2'"));
     EXPECT_EQ(findings(),
-        QStringList { QStringLiteral("批次库存（商品 200001 阿莫西林胶囊，仓库 100001 主仓库，批号 P2，"
-                                     "有效期至 2027-11-30，生产日期 2024-12-01）：库存 0，流水账合计 20") });
+        QStringList {
+            QStringLiteral("批次库存（商品 200001 阿莫西林胶囊，仓库 100001 主仓库，批号 P2，"
+                           "有效期至 2027-11-30，生产日期 2024-12-01）：库存 0，流水账合计 20") });
     ui.answerNext(true);
     ASSERT_TRUE(maintenance::repairBooks(session()).ok());
     EXPECT_EQ(db().firstValue(QStringLiteral("select t_sl from jxc_tkc where g_sn='200001' and "
