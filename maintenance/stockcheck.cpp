@@ -76,8 +76,11 @@ QList<StockDrift> stockDrifts(core::Connection &db)
         { discount }, [&](const QSqlQuery &q) {
             const stock::BatchKey key { q.value(0).toString(), q.value(1).toString(),
                 q.value(2).toString(), q.value(3).toString(), q.value(4).toString() };
-            const double quantity = signedQuantity(q.value(5).toString(), q.value(6).toDouble());
-            Sums::add(batch.ledger, key, quantity);
+            const QString kind = q.value(5).toString();
+            const double quantity = signedQuantity(kind, q.value(6).toDouble());
+            // A gift redemption names no batch and leaves the batches alone.
+            if (kind != QLatin1String("dh"))
+                Sums::add(batch.ledger, key, quantity);
             Sums::add(warehouse.ledger, { key.goods, key.warehouse, {}, {}, {} }, quantity);
             Sums::add(goods.ledger, { key.goods, {}, {}, {}, {} }, quantity);
         });
@@ -118,6 +121,9 @@ QString describe(core::Connection &db, const StockDrift &drift)
         return QStringLiteral("仓库库存（%1，%2）：%3")
             .arg(goods, warehouseLabel(db, drift.key.warehouse), figures);
     case Area::Batch:
+        if (drift.key.batch.isEmpty() && drift.key.expiry.isEmpty() && drift.key.produced.isEmpty())
+            return QStringLiteral("批次库存（%1，%2，无批号）：%3")
+                .arg(goods, warehouseLabel(db, drift.key.warehouse), figures);
         return QStringLiteral("批次库存（%1，%2，批号 %3，有效期至 %4，生产日期 %5）：%6")
             .arg(goods, warehouseLabel(db, drift.key.warehouse), drift.key.batch, drift.key.expiry,
                 drift.key.produced, figures);

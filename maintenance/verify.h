@@ -17,7 +17,8 @@ namespace medistock::maintenance {
 // The books' self-check ("库存核对", right kcgl 17). It reads only, and finds where the stored
 // figures disagree with what the program's own routines compute from the rows beneath them:
 // - warehouse stock kc_sl, batch stock t_sl and goods stock g_kc against the ledger's signed
-//   quantities summed per warehouse, per batch and per goods;
+//   quantities summed per warehouse, per batch (gift redemptions "dh" left out: they name no
+//   batch and leave the batches alone) and per goods;
 // - every ledger row's running columns (gl_kc, gl_pjjj, gl_kczje, gl_sqsl, gl_sqje) against the
 //   stock engine's rerun step. A posting reruns from its own date with the stored state before
 //   it, a backdated one carries the average's sums on across later dates; a row passes when one

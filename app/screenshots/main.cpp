@@ -5,6 +5,7 @@
 #include "app/screenshots/documents.h"
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/loans.h"
+#include "app/screenshots/maintenance.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "app/screenshots/pos.h"
@@ -26,6 +27,7 @@
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
 #include "ui/loans/registration.h"
+#include "ui/maintenance/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
@@ -276,6 +278,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
     ui::registerPosScreens(registry);
+    ui::registerMaintenanceScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -310,6 +313,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
+    shootMaintenance(shots, window, workspace);
 }
 
 } // namespace
