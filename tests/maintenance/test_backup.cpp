@@ -23,6 +23,8 @@ protected:
     void SetUp() override
     {
         SessionTest::SetUp();
+        if (db().dialect() != core::Dialect::Sqlite)
+            GTEST_SKIP() << "backup files are SQLite files; a server's sets use its own tools";
         receipts = setUpReceipts(session(), 8);
         ASSERT_EQ(receipts.size(), 8);
         for (int i = 0; i < 4; ++i)
@@ -201,6 +203,19 @@ TEST_F(BackupTest, BackupsTakenWhileAnotherProcessPostsRestoreToSoundBooks)
         EXPECT_TRUE(report->findings.isEmpty())
             << maintenance::reportLines(report.value()).join('\n').toStdString();
     }
+}
+
+// Where the set lives on a server, the program says which tools do the work instead.
+TEST_F(SessionTest, OnAServerBackupAndRestoreAreLeftToItsTools)
+{
+    if (db().dialect() == core::Dialect::Sqlite)
+        GTEST_SKIP() << "only for a set on PostgreSQL";
+    const QString text = QStringLiteral(
+        "这个帐套在 PostgreSQL 服务器上，请在服务器上用 pg_dump 备份、用 pg_restore 恢复。");
+    EXPECT_FALSE(maintenance::backupAccountSet(session(), {}).ok());
+    EXPECT_FALSE(maintenance::restoreAccountSet(session(), QStringLiteral("x.db")).ok());
+    EXPECT_EQ(ui.informed, QStringList({ text, text }));
+    EXPECT_EQ(maintenance::dailyBackup(session()).value(), QString());
 }
 
 } // namespace
