@@ -36,12 +36,28 @@ QString setFolder(const shell::Session &session)
     return QFileInfo(session.db().filePath()).absolutePath();
 }
 
-// Refuses (and tells) a set that is not an SQLite file.
-Outcome requireFile(const shell::Session &session)
+// Refuses (and tells) an operator without the right "备份/恢复数据库", and a set that is not an
+// SQLite file.
+Outcome requireBackupRight(const shell::Session &session)
 {
-    if (session.db().dialect() != core::Dialect::Sqlite)
+    const Outcome allowed = shell::requireRight(session, "qtcz", 13);
+    if (allowed && session.db().dialect() != core::Dialect::Sqlite)
         return core::refuse(session.ui(), postgresText());
-    return Outcome::done();
+    return allowed;
+}
+
+// Why the file cannot be restored from; empty when it is a sound account-set file other than
+// the open one.
+QString backupRefusal(const shell::Session &session, const QString &file)
+{
+    if (!QFileInfo::exists(file))
+        return badBackupText(QStringLiteral("备份文件不存在：") + shown(file));
+    if (QFileInfo(file) == QFileInfo(session.db().filePath()))
+        return badBackupText(QStringLiteral("这是当前帐套文件本身。"));
+    QString refusal = core::inspectDatabaseFile(file);
+    if (refusal.isEmpty())
+        refusal = core::verifyDatabaseFile(file);
+    return refusal.isEmpty() ? QString() : badBackupText(refusal);
 }
 
 // Copies the open set to `target` through a temporary file that is checked before it takes the
@@ -90,9 +106,7 @@ QString backupFileName(const QString &setFile, const QDateTime &when)
 Result<QString> backupAccountSet(
     const shell::Session &session, const QString &target, const CopyProgress &progress)
 {
-    Outcome allowed = shell::requireRight(session, "qtcz", 13);
-    if (allowed)
-        allowed = requireFile(session);
+    const Outcome allowed = requireBackupRight(session);
     if (!allowed)
         return allowed;
     const QString file = target.isEmpty()
@@ -111,22 +125,13 @@ Result<QString> backupAccountSet(
 Result<QString> restoreAccountSet(
     const shell::Session &session, const QString &source, const CopyProgress &progress)
 {
-    Outcome allowed = shell::requireRight(session, "qtcz", 13);
-    if (allowed)
-        allowed = requireFile(session);
+    const Outcome allowed = requireBackupRight(session);
     if (!allowed)
         return allowed;
     const QString file = QFileInfo(source).absoluteFilePath();
-    if (!QFileInfo::exists(file))
-        return core::refuse(
-            session.ui(), badBackupText(QStringLiteral("备份文件不存在：") + shown(file)));
-    if (QFileInfo(file) == QFileInfo(session.db().filePath()))
-        return core::refuse(session.ui(), badBackupText(QStringLiteral("这是当前帐套文件本身。")));
-    QString refusal = core::inspectDatabaseFile(file);
-    if (refusal.isEmpty())
-        refusal = core::verifyDatabaseFile(file);
+    const QString refusal = backupRefusal(session, file);
     if (!refusal.isEmpty())
-        return core::refuse(session.ui(), badBackupText(refusal));
+        return core::refuse(session.ui(), refusal);
     if (!session.ui().ask(
             QStringLiteral("从备份文件恢复帐套数据：\r\n%1\r\n当前帐套的全部数据将被备份"
                            "文件里的数据替换（替换前的数据另存一份），确认吗？")
