@@ -13,6 +13,7 @@ namespace {
 
 constexpr int pagesPerStep = 256;
 constexpr int busyTimeout = 15000;
+constexpr int busyAttempts = 3;
 
 // Closes the handle however the copy ends.
 struct Handle
@@ -35,12 +36,16 @@ bool open(Handle &handle, const QString &path, int flags)
     return rc == SQLITE_OK;
 }
 
-// Runs the pages over; SQLITE_DONE when all were copied.
+// Runs the pages over; SQLITE_DONE when all were copied. Each busy answer has already waited
+// the busy timeout; past busyAttempts of them the copy gives up.
 int runSteps(sqlite3_backup *backup, const CopyProgress &progress)
 {
+    int busy = 0;
     for (;;) {
         const int rc = sqlite3_backup_step(backup, pagesPerStep);
         if (rc == SQLITE_BUSY || rc == SQLITE_LOCKED) {
+            if (++busy >= busyAttempts)
+                return rc;
             sqlite3_sleep(50);
             continue;
         }
@@ -52,6 +57,14 @@ int runSteps(sqlite3_backup *backup, const CopyProgress &progress)
         if (progress && !progress(total - sqlite3_backup_remaining(backup), total))
             return SQLITE_INTERRUPT;
     }
+}
+
+// What went wrong in words the operator can act on; SQLite's own text after it.
+QString stepFailure(int rc)
+{
+    if (rc == SQLITE_BUSY || rc == SQLITE_LOCKED)
+        return QStringLiteral("其他工作站一直在写这个帐套，请稍后再试");
+    return QStringLiteral("数据库错误（%1）").arg(QString::fromUtf8(sqlite3_errstr(rc)));
 }
 
 // A backup file stands alone: no WAL beside it, and an identity of its own (core/dbfile.h).
@@ -93,7 +106,7 @@ QString copyDatabase(
     if (rc == SQLITE_INTERRUPT)
         return QStringLiteral("复制已取消，没有做任何改动。");
     if (rc != SQLITE_DONE)
-        return failedText(to, QString::fromUtf8(sqlite3_errstr(rc)));
+        return failedText(to, stepFailure(rc));
     if (mode == CopyMode::ToNewFile) {
         const QString finished = finishNewFile(target);
         if (!finished.isEmpty())
