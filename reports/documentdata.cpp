@@ -40,6 +40,8 @@ constexpr PrintRow rows[] = {
     { "posxsd", "jxc_posxsd", "gl_djh", "pos_xsrq", "posxsd", "" },
     { "posxp", "jxc_posxsd", "gl_djh", "pos_xsrq", "posxp", "" },
     { "posxp58", "jxc_posxsd", "gl_djh", "pos_xsrq", "posxp58", "" },
+    { "jbxp", "jxc_jbgl", "id", "jb_time", "jbxp", "" },
+    { "jbxp58", "jxc_jbgl", "id", "jb_time", "jbxp58", "" },
 };
 
 const PrintRow *documentPrintOfTemplate(const QString &name)

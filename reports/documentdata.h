@@ -26,7 +26,8 @@ struct DocumentPrint
 
 // Every document key: cgjh, cgth, spxs, xsth, cgd, spdd, kcdb, spcf, spkb, spbs, spby, kcpd,
 // khjh; xshh (the customer return as the drug ledger prints it); posxsd, posxp, posxp58 (a POS
-// document reprinted on A4 or on receipt paper).
+// document reprinted on A4 or on receipt paper); jbxp, jbxp58 (the till's shift handover on
+// 80 mm or 58 mm paper, numbered by its row id in jxc_jbgl).
 QList<DocumentPrint> documentPrints();
 const DocumentPrint *documentPrint(const QString &key);
 // The key a document number prints with by default, from its prefix; empty for none.
@@ -69,6 +70,11 @@ void addCompanyVariables(const shell::Session &session, ReportData &data);
 // sale (template spxs3, or every sale when "打印销售单商品不同批次商品合并打印", cs_employts, is
 // on) has one line per goods with summed quantities and amounts. Blank filling rows come from the
 // template's FillRows, not from a work table.
+//
+// The shift handover (jbxp, jbxp58) is read by its id and sets jbTime, jbCurrUser, jbNextUser,
+// jbNote and the amounts bbskzje, sjyyk, xfyyk, jjzje with the amount decimals of the parameters
+// ("52.00", not the "#.00" of the documents' xx variables, which would print ".00" for nothing
+// handed over); it has no lines.
 //
 // A number that does not exist is refused (documentMissing); a party or warehouse that is gone
 // leaves its variables empty.

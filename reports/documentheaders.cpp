@@ -18,7 +18,8 @@ namespace medistock::reports {
 namespace {
 
 // How a column's value becomes a variable's text.
-enum class Shape { Text, Number, Money, SaleDate, Positive };
+// Amount: fixed to the amount decimals of the parameters (the handover slip's money).
+enum class Shape { Text, Number, Money, Amount, SaleDate, Positive };
 
 struct Variable
 {
@@ -41,6 +42,7 @@ struct HeaderSource
     const char *paid = "";
     const char *balanceDate = ""; // set for the customer documents that print khqk, ljqkje, yf2
     bool positive = false; // amounts stored negative print positive
+    bool byId = false; // the number is the row's id (the handover), bound as an integer
 };
 
 #define CUSTOMER                                                                                   \
@@ -125,6 +127,11 @@ const Variable pos[] = { { "jhDate", "pos_xsrq" }, { "aName", "a_name" }, { "ckN
     { "hymobile", "hy_mobile" }, { "zlje", "pos_zlje", Shape::Number },
     { "mlje", "pos_mlje", Shape::Number }, { "yhje", "pos_yhzkje", Shape::Number } };
 
+const Variable handover[] = { { "jbTime", "jb_time" }, { "jbCurrUser", "jb_curruser" },
+    { "jbNextUser", "jb_nextuser" }, { "bbskzje", "jb_bbskzje", Shape::Amount },
+    { "sjyyk", "jb_sjyyk", Shape::Amount }, { "xfyyk", "jb_xfyyk", Shape::Amount },
+    { "jjzje", "jb_jjzje", Shape::Amount }, { "jbNote", "jb_note" } };
+
 #undef CUSTOMER
 #undef SUPPLIER
 
@@ -206,6 +213,8 @@ const HeaderSource headerSources[] = {
         "left join jxc_ckxx b on a.ck_sn=b.ck_sn left join jxc_hyxx h on a.hy_sn=h.hy_sn where "
         "a.gl_djh=? order by a.id limit 1",
         "", pos, Total::Columns, "pos_yfje", "pos_sfje" },
+    { "jbxp", "select a.* from jxc_jbgl a where a.id=?", "", handover, Total::None, "", "", "",
+        false, true },
 };
 
 // xshh prints a customer return, the receipts print a POS document.
@@ -215,6 +224,8 @@ QString sourceKey(const QString &key)
         return QStringLiteral("xsth");
     if (key == QLatin1String("posxp") || key == QLatin1String("posxp58"))
         return QStringLiteral("posxsd");
+    if (key == QLatin1String("jbxp58"))
+        return QStringLiteral("jbxp");
     return key;
 }
 
@@ -238,6 +249,8 @@ QString shaped(const shell::Session &session, const QVariant &value, Shape shape
         return core::plainNumber(std::abs(value.toDouble()));
     case Shape::Money:
         return formatFloat(QStringLiteral("#.00"), value.toDouble());
+    case Shape::Amount:
+        return QString::number(value.toDouble(), 'f', session.params().amountDecimals());
     case Shape::SaleDate: {
         const QString text = value.toString();
         const QDateTime when = Value::text(text).toDateTime();
@@ -321,7 +334,14 @@ HeaderRow readHeader(const shell::Session &session, const QString &key, const QS
     const HeaderSource *source = sourceOf(key);
     if (!source)
         return header;
-    header.row = session.db().firstRow(QString::fromUtf8(source->sql), { number });
+    QVariant bound = number;
+    if (source->byId) {
+        bool isId = false;
+        bound = number.trimmed().toLongLong(&isId);
+        if (!isId)
+            return header;
+    }
+    header.row = session.db().firstRow(QString::fromUtf8(source->sql), { bound });
     if (*source->status && !header.row.isEmpty())
         header.status = header.row.value(QString::fromLatin1(source->status)).toString();
     return header;

@@ -945,11 +945,13 @@ def lists():
     t["possytj1"] = listing("收银员收银统计", [
         C("编号", "sn", 20), C("收银员", "a_name", 40), C("应收金额", "yfje", 40, "money", True),
         C("实收金额", "sfje", 40, "money", True)], landscape=False)
+    # An employee's kinds count the same sales again (101 and 1001, 201 and 2001): only the
+    # commission itself adds up.
     t["possytj2"] = listing("POS销售提成", [
         C("编号", "g_sn", 18), C("员工", "hz_txt1", 20), C("统计类别", "hz_txt2", 38),
-        C("销售金额", "hz_kc", 24, "money", True), C("可提成金额", "hz_kczje", 24, "money", True),
-        C("销售毛利", "hz_rksl", 24, "money", True), C("可提成毛利", "hz_rkzje", 24, "money", True),
-        C("提成数量", "hz_cksl", 18, "qty", True), C("提成金额", "hz_ckzje", 24, "money", True)])
+        C("销售金额", "hz_kc", 24, "money"), C("可提成金额", "hz_kczje", 24, "money"),
+        C("销售毛利", "hz_rksl", 24, "money"), C("可提成毛利", "hz_rkzje", 24, "money"),
+        C("提成数量", "hz_cksl", 18, "qty"), C("提成金额", "hz_ckzje", 24, "money", True)])
     return t
 
 

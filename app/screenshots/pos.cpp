@@ -4,15 +4,21 @@
 #include "pos/till.h"
 #include "pos/tillcash.h"
 #include "shell/session.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
+#include "ui/pos/handoverlist.h"
 #include "ui/pos/reportscreen.h"
 #include "ui/pos/tilldialogs.h"
 #include "ui/pos/tillscreen.h"
+#include "ui/reports/previewdialog.h"
+#include "ui/reports/printing.h"
 #include "ui/shell/mainwindow.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
 
@@ -101,9 +107,72 @@ void shootTill(
     ui::HandoverDialog handover(workspace.session,
         pos::shiftFigures(
             workspace.session, workspace.session.user().name, workspace.session.clock().nowText()),
-        &window);
+        QStringLiteral("jbxp"), &window);
     shots.shootOver(&window, &handover, QStringLiteral("84-till-handover"));
     handover.hide();
+}
+
+// The preview a print button of `screen` opened; nullptr when none did.
+ui::PreviewDialog *printFrom(QWidget *screen)
+{
+    for (QPushButton *button : screen->findChildren<QPushButton *>())
+        if (button->text() == ui::texts::printButton() && !button->isHidden()
+            && button->isEnabled())
+            button->click();
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
+            preview && preview->isVisible())
+            return preview;
+    return nullptr;
+}
+
+// The receipt of the sample sale, the handover of the morning's shift (100 left in the drawer) and
+// its slip on both rolls, the list of handovers, and four POS reports in their print previews.
+void shootPosPrints(
+    const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace, const QString &sold)
+{
+    shell::Session &session = workspace.session;
+    const pos::ShiftFigures shift
+        = pos::shiftFigures(session, session.user().name, session.clock().nowText());
+    const auto done = pos::handOver(session,
+        { session.user().name, shift.drawer() - 100, 100, QStringLiteral("早班交班，钱箱已清点") });
+    if (!done)
+        qFatal("sample handover refused");
+    int n = 210;
+    for (const char *key : { "jbxp", "jbxp58" }) {
+        ui::PreviewDialog *slip = ui::printWithPreview(
+            workspace, QString::fromLatin1(key), QString::number(done->first.id), &window);
+        if (!slip)
+            continue;
+        slip->setZoom(1.5);
+        shots.shoot(slip, QStringLiteral("%1-preview-%2").arg(n++).arg(QString::fromLatin1(key)));
+        slip->close();
+    }
+    if (ui::PreviewDialog *receipt
+        = ui::printWithPreview(workspace, QStringLiteral("posxp"), sold, &window)) {
+        receipt->setZoom(1.5);
+        shots.shoot(receipt, QStringLiteral("217-preview-posxp"));
+        receipt->close();
+    }
+    ui::HandoverListDialog handovers(workspace, &window);
+    shots.shootOver(&window, &handovers, QStringLiteral("212-till-handovers"));
+    handovers.hide();
+    const std::pair<int, const char *> reports[]
+        = { { 16, "213-preview-possxph1" }, { 14, "214-preview-poslsz" },
+              { 18, "215-preview-possytj1" }, { 20, "216-preview-possytj2" } };
+    for (const auto &[position, name] : reports) {
+        window.openOperation(QStringLiteral("tjgl"), position);
+        auto *report = qobject_cast<ui::PosReportScreen *>(window.tabs()->currentWidget());
+        if (report && report->viewBox())
+            report->viewBox()->setCurrentIndex(0);
+        if (ui::PreviewDialog *preview = printFrom(report)) {
+            // The landscape forms whole across the window.
+            if (preview->report().pages.first().sizeMm.width() > 250)
+                preview->setZoom(0.8);
+            shots.shoot(preview, QString::fromLatin1(name));
+            preview->close();
+        }
+    }
 }
 
 } // namespace
@@ -126,4 +195,5 @@ void shootPos(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspa
                     .arg(i == 1 ? QStringLiteral("details") : QStringLiteral("ranking-cashiers")));
         }
     }
+    shootPosPrints(shots, window, workspace, sold);
 }

@@ -179,6 +179,36 @@ TEST_F(DocumentPrint, AStyleOfAnotherDocumentAndAMissingDocumentAreRefusedAndTol
     EXPECT_EQ(ui.informed, QStringList { QStringLiteral("没有“zzzz”这种单据的打印！") });
 }
 
+// The handover slip is found by the row's id and shows the shift's figures with the amount
+// decimals, on the roll it is asked for; an id that is not there, or not an id, is refused.
+TEST_F(DocumentPrint, TheHandoverSlipShowsTheShiftsFiguresOnEitherRoll)
+{
+    const QString id = QString::number(db().insert(
+        QStringLiteral("insert into jxc_jbgl (jb_time,jb_curruser,jb_nextuser,jb_bbskzje,"
+                       "jb_sjyyk,jb_xfyyk,jb_jjzje,jb_note) values (?,?,?,?,?,?,?,?)"),
+        { QStringLiteral("2025-03-14 18:30:05"), QStringLiteral("admin"), QStringLiteral("王芳"),
+            1234.5, 1000, 234.5, 1234.5, QStringLiteral("钱箱已清点") }));
+    const QStringList expected { QStringLiteral("康宁大药房"), QStringLiteral("【交班小票】"),
+        QStringLiteral("交班时间：2025-03-14 18:30:05"), QStringLiteral("交班人：admin"),
+        QStringLiteral("接班人：王芳"), QStringLiteral("本班收款总额：1234.50"),
+        QStringLiteral("上交营业款：1000.00"), QStringLiteral("下放营业款：234.50"),
+        QStringLiteral("交接金额：1234.50"), QStringLiteral("备注：钱箱已清点"),
+        QStringLiteral("交班人签字："), QStringLiteral("接班人签字：") };
+    for (const auto &[key, width] :
+        { std::pair { QStringLiteral("jbxp"), 80 }, std::pair { QStringLiteral("jbxp58"), 58 } }) {
+        const reports::PrintedDocument slip = printed(key, id);
+        ASSERT_EQ(slip.report.pages.size(), 1) << key.toStdString();
+        EXPECT_EQ(slip.report.pages.first().sizeMm.width(), width);
+        EXPECT_EQ(slip.report.pages.first().texts(), expected) << key.toStdString();
+    }
+    ui.clear();
+    for (const QString &missing : { QStringLiteral("99"), QStringLiteral("1a") })
+        EXPECT_FALSE(
+            reports::prepareDocument(session(), folders(), QStringLiteral("jbxp"), missing).ok());
+    EXPECT_EQ(ui.informed,
+        (QStringList { QStringLiteral("单据：99不存在！"), QStringLiteral("单据：1a不存在！") }));
+}
+
 TEST_F(DocumentPrint, AMissingTemplateIsToldAndAnEditedCopyWinsOverTheShippedOne)
 {
     const QString sale = saleOfLines(1);

@@ -117,6 +117,18 @@ TEST_F(EveryKey, PrintsAStoredDocumentWithItsNumberAndLines)
             || text.contains(QStringLiteral("板蓝根颗粒")))
             << key.toStdString();
     }
+    // The handover slips have no goods: their figures are what they print.
+    const qint64 handover = db().insert(
+        QStringLiteral("insert into jxc_jbgl (jb_time,jb_curruser,jb_nextuser,jb_bbskzje,"
+                       "jb_sjyyk,jb_xfyyk,jb_jjzje) values ('2025-03-14 18:00:00','admin',"
+                       "'admin',52,20,2,22)"));
+    for (const QString &key : { QStringLiteral("jbxp"), QStringLiteral("jbxp58") }) {
+        keys.append(key);
+        EXPECT_TRUE(printed(key, QString::number(handover))
+                        .report.allText()
+                        .contains(QStringLiteral("本班收款总额：52.00")))
+            << key.toStdString();
+    }
     QStringList all;
     for (const reports::DocumentPrint &print : reports::documentPrints())
         all.append(print.key);

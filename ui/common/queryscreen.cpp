@@ -120,6 +120,8 @@ QVariant QueryModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return text(index.row(), index.column());
+    case Qt::EditRole: // the value itself, numbers as numbers: what a printed grid hands on
+        return value(index.row(), index.column());
     case Qt::TextAlignmentRole:
         return isNumber(column) ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                                 : QVariant(Qt::AlignLeft | Qt::AlignVCenter);

@@ -40,7 +40,7 @@ QList<PosReportKind> posReportKinds()
                 return tableOf(pos::salesLines(s, salesFilter(in)), pos::linesTable);
             return tableOf(pos::goodsSales(s, salesFilter(in)), pos::goodsSalesTable);
         },
-        {}, {}, { QString(), QStringLiteral("posmxb") } };
+        {}, {}, { QStringLiteral("postj"), QStringLiteral("posmxb") } };
     PosReportKind ranking { QStringLiteral("POS销售排行"), QStringLiteral("POS销售排行"), true, {},
         false,
         { QStringLiteral("按商品"), QStringLiteral("按商品类别"), QStringLiteral("按收银员") },
@@ -81,7 +81,7 @@ QList<PosReportKind> posReportKinds()
         [](shell::Session &s, const PosReportInputs &in) {
             return tableOf(pos::posCommission(s, { in.range, in.warehouse }), pos::commissionTable);
         },
-        {}, {}, { QStringLiteral("postj") } };
+        {}, {}, { QStringLiteral("possytj2") } };
     return { journal, goods, ranking, members, cashiers, cash, commission };
 }
 

@@ -4,8 +4,10 @@
 #include "shell/session.h"
 #include "ui/common/datefield.h"
 #include "ui/common/reading.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/documents/pickers.h"
+#include "ui/pos/texts.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSeries>
@@ -15,6 +17,7 @@
 #include <QComboBox>
 #include <QDate>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QValueAxis>
 
 namespace medistock::ui {
@@ -31,7 +34,7 @@ QueryColumn queryColumn(const pos::ReportColumn &column, const shell::Parameters
             : f.endsWith(QLatin1String("rq")) || f.endsWith(QLatin1String("time")) ? 150
             : f.contains(QLatin1String("name")) && f.startsWith(QLatin1Char('g'))  ? 170
                                                                                    : 0;
-        return { column.caption, QueryColumn::Kind::Text, 0, false, width };
+        return { column.caption, QueryColumn::Kind::Text, 0, false, width, column.field };
     }
     int places = 0;
     switch (column.kind) {
@@ -50,7 +53,7 @@ QueryColumn queryColumn(const pos::ReportColumn &column, const shell::Parameters
     default:
         places = 0;
     }
-    return { column.caption, QueryColumn::Kind::Number, places, column.summed };
+    return { column.caption, QueryColumn::Kind::Number, places, column.summed, 0, column.field };
 }
 
 QComboBox *choiceBox(const QStringList &choices, QWidget *parent)
@@ -102,6 +105,12 @@ PosReportScreen::PosReportScreen(Workspace &workspace, PosReportKind kind, QWidg
         m_chart->setRenderHint(QPainter::Antialiasing);
         m_chart->setMinimumHeight(220);
         setDetail(m_chart);
+    }
+    if (m_kind.printKeys.isEmpty()) {
+        auto *print = new QPushButton(texts::printButton(), this);
+        print->setEnabled(false);
+        print->setToolTip(postexts::noTemplate.arg(m_kind.title));
+        addButton(print);
     }
     if (!m_kind.textLabel.isEmpty()) {
         m_text = new QLineEdit(this);

@@ -40,14 +40,18 @@ struct PosReportKind
     // of `chartLabels` the table has (fields as the tables name them); none when empty.
     QStringList chartLabels;
     QString chartValue;
-    // The report template of each view (one for all views); none: the report is not printed.
+    // The report template of each view (one for all views); none: the report has no template and
+    // its print button stays disabled.
     QStringList printKeys;
 };
 
 // A POS report under "统计报表": from/to dates (the month so far by default), the warehouse and
 // the report's own filters on top, its table below with the totals row and xlsx export, and for
 // the ranking and the takings a bar chart of the first rows under the table.
-// The print button prints through the view's template once printing is there (disabled till then).
+// "打印(F8)" prints the rows shown through the view's template (poslsz, postj, posmxb, possxph1-3,
+// possytj1, poscrk, possytj2), each column as the field the tables name it, the filters in the
+// heading, with preview. A report without a template of its own (the member consumption) shows
+// the button disabled, with a tooltip pointing to the export.
 class PosReportScreen : public QueryScreen
 {
     Q_OBJECT

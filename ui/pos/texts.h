@@ -21,6 +21,7 @@ inline const QString print58 = QStringLiteral("打印小票(58)");
 inline const QString printHint = QStringLiteral("打印最近一张结账或退货的小票（80mm 或 58mm 纸）");
 inline const QString printNothing = QStringLiteral("还没有结账或退货的小票可以打印");
 inline const QString notYet = QStringLiteral("%1尚未提供");
+inline const QString noTemplate = QStringLiteral("%1没有报表模板，请导出后打印");
 inline const QString drawerDisabled = QStringLiteral("本机未连接钱箱");
 inline const QStringList lineCaptions { QStringLiteral("商品编号"), QStringLiteral("商品名称"),
     QStringLiteral("规格"), QStringLiteral("单位"), QStringLiteral("数量"), QStringLiteral("单价"),
@@ -76,5 +77,16 @@ inline const QString shift = QStringLiteral(
     "银行卡 %10  医保卡 %11  微信 %12  支付宝 %13\n入款 %14  出款 %15  接班备用金 %16\n"
     "钱箱应有现金 %17");
 inline const QString firstShift = QStringLiteral("建账");
+inline const QString printSlip = QStringLiteral("打印交班小票");
+inline const QString slip80 = QStringLiteral("80mm 小票");
+inline const QString slip58 = QStringLiteral("58mm 小票");
+inline const QString noSlip = QStringLiteral("不打印");
+inline const QString handovers = QStringLiteral("交班记录");
+inline const QString handoverCaptions = QStringLiteral(
+    "交班时间|交班操作员|接班操作员|本班收款总额|上交营业款|下放营业款|交接金额|备注");
+inline const QString reprintSlip = QStringLiteral("打印交班小票");
+inline const QString reprintSlip58 = QStringLiteral("打印交班小票(58)");
+inline const QString cashier = QStringLiteral("收银员");
+inline const QString noHandoverChosen = QStringLiteral("请先选中一条交班记录");
 
 } // namespace medistock::ui::postexts

@@ -1,5 +1,5 @@
 // The till's actions that post: payment, hold and recall, the return of a sold receipt and the
-// handover. Each leaves the sale on the screen untouched when the operation refuses.
+// handover with its slip. Each leaves the sale on the screen untouched when the operation refuses.
 #include "core/interaction.h"
 #include "documents/goodslookup.h"
 #include "pos/handover.h"
@@ -10,6 +10,7 @@
 #include "ui/common/picker.h"
 #include "ui/common/reading.h"
 #include "ui/common/workspace.h"
+#include "ui/pos/handoverlist.h"
 #include "ui/pos/texts.h"
 #include "ui/pos/tilldialogs.h"
 #include "ui/pos/tillscreen.h"
@@ -135,7 +136,10 @@ void TillScreen::handOver()
     if (!readSafely(
             session.ui(), [&] { figures = pos::shiftFigures(session, session.user().name, now); }))
         return;
-    HandoverDialog dialog(session, figures, this);
+    const QString slip = !m_workspace.print ? QString()
+        : m_narrowPaper                     ? QStringLiteral("jbxp58")
+                                            : QStringLiteral("jbxp");
+    HandoverDialog dialog(session, figures, slip, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const auto done = pos::handOver(session, dialog.draft());
@@ -143,6 +147,16 @@ void TillScreen::handOver()
         return;
     m_status->setText(postexts::handedOver.arg(
         QString::number(done->first.handed, 'f', session.params().amountDecimals())));
+    if (m_workspace.print && !dialog.slipKey().isEmpty())
+        m_workspace.print(
+            m_workspace, this, PrintRequest { dialog.slipKey(), QString::number(done->first.id) });
+    m_goods->setFocus();
+}
+
+void TillScreen::showHandovers()
+{
+    HandoverListDialog dialog(m_workspace, this);
+    dialog.exec();
     m_goods->setFocus();
 }
 
@@ -153,6 +167,7 @@ void TillScreen::printReceipt(const QString &key)
         return;
     if (m_lastReceipt.isEmpty())
         return m_workspace.session.ui().inform(postexts::printNothing);
+    m_narrowPaper = key.endsWith(QLatin1String("58"));
     m_workspace.print(m_workspace, this, PrintRequest { key, m_lastReceipt });
     m_goods->setFocus();
 }

@@ -4,6 +4,7 @@
 #include "core/rounding.h"
 #include "shell/operators.h"
 #include "shell/session.h"
+#include "ui/common/texts.h"
 #include "ui/pos/texts.h"
 
 #include <QComboBox>
@@ -180,13 +181,14 @@ QList<double> ReturnDialog::quantities() const
     return quantities;
 }
 
-HandoverDialog::HandoverDialog(
-    const shell::Session &session, const pos::ShiftFigures &f, QWidget *parent)
+HandoverDialog::HandoverDialog(const shell::Session &session, const pos::ShiftFigures &f,
+    const QString &slipKey, QWidget *parent)
     : QDialog(parent)
     , m_next(new QComboBox(this))
     , m_up(moneyField(session.params().amountDecimals(), 1e9, this))
     , m_down(moneyField(session.params().amountDecimals(), 1e9, this))
     , m_note(new QLineEdit(this))
+    , m_slip(new QComboBox(this))
 {
     setWindowTitle(postexts::handoverTitle);
     const int p = session.params().amountDecimals();
@@ -210,6 +212,14 @@ HandoverDialog::HandoverDialog(
     form->addRow(postexts::handedUp, m_up);
     form->addRow(postexts::leftForNext, m_down);
     form->addRow(postexts::note, m_note);
+    m_slip->addItem(postexts::slip80, QStringLiteral("jbxp"));
+    m_slip->addItem(postexts::slip58, QStringLiteral("jbxp58"));
+    m_slip->addItem(postexts::noSlip, QString());
+    m_slip->setCurrentIndex(slipKey.isEmpty() ? 2 : std::max(0, m_slip->findData(slipKey)));
+    m_slip->setEnabled(!slipKey.isEmpty());
+    if (slipKey.isEmpty())
+        m_slip->setToolTip(texts::printingNotBuilt());
+    form->addRow(postexts::printSlip, m_slip);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(figures);
     layout->addLayout(form);
@@ -220,6 +230,11 @@ HandoverDialog::HandoverDialog(
 pos::HandoverDraft HandoverDialog::draft() const
 {
     return { m_next->currentText(), m_up->value(), m_down->value(), m_note->text() };
+}
+
+QString HandoverDialog::slipKey() const
+{
+    return m_slip->currentData().toString();
 }
 
 } // namespace medistock::ui

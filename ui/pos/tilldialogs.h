@@ -67,24 +67,30 @@ private:
 };
 
 // "交班": the shift's figures, the next cashier and the count split into what is handed up and
-// what stays in the drawer.
+// what stays in the drawer, and the slip printed once the handover is saved: 80 mm, 58 mm or
+// none ("打印交班小票"). Without printing the choice is disabled, with its tooltip, on "不打印".
 class HandoverDialog : public QDialog
 {
     Q_OBJECT
 public:
-    HandoverDialog(
-        const shell::Session &session, const pos::ShiftFigures &figures, QWidget *parent = nullptr);
+    // `slipKey`: the slip proposed, "jbxp" or "jbxp58"; empty when printing is not available.
+    HandoverDialog(const shell::Session &session, const pos::ShiftFigures &figures,
+        const QString &slipKey = {}, QWidget *parent = nullptr);
 
     pos::HandoverDraft draft() const;
+    // The slip to print after the handover ("jbxp", "jbxp58"), empty for none.
+    QString slipKey() const;
     QComboBox *nextBox() const { return m_next; }
     QDoubleSpinBox *handedUpField() const { return m_up; }
     QDoubleSpinBox *leftField() const { return m_down; }
+    QComboBox *slipBox() const { return m_slip; }
 
 private:
     QComboBox *m_next;
     QDoubleSpinBox *m_up;
     QDoubleSpinBox *m_down;
     QLineEdit *m_note;
+    QComboBox *m_slip;
 };
 
 } // namespace medistock::ui

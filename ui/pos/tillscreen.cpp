@@ -145,6 +145,9 @@ TillScreen::TillScreen(Workspace &workspace, QWidget *parent)
         print->setToolTip(m_workspace.print ? postexts::printHint : texts::printingNotBuilt());
         buttons.append(print);
     }
+    auto *history = new QPushButton(postexts::handovers, this);
+    connect(history, &QPushButton::clicked, this, &TillScreen::showHandovers);
+    buttons.append(history);
     for (int i = 0; i < buttons.size(); ++i) {
         buttons[i]->setFocusPolicy(Qt::NoFocus);
         keys->addWidget(buttons[i], i / 7, i % 7);

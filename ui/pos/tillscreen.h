@@ -25,6 +25,9 @@ struct Workspace;
 // Everything is posted by the pos operations; a refusal is shown as they word it and the sale
 // on the screen stays as it was typed. The last receipt sold or returned prints with preview on
 // 80 mm or 58 mm paper (posxp, posxp58); a held sale is not a receipt and does not print. The
+// handover prints its slip (jbxp, jbxp58) with preview once saved, on the paper the receipts
+// last printed on unless the cashier chooses otherwise; "交班记录" lists the handovers and prints
+// any of them again. The
 // cash drawer, the screen lock and the herbal doses are not built yet: their buttons are disabled
 // with a tooltip.
 class TillScreen : public QWidget
@@ -61,6 +64,7 @@ public slots:
     void returnReceipt();
     void handOver();
     void printReceipt(const QString &key);
+    void showHandovers();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -94,6 +98,7 @@ private:
     QString m_heldNumber;
     QString m_lastNumber;
     QString m_lastReceipt; // the last sale or return, for the receipt print
+    bool m_narrowPaper = false; // the receipts last printed on 58 mm paper
     QHash<int, std::function<void()>> m_keys; // Qt key (with the keypad bit cleared) -> action
 };
 
