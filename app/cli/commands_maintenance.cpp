@@ -46,7 +46,8 @@ int runRestore(Context &context, Args &args)
 {
     const QStringList positional = takePositional(context, args, 1, 1);
     const auto restored = maintenance::restoreAccountSet(context.session(), positional[0]);
-    context.out() << QStringLiteral("恢复前的帐套数据已另存为：") << valueOf(restored) << Qt::endl;
+    const QString &kept = valueOf(restored);
+    context.out() << QStringLiteral("恢复前的帐套数据已另存为：") << kept << Qt::endl;
     return ExitDone;
 }
 

@@ -52,6 +52,7 @@ TEST_F(MaintenanceCli, VerifyBackupAndRestore)
     ASSERT_TRUE(copy.resize(copy.size() - 1000));
     const CliRun refused = run({ QStringLiteral("--yes"), QStringLiteral("restore"), file });
     EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.out, QString());
     EXPECT_TRUE(refused.err.startsWith(
         QStringLiteral("这个备份文件不能用来恢复，当前帐套没有任何改动。\r\n帐套文件")))
         << refused.err.toStdString();
