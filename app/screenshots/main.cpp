@@ -12,6 +12,7 @@
 #include "app/screenshots/reports.h"
 #include "app/screenshots/sales.h"
 #include "app/screenshots/statistics.h"
+#include "app/screenshots/stock.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -313,6 +314,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
+    shootStock(shots, window, workspace);
     shootMaintenance(shots, window, workspace);
 }
 

@@ -55,6 +55,8 @@ int widthOf(LineField field)
         return 86;
     case LineField::Quantity:
     case LineField::Stock:
+    case LineField::Book:
+    case LineField::Difference:
         return 64;
     case LineField::Price:
         return 72;

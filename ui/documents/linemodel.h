@@ -5,6 +5,7 @@
 #include "documents/lines.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QList>
 
 namespace medistock::ui {
@@ -27,6 +28,8 @@ enum class LineField {
     Total,
     Stock,
     Remark,
+    Book, // a count's book quantity, the line's own column "kc_sl"
+    Difference, // quantity - book, highlighted when not 0
 };
 
 // One line as it stands on the screen. What the clerk typed is kept as typed, so that a line the
@@ -72,6 +75,9 @@ public:
     LineField fieldAt(int column) const { return m_fields.at(column); }
     // The column of a field; -1 when the grid does not show it.
     int columnOf(LineField field) const { return int(m_fields.indexOf(field)); }
+
+    // A kind's own caption of a field ("盘点数量" for the quantity of a count).
+    void setCaption(LineField field, const QString &caption);
 
     void setEditable(bool editable);
     bool isEditable() const { return m_editable; }
@@ -120,6 +126,7 @@ private:
     void setAmount(LineEntry &line, const QString &typed);
 
     QList<LineField> m_fields;
+    QHash<LineField, QString> m_captions;
     documents::LineRounding m_rounding;
     QList<LineEntry> m_lines;
     bool m_editable = true;
