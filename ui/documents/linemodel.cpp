@@ -44,6 +44,8 @@ bool isNumberField(LineField field)
     case LineField::Stock:
     case LineField::Book:
     case LineField::Difference:
+    case LineField::Cost:
+    case LineField::Limit:
         return true;
     default:
         return false;
@@ -176,6 +178,12 @@ QList<documents::LineDraft> LineModel::drafts() const
         draft.expiry = line.expiry;
         draft.remark = line.remark;
         draft.columns = line.columns;
+        if (line.costTyped && !m_costColumn.isEmpty()) {
+            // A cost that is no number goes as typed, for the operation to refuse.
+            const auto cost = number(line.cost);
+            draft.columns.set(
+                m_costColumn, cost ? QVariant(*cost / line.factor()) : QVariant(line.cost));
+        }
         drafts.append(draft);
     }
     return drafts;
@@ -265,6 +273,10 @@ QString LineModel::display(const LineEntry &line, int row, LineField field) cons
             return fixed(
                 core::roundTo(*counted - bookOf(line), m_rounding.quantity), m_rounding.quantity);
         return {};
+    case LineField::Cost:
+        return line.cost;
+    case LineField::Limit:
+        return line.saleLimit > 0 ? fixed(line.saleLimit, m_rounding.quantity) : QString();
     }
     return {};
 }
@@ -372,13 +384,17 @@ bool LineModel::setData(const QModelIndex &index, const QVariant &value, int rol
     case LineField::Remark:
         line.remark = text;
         break;
+    case LineField::Cost:
+        line.cost = text.trimmed();
+        line.costTyped = true;
+        break;
     default:
         return false;
     }
     emit dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
     emit edited();
     if (field == LineField::Quantity || field == LineField::Price || field == LineField::Discount
-        || field == LineField::TaxRate)
+        || field == LineField::TaxRate || field == LineField::Cost)
         emit numberTyped(index.row(), field, text);
     return true;
 }
@@ -401,6 +417,8 @@ bool LineModel::isEditableField(const LineEntry &line, LineField field) const
     case LineField::TaxRate:
     case LineField::Remark:
         return line.chosen;
+    case LineField::Cost:
+        return line.chosen && !m_costColumn.isEmpty();
     default:
         return false;
     }
