@@ -3,14 +3,17 @@
 #include "core/connection.h"
 #include "core/datafolder.h"
 #include "core/dberror.h"
+#include "maintenance/backup.h"
 #include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/messagebox.h"
+#include "ui/common/progress.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
 #include "ui/loans/registration.h"
+#include "ui/maintenance/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
@@ -62,6 +65,7 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerStatementScreens(registry);
     ui::registerMoneyScreens(registry);
     ui::registerPosScreens(registry);
+    ui::registerMaintenanceScreens(registry);
 }
 
 } // namespace
@@ -100,5 +104,11 @@ int main(int argc, char *argv[])
     ui::MainWindow window(workspace, registry);
     window.showMaximized();
     ui::addGspReminders(window, workspace);
-    return app.exec();
+    const int status = app.exec();
+    {
+        // The daily backup on leaving, when the parameters ask for one.
+        ui::BusyIndicator busy(nullptr, QStringLiteral("正在自动备份帐套数据…"));
+        maintenance::dailyBackup(*opened.session);
+    }
+    return status;
 }

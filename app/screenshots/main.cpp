@@ -5,7 +5,7 @@
 #include "app/screenshots/documents.h"
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/loans.h"
-#include "app/screenshots/stock.h"
+#include "app/screenshots/maintenance.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
 #include "app/screenshots/money.h"
@@ -13,6 +13,7 @@
 #include "app/screenshots/reports.h"
 #include "app/screenshots/sales.h"
 #include "app/screenshots/statistics.h"
+#include "app/screenshots/stock.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -28,6 +29,7 @@
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
 #include "ui/loans/registration.h"
+#include "ui/maintenance/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
@@ -279,6 +281,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerStatementScreens(registry);
     ui::registerMoneyScreens(registry);
     ui::registerPosScreens(registry);
+    ui::registerMaintenanceScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -315,6 +318,7 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootLoans(shots, window, workspace);
     shootStock(shots, window, workspace);
     shootMoney(shots, window, workspace);
+    shootMaintenance(shots, window, workspace);
 }
 
 } // namespace
