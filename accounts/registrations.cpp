@@ -221,6 +221,25 @@ Outcome post(shell::Session &session, const Registration &r)
     return Outcome::done();
 }
 
+// A checked registration's postings follow its new date: the ledger rows (its written-off row
+// too), its journal line and its cash row, each book recalculated from the earlier date.
+void moveCheckedRows(
+    core::Connection &db, const Registration &r, const QString &date, const QString &from)
+{
+    db.exec(QStringLiteral("update jxc_ysyfk set k_rq=? where gl_djh=? or gl_djh2=?"),
+        { date, r.number, r.number });
+    db.exec(
+        QStringLiteral("update jxc_goodslist set gl_kdrq=? where gl_djh=?"), { date, r.number });
+    QStringList cashAccounts;
+    for (const QSqlRecord &row : db.rows(
+             QStringLiteral("select distinct xj_kmmc from jxc_xjyh where gl_djh=?"), { r.number }))
+        cashAccounts.append(row.value(0).toString());
+    db.exec(QStringLiteral("update jxc_xjyh set xj_rq=? where gl_djh=?"), { date, r.number });
+    recalculateLedger(db, r.party, r.text("k_ghskh"), from);
+    for (const QString &account : cashAccounts)
+        recalculateCash(db, account, from);
+}
+
 // The status read again inside the transaction: another workstation may have got there first.
 bool checkedNow(core::Connection &connection, const QString &number)
 {
@@ -354,6 +373,31 @@ Outcome deleteRegistration(shell::Session &session, const QString &number)
         if (checkedNow(db, number))
             return core::refuse(session.ui(), texts::checkedCannotDelete(number));
         db.exec(QStringLiteral("delete from jxc_ysyfk_dj where gl_djh=?"), { number });
+        transaction.commit();
+        return Outcome::done();
+    });
+}
+
+Outcome changeRegistrationDate(shell::Session &session, const QString &number, const QString &date)
+{
+    if (!isDateText(date))
+        return core::refuse(session.ui(), texts::dateInvalid());
+    core::Connection &db = session.db();
+    if (!readRegistration(db, number))
+        return core::refuse(session.ui(), texts::documentMissing(number));
+    const Outcome allowed = shell::requireRight(session, "wlzk", 11);
+    if (!allowed)
+        return allowed;
+    return core::guarded(session.ui(), [&] {
+        core::Transaction transaction(db);
+        const auto r = readRegistration(db, number);
+        if (!r)
+            return core::refuse(session.ui(), texts::documentMissing(number));
+        const QString old = r->text("k_rq");
+        db.exec(QStringLiteral("update jxc_ysyfk_dj set k_rq=? where gl_djh=?"), { date, number });
+        if (r->checked)
+            moveCheckedRows(db, *r, date, std::min(old, date));
+        session.log(texts::registrationDateChangedLog(number, old, date));
         transaction.commit();
         return Outcome::done();
     });

@@ -45,6 +45,9 @@ Result<QString> saveRegistration(shell::Session &session, const RegistrationDraf
 Outcome checkRegistration(shell::Session &session, const QString &number);
 // Asks, then removes its journal, cash and ledger rows, recalculates and sets it unchecked.
 Outcome uncheckRegistration(shell::Session &session, const QString &number);
+// "修改收付款日期": gives the registration a new date; a checked one's ledger rows, journal line
+// and cash row move with it and their books are recalculated from the earlier of the two dates.
+Outcome changeRegistrationDate(shell::Session &session, const QString &number, const QString &date);
 // Deletes an unchecked registration.
 Outcome deleteRegistration(shell::Session &session, const QString &number);
 

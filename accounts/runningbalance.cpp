@@ -1,6 +1,12 @@
 #include "accounts/runningbalance.h"
 
 #include "core/connection.h"
+#include "core/rounding.h"
+
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+#include <cmath>
 
 namespace medistock::accounts {
 
@@ -28,7 +34,8 @@ double firstNumber(core::Connection &connection, const QString &sql, const QVari
 const RunningBook &ledgerBook()
 {
     static const RunningBook book { "jxc_ysyfk", "k_ljje", "k_rq",
-        "coalesce(k_qcje,0)+coalesce(k_yfje,0)-coalesce(k_sfje,0)", "k_type=? and k_ghskh=?" };
+        "coalesce(k_qcje,0)+coalesce(k_yfje,0)-coalesce(k_sfje,0)", "k_type=? and k_ghskh=?",
+        "k_type,k_ghskh" };
     return book;
 }
 
@@ -36,14 +43,14 @@ const RunningBook &invoiceBook()
 {
     static const RunningBook book { "jxc_fpdjb", "fp_ljje", "fp_rq",
         "coalesce(fp_qcje,0)+coalesce(fp_yfje,0)-coalesce(fp_kpje,0)",
-        "fp_check<>0 and fp_type=? and fp_ghskh=?" };
+        "fp_check<>0 and fp_type=? and fp_ghskh=?", "fp_type,fp_ghskh" };
     return book;
 }
 
 const RunningBook &cashBook()
 {
     static const RunningBook book { "jxc_xjyh", "xj_ljje", "xj_rq", "coalesce(xj_je,0)",
-        "xj_chk='1' and xj_kmmc=?" };
+        "xj_chk='1' and xj_kmmc=?", "xj_kmmc" };
     return book;
 }
 
@@ -93,6 +100,40 @@ double rerunFrom(core::Connection &connection, const RunningBook &book, const QV
     const QVariant last = connection.firstValue(
         lastRowSql(book, QStringLiteral(" and %1>=?").arg(name(book.date))), params);
     return last.isValid() ? last.toDouble() : opening;
+}
+
+QList<QVariantList> chainsOf(core::Connection &connection, const RunningBook &book)
+{
+    const QString keys = name(book.keys);
+    const int count = int(keys.count(QLatin1Char(',')) + 1);
+    QList<QVariantList> chains;
+    connection.forEach(
+        QStringLiteral("select %1 from %2 group by %1 order by %1").arg(keys, name(book.table)), {},
+        [&](const QSqlQuery &q) {
+            QVariantList chain;
+            for (int i = 0; i < count; ++i)
+                chain.append(q.value(i).toString());
+            chains.append(chain);
+        });
+    return chains;
+}
+
+QList<BalanceDrift> balanceDrifts(
+    core::Connection &connection, const RunningBook &book, const QVariantList &chain)
+{
+    QList<BalanceDrift> drifts;
+    double sum = 0;
+    connection.forEach(QStringLiteral("select id,%1,%2,%3 from %4 where %5 order by %1,id")
+                           .arg(name(book.date), name(book.delta), name(book.balance),
+                               name(book.table), name(book.chain)),
+        chain, [&](const QSqlQuery &q) {
+            sum += q.value(2).toDouble();
+            const double computed = core::roundTo(sum, 8);
+            const double stored = q.value(3).toDouble();
+            if (q.value(3).isNull() || std::abs(stored - computed) > 0.000001)
+                drifts.append({ q.value(0).toLongLong(), q.value(1).toString(), stored, computed });
+        });
+    return drifts;
 }
 
 } // namespace medistock::accounts

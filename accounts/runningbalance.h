@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QVariantList>
 
@@ -18,6 +19,7 @@ struct RunningBook
     const char *date; // the order column, text "yyyy-MM-dd"
     const char *delta; // what one row adds to the balance
     const char *chain; // the rows of one chain, with "?" for the chain's values
+    const char *keys; // the columns whose values name a chain, in the order of chain's "?"
 };
 
 // jxc_ysyfk per k_type and k_ghskh: k_qcje + k_yfje - k_sfje.
@@ -40,5 +42,21 @@ double lastBalance(
 // changes; runs inside the caller's transaction.
 double rerunFrom(core::Connection &connection, const RunningBook &book, const QVariantList &chain,
     const QString &date);
+
+// A row whose stored balance differs from the chain's recomputation.
+struct BalanceDrift
+{
+    qint64 id = 0;
+    QString date;
+    double stored = 0;
+    double computed = 0;
+};
+
+// The values of the key columns of every chain of the book, one list per chain.
+QList<QVariantList> chainsOf(core::Connection &connection, const RunningBook &book);
+// Recomputes the chain from its first row, as rerunFrom would, without writing; the rows whose
+// stored balance differs, in date-then-id order.
+QList<BalanceDrift> balanceDrifts(
+    core::Connection &connection, const RunningBook &book, const QVariantList &chain);
 
 } // namespace medistock::accounts

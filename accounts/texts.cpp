@@ -271,6 +271,12 @@ QString registrationCheckedLog(RegistrationKind kind, const QString &party, cons
         QStringLiteral("审核") + registrationAction(kind), registrationParty(kind), party, amount);
 }
 
+QString registrationDateChangedLog(
+    const QString &number, const QString &oldDate, const QString &newDate)
+{
+    return QStringLiteral("修改收付款日期，单据：%1，%2改为%3").arg(number, oldDate, newDate);
+}
+
 QString registrationUncheckedLog(RegistrationKind kind, const QString &party, const QString &amount)
 {
     return partyLog(QStringLiteral("取消审核") + registrationAction(kind), registrationParty(kind),

@@ -59,6 +59,8 @@ QString invoiceRecalcDone();
 QString registrationCheckedLog(RegistrationKind kind, const QString &party, const QString &amount);
 QString registrationUncheckedLog(
     RegistrationKind kind, const QString &party, const QString &amount);
+QString registrationDateChangedLog(
+    const QString &number, const QString &oldDate, const QString &newDate);
 QString invoicingAddedLog(PartyKind kind, const QString &party, const QString &amount);
 QString invoicingChangedLog(PartyKind kind, const QString &party, const QString &amount);
 QString invoiceRegisteredLog(PartyKind kind, const QString &party, const QString &amount);

@@ -110,9 +110,10 @@ Result<ValidDocument> validateDraft(
 
 // The numbers typed on a document, checked as the save checks them (core/numbers.h has the limits):
 // screens call these as a cell or field is left, so that it shows the refusal the save would.
-// A line's quantity (0 to 100 000 000), price (0 to 100 000 000), tax rate (percent, 0 to 100;
-// empty reads 0) and discount rate (0 to 1; empty reads 1); `row` counts from 1.
-enum class LineNumber { Quantity, Price, TaxRate, DiscountRate };
+// A line's quantity (0 to 100 000 000), price and cost price (0 to 100 000 000), tax rate
+// (percent, 0 to 100; empty reads 0) and discount rate (0 to 1; empty reads 1); `row` counts
+// from 1.
+enum class LineNumber { Quantity, Price, TaxRate, DiscountRate, Cost };
 Result<double> readLineNumber(int row, LineNumber which, const QString &typed);
 // A header amount (the whole-document discount, the paid amount, an invoice amount, freight): money
 // from 0 to 1 000 000 000 000, not NaN; the refusal text naming `label`, empty when it fits.

@@ -92,10 +92,13 @@ void removeUncheckedCopies(
     const shell::Session &session, const DocumentKind &kind, const QString &number)
 {
     const HeaderColumns &h = kind.header;
+    // Only beside a checked header: on another workstation the checked copy may have been
+    // unchecked since it was read, and then the unchecked row is the document itself.
     session.db().exec(
-        QStringLiteral("delete from %1 where %2=? and %3=?")
+        QStringLiteral("delete from %1 where %2=? and %3=? and exists "
+                       "(select 1 from %1 where %2=? and %3=?)")
             .arg(QLatin1String(h.table), QLatin1String(h.status), QLatin1String(h.number)),
-        { 0, number });
+        { 0, number, 1, number });
 }
 
 } // namespace medistock::documents

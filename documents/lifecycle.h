@@ -47,7 +47,8 @@ void markChecked(const shell::Session &session, const DocumentKind &kind, qint64
 // kind's own marks `cleared` (amount paid back, closing marks) set to 0.
 void markUnchecked(const shell::Session &session, const DocumentKind &kind, const QString &number,
     const QStringList &cleared = {});
-// Unchecked copies of the number left beside its checked header are deleted.
+// Unchecked copies of the number left beside its checked header are deleted; without a checked
+// header nothing is.
 void removeUncheckedCopies(
     const shell::Session &session, const DocumentKind &kind, const QString &number);
 

@@ -126,6 +126,11 @@ QString priceField(int row)
     return line(row) + QStringLiteral("单价");
 }
 
+QString costField(int row)
+{
+    return line(row) + QStringLiteral("成本价");
+}
+
 QString taxRateField(int row)
 {
     return line(row) + QStringLiteral("税率");

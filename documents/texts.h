@@ -31,6 +31,7 @@ QString expiryBeforeProduced(int row);
 // The numbers of a line as number refusals name them ("第1行：数量")
 QString quantityField(int row);
 QString priceField(int row);
+QString costField(int row);
 QString taxRateField(int row);
 QString discountRateField(int row);
 QString baseQuantityField(int row);

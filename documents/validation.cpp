@@ -269,6 +269,8 @@ Result<double> readLineNumber(int row, LineNumber which, const QString &typed)
         return core::readNumber(texts::quantityField(row), typed, core::NumberKind::Quantity);
     case LineNumber::Price:
         return core::readNumber(texts::priceField(row), typed, core::NumberKind::Price);
+    case LineNumber::Cost:
+        return core::readNumber(texts::costField(row), typed, core::NumberKind::Price);
     case LineNumber::TaxRate:
         return core::readNumber(texts::taxRateField(row), typed, core::NumberKind::Percent, 0);
     case LineNumber::DiscountRate:

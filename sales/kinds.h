@@ -22,6 +22,7 @@ constexpr int checkSale = 7; // 商品销售审核
 constexpr int checkReturn = 8; // 顾客退货审核
 constexpr int uncheckSale = 11; // 商品销售取消审核
 constexpr int uncheckReturn = 12; // 顾客退货取消审核
+constexpr int changeSaleCost = 14; // 允许修改销售成本价
 constexpr int saveOrder = 15; // 销售订单
 constexpr int checkOrder = 16; // 销售订单审核
 constexpr int deleteSale = 19; // 允许删除商品销售待审核单据

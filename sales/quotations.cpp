@@ -78,6 +78,9 @@ Result<int> addQuotations(const shell::Session &session, QuotationSide side, con
     const QString &date, const QString &employee)
 {
     const SideColumns &c = columnsOf(side);
+    if (party.trimmed().isEmpty())
+        return core::refuse(
+            session.ui(), texts::quotationPartyMissing(side == QuotationSide::Customer));
     int added = 0;
     const Outcome outcome = core::guarded(session.ui(), [&] {
         core::Connection &db = session.db();

@@ -24,7 +24,8 @@ Outcome addQuotationWorkRow(
 void clearQuotationWork(const shell::Session &session);
 
 // Copies the operator's work rows into the side's table for the party, dated `date`, with the
-// employee, empties them and logs, in one transaction. Returns how many were added.
+// employee, empties them and logs, in one transaction. Returns how many were added. Refused
+// without a party.
 Result<int> addQuotations(const shell::Session &session, QuotationSide side, const QString &party,
     const QString &date, const QString &employee);
 

@@ -175,17 +175,13 @@ QString saleCheckHook(const shell::Session &, const QString &, const QString &)
     return texts::checkHookOk();
 }
 
-Result<CheckAllSummary> checkAllSales(
-    shell::Session &session, const QString &from, const QString &to)
+namespace {
+
+// Asks once, then checks each listed sale that its hook lets through; the refusals of one sale
+// are told and the others go on.
+Result<CheckAllSummary> checkEach(shell::Session &session, const QList<Listed> &listed)
 {
     CheckAllSummary summary;
-    QList<Listed> listed;
-    const Outcome read = core::guarded(session.ui(), [&] {
-        listed = uncheckedSales(session, from, to);
-        return Outcome::done();
-    });
-    if (!read)
-        return read;
     summary.listed = int(listed.size());
     if (listed.isEmpty())
         return summary;
@@ -201,6 +197,38 @@ Result<CheckAllSummary> checkAllSales(
             ++summary.checked;
     }
     return summary;
+}
+
+} // namespace
+
+Result<CheckAllSummary> checkAllSales(
+    shell::Session &session, const QString &from, const QString &to)
+{
+    QList<Listed> listed;
+    const Outcome read = core::guarded(session.ui(), [&] {
+        listed = uncheckedSales(session, from, to);
+        return Outcome::done();
+    });
+    if (!read)
+        return read;
+    return checkEach(session, listed);
+}
+
+Result<CheckAllSummary> checkListedSales(shell::Session &session, const QStringList &numbers)
+{
+    QList<Listed> listed;
+    const Outcome read = core::guarded(session.ui(), [&] {
+        for (const QString &number : numbers)
+            session.db().forEach(QStringLiteral("select gl_djh,ls_xsrq from jxc_lsxsd "
+                                                "where ls_status=? and gl_djh=?"),
+                { 0, number }, [&](const QSqlQuery &q) {
+                    listed.append({ q.value(0).toString(), q.value(1).toString() });
+                });
+        return Outcome::done();
+    });
+    if (!read)
+        return read;
+    return checkEach(session, listed);
 }
 
 Outcome uncheckSale(shell::Session &session, const QString &number)

@@ -3,6 +3,7 @@
 #include "core/outcome.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace medistock::shell {
 class Session;
@@ -45,6 +46,10 @@ struct CheckAllSummary
 // own (its refusals told, the others go on). Nothing is asked when none is listed.
 Result<CheckAllSummary> checkAllSales(
     shell::Session &session, const QString &from, const QString &to);
+
+// The same for the sales a list shows (its filters chosen by the clerk), in the list's order; a
+// number no longer unchecked is passed over and not counted.
+Result<CheckAllSummary> checkListedSales(shell::Session &session, const QStringList &numbers);
 
 // Unchecks a sale, in this order: the sale must be checked; refused while an issue note or a
 // customer return refers to it; right "商品销售取消审核" and the checker rule; the question. Then

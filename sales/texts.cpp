@@ -165,6 +165,11 @@ QString quotationWorkEmpty()
     return QStringLiteral("没有选择报价的商品！");
 }
 
+QString quotationPartyMissing(bool customer)
+{
+    return customer ? QStringLiteral("请选择客户！") : QStringLiteral("请选择供货商！");
+}
+
 QString quotedPriceField()
 {
     return QStringLiteral("报价");

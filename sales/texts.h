@@ -48,6 +48,7 @@ QString checkHookOk();
 QString quotationGoodsRefused(const QString &goods);
 QString quotationMissing(qint64 id);
 QString quotationWorkEmpty();
+QString quotationPartyMissing(bool customer);
 QString quotedPriceField(); // "报价", as number refusals name it
 
 // Log lines

@@ -10,6 +10,8 @@
 
 #include <QSqlRecord>
 
+#include <algorithm>
+
 namespace medistock::stock {
 
 namespace {
@@ -98,6 +100,15 @@ QString saleLimitCheck(const shell::Session &session, const QString &number)
     if (found.isEmpty())
         return {};
     return saleLimitText(found.value(0).toString(), found.value(1).toDouble());
+}
+
+double saleLimit(const shell::Session &session, const QString &goods)
+{
+    const double limit
+        = session.db()
+              .firstValue(QStringLiteral("select g_xzsl from jxc_goods where g_sn=?"), { goods })
+              .toDouble();
+    return std::max(limit, 0.0);
 }
 
 } // namespace medistock::stock

@@ -34,5 +34,7 @@ Outcome confirmBatchCheck(const shell::Session &session, const QString &number,
 // (ls_sl, summed per goods). Returns the message for the first goods over its limit; empty when
 // every goods keeps it. A limit of 0 or less is no limit.
 QString saleLimitCheck(const shell::Session &session, const QString &number);
+// The goods' per-sale maximum as saleLimitCheck compares it; 0 for none (or no such goods).
+double saleLimit(const shell::Session &session, const QString &goods);
 
 } // namespace medistock::stock

@@ -111,8 +111,42 @@ QList<BatchStock> stockByBatch(const shell::Session &session, const StockFilter 
     return rows;
 }
 
+QList<StockAlarm> stockAlarms(const shell::Session &session, const StockFilter &filter)
+{
+    const bool oneWarehouse = !filter.warehouse.isEmpty();
+    StockFilter goodsFilter = filter;
+    goodsFilter.warehouse.clear();
+    goodsFilter.inStockOnly = false;
+    // The goods row stands in for the stock table `s`, so that the filter's conditions apply.
+    QVariantList params;
+    if (oneWarehouse)
+        params << filter.warehouse << filter.warehouse << filter.warehouse;
+    const QString where = conditions(goodsFilter, QString(), params);
+    const QString quantity = oneWarehouse
+        ? QStringLiteral("coalesce((select sum(kc_sl) from jxc_kcsp where g_sn=s.g_sn and "
+                         "ck_sn=?),0)")
+        : QStringLiteral("s.g_kc");
+    const QString warehouse = oneWarehouse
+        ? QStringLiteral("?,(select ck_name from jxc_ckxx where ck_sn=? limit 1)")
+        : QStringLiteral("'',''");
+    QList<StockAlarm> rows;
+    session.db().forEach(
+        QStringLiteral("select s.g_sn,s.g_name,s.gg_name,s.dw_name,s.g_sccs,%1,%2,s.g_zdkc,s.g_jy "
+                       "from jxc_goods s,jxc_goods g where g.g_sn=s.g_sn and s.g_zdkc>0 and %3 "
+                       "order by s.g_sn")
+            .arg(warehouse, quantity, where),
+        params, [&](const QSqlQuery &q) {
+            StockAlarm row { goodsOf(q), q.value(7).toDouble(), q.value(8).toDouble(), 0 };
+            row.shortage = session.params().roundQuantity(row.minimum - row.quantity);
+            if (!shell::readFlag(q.value(9))
+                && session.params().roundQuantity(row.quantity) < row.minimum)
+                rows.append(row);
+        });
+    return rows;
+}
+
 QList<LedgerEntry> goodsLedger(const shell::Session &session, const QString &goods,
-    const QString &warehouse, const QString &from, const QString &to)
+    const QString &warehouse, const QString &from, const QString &to, const QString &kind)
 {
     QStringList where { QStringLiteral("g_sn=?") };
     QVariantList params { goods };
@@ -123,6 +157,7 @@ QList<LedgerEntry> goodsLedger(const shell::Session &session, const QString &goo
         }
     };
     add("ck_sn=?", warehouse);
+    add("gl_flag=?", kind);
     add("gl_kdrq>=?", from);
     add("gl_kdrq<=?", to.isEmpty() ? to : to + QStringLiteral(" 23:59:59"));
     QList<LedgerEntry> entries;

@@ -65,6 +65,21 @@ QList<WarehouseStock> stockByWarehouse(const shell::Session &session, const Stoc
 // By goods code, warehouse, expiry, batch number and production date.
 QList<BatchStock> stockByBatch(const shell::Session &session, const StockFilter &filter);
 
+// A goods whose stock is below its minimum g_zdkc ("最低库存"); goods without a minimum (0) never
+// are. The goods row keeps no maximum, so there is no alarm for too much stock.
+struct StockAlarm
+{
+    StockGoods goods; // warehouse fields set only when the alarm is for one warehouse
+    double quantity = 0; // kc_sl of the warehouse, or the goods' total g_kc
+    double minimum = 0; // g_zdkc
+    double shortage = 0; // minimum - quantity
+};
+
+// The alarms of one warehouse (its kc_sl, 0 where it never held the goods), or of all
+// warehouses together (g_kc) when `filter.warehouse` is empty, narrowed by the filter's class and
+// text; the disabled goods and the discount line are left out. By goods code.
+QList<StockAlarm> stockAlarms(const shell::Session &session, const StockFilter &filter);
+
 // One movement of the goods ledger as the ledger view shows it.
 struct LedgerEntry
 {
@@ -85,8 +100,10 @@ struct LedgerEntry
 };
 
 // The ledger rows of a goods in a warehouse (every warehouse when `warehouse` is empty) dated
-// from `from` to `to` ("yyyy-MM-dd", each empty for no limit), by warehouse, date and id.
+// from `from` to `to` ("yyyy-MM-dd", each empty for no limit), of one kind gl_flag (any when
+// `kind` is empty), by warehouse, date and id. The running figures are those of the whole
+// ledger: a row keeps the stock after it, whichever rows are left out around it.
 QList<LedgerEntry> goodsLedger(const shell::Session &session, const QString &goods,
-    const QString &warehouse, const QString &from, const QString &to);
+    const QString &warehouse, const QString &from, const QString &to, const QString &kind = {});
 
 } // namespace medistock::stock

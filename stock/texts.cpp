@@ -96,4 +96,42 @@ QString ledgerKindText(const QString &kind, double quantity)
     return kind;
 }
 
+QStringList ledgerKinds()
+{
+    return { QStringLiteral("qc"), QStringLiteral("cj"), QStringLiteral("ct"), QStringLiteral("xs"),
+        QStringLiteral("xt"), QStringLiteral("db"), QStringLiteral("pd"), QStringLiteral("bs"),
+        QStringLiteral("by"), QStringLiteral("cf"), QStringLiteral("kb"), QStringLiteral("jh"),
+        QStringLiteral("hh"), QStringLiteral("dh") };
+}
+
+QString averageField()
+{
+    return QStringLiteral("成本均价");
+}
+
+QString changeAverageQuestion(const QString &goodsName, double from, double to)
+{
+    return QStringLiteral(
+        "确认将商品“%1”的成本均价由 %2 改为 %3 吗？\r\n"
+        "此后的业务按新均价计算成本；日期在最后一笔业务之前的单据审核后将按原业务重算。")
+        .arg(goodsName, core::plainNumber(from), core::plainNumber(to));
+}
+
+QString averageChangedLog(const QString &goods, const QString &goodsName, double from, double to)
+{
+    return QStringLiteral("修改商品均价：%1 %2 %3 -> %4")
+        .arg(goods, goodsName, core::plainNumber(from), core::plainNumber(to));
+}
+
+QString ledgerKindName(const QString &kind)
+{
+    if (kind == QLatin1String("db"))
+        return QStringLiteral("库存调拨单");
+    if (kind == QLatin1String("cf"))
+        return QStringLiteral("商品拆分单");
+    if (kind == QLatin1String("kb"))
+        return QStringLiteral("商品捆绑单");
+    return ledgerKindText(kind, 1);
+}
+
 } // namespace medistock::stock

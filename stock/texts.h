@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace medistock::stock {
 
@@ -34,5 +35,15 @@ QString unknownCheckKindText(const QString &kind);
 // What a ledger row is, by its kind gl_flag and the sign of its quantity: "采购入库单",
 // "库存调拨入库" ... The kind itself for one without a name.
 QString ledgerKindText(const QString &kind, double quantity);
+
+// The kinds a ledger may be narrowed to, in the order a list offers them, and the name of each
+// kind as a whole ("库存调拨单" for both sides of a transfer).
+QStringList ledgerKinds();
+
+// The average changed by hand: the typed field, the question and the log line.
+QString averageField(); // "成本均价"
+QString changeAverageQuestion(const QString &goodsName, double from, double to);
+QString averageChangedLog(const QString &goods, const QString &goodsName, double from, double to);
+QString ledgerKindName(const QString &kind);
 
 } // namespace medistock::stock

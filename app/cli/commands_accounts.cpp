@@ -150,6 +150,13 @@ int runAccountRename(Context &context, Args &args)
     return ExitDone;
 }
 
+int runRegistrationDate(Context &context, Args &args)
+{
+    const QStringList positional = takePositional(context, args, 2, 2);
+    require(changeRegistrationDate(context.session(), positional[0], positional[1]));
+    return ExitDone;
+}
+
 int runAccountOpening(Context &context, Args &args)
 {
     const QStringList positional = takePositional(context, args, 2, 2);
@@ -350,6 +357,9 @@ void addAccountsCommands(Registry &registry)
             QStringLiteral("增加现金银行账户，输出其编号"), runAccountAdd });
     registry.add({ QStringLiteral("account-rename"), QStringLiteral("NAME NEWNAME"),
         QStringLiteral("修改现金银行账户名称"), runAccountRename });
+    registry.add({ QStringLiteral("registration-date"), QStringLiteral("NUMBER DATE"),
+        QStringLiteral("修改收付款日期（已审核的登记连同其帐款与现金记录）"),
+        runRegistrationDate });
     registry.add({ QStringLiteral("account-opening"), QStringLiteral("NAME AMOUNT"),
         QStringLiteral("建立现金银行账户的期初金额"), runAccountOpening });
     registry.add({ QStringLiteral("account-delete"), QStringLiteral("NAME"),

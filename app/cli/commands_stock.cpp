@@ -3,6 +3,7 @@
 #include "app/cli/registry.h"
 
 #include "shell/session.h"
+#include "stock/average.h"
 #include "stock/checks.h"
 #include "stock/costs.h"
 #include "stock/stockquery.h"
@@ -189,6 +190,32 @@ int runStockQuery(Context &context, Args &args)
     return ExitDone;
 }
 
+int runStockAlarm(Context &context, Args &args)
+{
+    const stock::StockFilter filter = stockFilter(context, args);
+    requireNoMore(context, args);
+    printRow(context,
+        { QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("规格"),
+            QStringLiteral("单位"), QStringLiteral("仓库"), QStringLiteral("库存数"),
+            QStringLiteral("最低库存"), QStringLiteral("短缺数量") });
+    for (const stock::StockAlarm &row : stock::stockAlarms(context.session(), filter))
+        printRow(context,
+            { row.goods.code, row.goods.name, row.goods.packing, row.goods.unit,
+                row.goods.warehouseName, num(row.quantity), num(row.minimum), num(row.shortage) });
+    return ExitDone;
+}
+
+// GOODS PRICE [WAREHOUSE]: the question is answered by --yes or at the terminal.
+int runSetAverage(Context &context, Args &args)
+{
+    const QStringList positional = takePositional(context, args, 2, 3);
+    shell::Session &session = context.session();
+    require(stock::changeAverage(session, positional[0], positional.value(2), positional[1]));
+    const auto totals = stock::goodsTotals(session, positional[0]);
+    context.out() << QStringLiteral("商品均价：") << num(totals ? totals->average : 0) << Qt::endl;
+    return ExitDone;
+}
+
 } // namespace
 
 void addStockCommands(Registry &registry)
@@ -201,6 +228,11 @@ void addStockCommands(Registry &registry)
         QStringLiteral("[--warehouse W] [--class C] [--text T] [--in-stock] [--batches] "
                        "[--expiring DAYS]"),
         QStringLiteral("当前库存查询：按仓库或按批次（含近效期筛选）"), runStockQuery });
+    registry.add(
+        { QStringLiteral("stock-alarm"), QStringLiteral("[--warehouse W] [--class C] [--text T]"),
+            QStringLiteral("库存报警查询：库存低于最低库存的商品"), runStockAlarm });
+    registry.add({ QStringLiteral("set-average"), QStringLiteral("GOODS PRICE [WAREHOUSE]"),
+        QStringLiteral("修改商品均价（不指定仓库为所有仓库）"), runSetAverage });
     registry.add({ QStringLiteral("cost"), QStringLiteral("GOODS WAREHOUSE [DATE]"),
         QStringLiteral("成本价：指定日期的成本价，不指定日期为当前成本价"), runCost });
     registry.add({ QStringLiteral("batch-check"), QStringLiteral("KIND NUMBER WAREHOUSE"),

@@ -41,6 +41,7 @@ int main(int argc, char *argv[])
     medistock::cli::addLoansCommands(registry);
     medistock::cli::addStatementCommands(registry);
     medistock::cli::addPosCommands(registry);
+    medistock::cli::addMaintenanceCommands(registry);
 
     // Commands that lay out text need fonts, which only a GUI application has; they run on the
     // offscreen platform unless another is chosen, so no display is needed.

@@ -66,6 +66,8 @@ void addStatisticsCommands(Registry &registry);
 void addReportCommands(Registry &registry);
 // The till's reports, cash in and out and the shift handover.
 void addPosCommands(Registry &registry);
+// verify, backup and restore.
+void addMaintenanceCommands(Registry &registry);
 
 // The command an argument list runs (global options skipped); empty when there is none.
 QString commandName(const QStringList &arguments);

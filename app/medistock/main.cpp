@@ -4,14 +4,17 @@
 #include "core/connectionchoice.h"
 #include "core/datafolder.h"
 #include "core/dberror.h"
+#include "maintenance/backup.h"
 #include "ui/accounts/registration.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/messagebox.h"
+#include "ui/common/progress.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
 #include "ui/loans/registration.h"
+#include "ui/maintenance/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
@@ -61,7 +64,9 @@ void registerScreens(ui::ScreenRegistry &registry)
     ui::registerReportScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
+    ui::registerMoneyScreens(registry);
     ui::registerPosScreens(registry);
+    ui::registerMaintenanceScreens(registry);
 }
 
 } // namespace
@@ -104,5 +109,11 @@ int main(int argc, char *argv[])
     ui::MainWindow window(workspace, registry);
     window.showMaximized();
     ui::addGspReminders(window, workspace);
-    return app.exec();
+    const int status = app.exec();
+    {
+        // The daily backup on leaving, when the parameters ask for one.
+        ui::BusyIndicator busy(nullptr, QStringLiteral("正在自动备份帐套数据…"));
+        maintenance::dailyBackup(*opened.session);
+    }
+    return status;
 }

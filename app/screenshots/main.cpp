@@ -5,12 +5,15 @@
 #include "app/screenshots/documents.h"
 #include "app/screenshots/gsp.h"
 #include "app/screenshots/loans.h"
+#include "app/screenshots/maintenance.h"
 #include "app/screenshots/masterdata.h"
 #include "app/screenshots/members.h"
+#include "app/screenshots/money.h"
 #include "app/screenshots/pos.h"
 #include "app/screenshots/reports.h"
 #include "app/screenshots/sales.h"
 #include "app/screenshots/statistics.h"
+#include "app/screenshots/stock.h"
 #include "core/accountsets.h"
 #include "core/clock.h"
 #include "core/connection.h"
@@ -26,6 +29,7 @@
 #include "ui/common/workspace.h"
 #include "ui/gsp/registration.h"
 #include "ui/loans/registration.h"
+#include "ui/maintenance/registration.h"
 #include "ui/masterdata/registration.h"
 #include "ui/members/registration.h"
 #include "ui/pos/registration.h"
@@ -280,7 +284,9 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     ui::registerReportScreens(registry);
     ui::registerLoanScreens(registry);
     ui::registerStatementScreens(registry);
+    ui::registerMoneyScreens(registry);
     ui::registerPosScreens(registry);
+    ui::registerMaintenanceScreens(registry);
     ui::MainWindow window(workspace, registry);
     window.resize(1280, 800);
     window.show();
@@ -315,6 +321,9 @@ void shootWorkspace(Shooter &shooter, ui::Workspace &workspace, const QString &s
     shootPos(shots, window, workspace);
     shootSales(shots, window, workspace);
     shootLoans(shots, window, workspace);
+    shootStock(shots, window, workspace);
+    shootMoney(shots, window, workspace);
+    shootMaintenance(shots, window, workspace);
 }
 
 } // namespace

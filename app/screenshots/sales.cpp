@@ -3,20 +3,25 @@
 #include "documents/goodslookup.h"
 #include "sales/entry.h"
 #include "sales/orders.h"
+#include "sales/quotations.h"
 #include "sales/salecheck.h"
 #include "shell/session.h"
 #include "ui/common/codenamefield.h"
+#include "ui/common/datefield.h"
 #include "ui/common/picker.h"
 #include "ui/common/workspace.h"
+#include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/linegrid.h"
 #include "ui/documents/pickers.h"
 #include "ui/documents/sourcelinesdialog.h"
 #include "ui/documents/uncheckeddialog.h"
 #include "ui/sales/orderlinesdialog.h"
+#include "ui/sales/quotationscreen.h"
 #include "ui/sales/salekinds.h"
 #include "ui/shell/mainwindow.h"
 
+#include <QComboBox>
 #include <QDate>
 #include <QLineEdit>
 #include <QTabWidget>
@@ -102,9 +107,9 @@ void shootSale(const Shots &shots, ui::MainWindow &window, ui::Workspace &worksp
     shots.shootOver(&window, batches.get(), QStringLiteral("54-sale-batch-picker"));
     batches->hide();
     screen->save();
-    ui::UncheckedDialog unchecked(*screen);
-    shots.shootOver(&window, &unchecked, QStringLiteral("55-unchecked-sales"));
-    unchecked.hide();
+    const auto unchecked = ui::uncheckedSalesDialog(*screen);
+    shots.shootOver(&window, unchecked.get(), QStringLiteral("55-unchecked-sales"));
+    unchecked->hide();
 }
 
 void shootReturn(const Shots &shots, ui::MainWindow &window)
@@ -136,6 +141,54 @@ void shootOrders(const Shots &shots, ui::MainWindow &window, ui::Workspace &work
     import.hide();
 }
 
+void shootQuery(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
+{
+    window.openOperation(QStringLiteral("xsgl"), 4);
+    auto *query = qobject_cast<ui::DocumentListScreen *>(window.tabs()->currentWidget());
+    query->fromField()->setText(today(workspace, 30));
+    query->run();
+    query->grid()->selectRow(0);
+    shots.shoot(&window, QStringLiteral("150-sales-query"));
+}
+
+// Our prices to two customers and a supplier's to us, then the list, the dialog that adds and the
+// price asked for one goods.
+void shootQuotations(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
+{
+    shell::Session &admin = workspace.session;
+    const auto quote = [&](sales::QuotationSide side, const char *party,
+                           QList<std::tuple<const char *, const char *, QString>> goods, int back) {
+        sales::clearQuotationWork(admin);
+        for (const auto &[code, price, note] : goods)
+            sales::addQuotationWorkRow(
+                admin, QString::fromLatin1(code), QString::fromLatin1(price), note);
+        if (!sales::addQuotations(
+                admin, side, QString::fromLatin1(party), today(workspace, back), QString()))
+            qFatal("sample quotations refused");
+    };
+    quote(sales::QuotationSide::Customer, "100002",
+        { { "10020001", "9.2", QStringLiteral("月结客户") }, { "10010001", "11.8", QString() } },
+        20);
+    quote(sales::QuotationSide::Customer, "100003",
+        { { "10030001", "3.1", QStringLiteral("整件价") } }, 5);
+    quote(sales::QuotationSide::Supplier, "100001", { { "10020001", "6.5", QString() } }, 3);
+    window.openOperation(QStringLiteral("rcgl"), 14);
+    auto *list = qobject_cast<ui::QuotationScreen *>(window.tabs()->currentWidget());
+    list->run();
+    list->sideBox()->setFocus();
+    shots.shoot(&window, QStringLiteral("151-quotations"));
+
+    ui::QuotationDialog add(workspace, sales::QuotationSide::Customer, &window);
+    add.partyField()->setChoice(QStringLiteral("100003"), QStringLiteral("康乐社区卫生服务站"));
+    add.goodsField()->setText(QStringLiteral("gml"));
+    shots.shootOver(&window, &add, QStringLiteral("152-quotation-add"));
+    ui::QuotationPriceDialog price(
+        QStringLiteral("我方报价：感冒灵颗粒"), QStringLiteral("13.5"), QString(), nullptr, &add);
+    shots.shootOver(&window, &price, QStringLiteral("153-quotation-price"));
+    price.hide();
+    add.reject();
+}
+
 } // namespace
 
 void shootSales(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
@@ -144,4 +197,6 @@ void shootSales(const Shots &shots, ui::MainWindow &window, ui::Workspace &works
     shootSale(shots, window, workspace);
     shootReturn(shots, window);
     shootOrders(shots, window, workspace);
+    shootQuery(shots, window, workspace);
+    shootQuotations(shots, window, workspace);
 }

@@ -149,15 +149,19 @@ QList<BatchLine> transferBatches(const shell::Session &session, const QString &w
     return lines;
 }
 
-QList<BatchLine> countSheet(const shell::Session &session, const QString &warehouse)
+QList<BatchLine> countSheet(
+    const shell::Session &session, const QString &warehouse, const QString &classCode)
 {
     const shell::Parameters &params = session.params();
     QList<BatchLine> lines;
+    // A class holds its sub-classes: their codes start with its own.
     session.db().forEach(
         QStringLiteral("select t.g_sn,g.g_name,g.dw_name,t.t_ph,t.t_yxq,t.t_scrq,t.t_sl,g.g_jy "
                        "from jxc_tkc t join jxc_goods g on g.g_sn=t.g_sn where t.ck_sn=? and "
-                       "t.g_sn<>? order by t.g_sn,t.t_ph,t.t_yxq,t.t_scrq,t.id"),
-        { warehouse, QStringLiteral("00000000") }, [&](const QSqlQuery &q) {
+                       "t.g_sn<>? and coalesce(g.gc_sn,'') like ? order by "
+                       "t.g_sn,t.t_ph,t.t_yxq,t.t_scrq,t.id"),
+        { warehouse, QStringLiteral("00000000"), classCode + QLatin1Char('%') },
+        [&](const QSqlQuery &q) {
             // Judged at quantity decimals: a batch emptied by decimals is empty.
             if (params.roundQuantity(q.value(6).toDouble()) != 0 && !shell::readFlag(q.value(7)))
                 lines.append(batchLine(q));

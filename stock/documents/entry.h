@@ -36,9 +36,11 @@ QList<BatchLine> transferBatches(const shell::Session &session, const QString &w
     const QString &goods, const QString &date);
 
 // The count sheet a new stock-taking starts from: every batch of the warehouse whose book
-// quantity is not 0, of goods that are not disabled, by goods code, batch number, expiry and
-// production date, each at the current cost.
-QList<BatchLine> countSheet(const shell::Session &session, const QString &warehouse);
+// quantity is not 0, of goods that are not disabled (of the goods class `classCode` and its
+// sub-classes when one is given), by goods code, batch number, expiry and production date, each
+// at the current cost.
+QList<BatchLine> countSheet(
+    const shell::Session &session, const QString &warehouse, const QString &classCode = {});
 
 // Saves a transfer: the two warehouses must differ, and each line's batch must be one of the
 // issuing warehouse's batches. Returns the number.

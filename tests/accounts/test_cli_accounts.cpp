@@ -67,6 +67,11 @@ TEST_F(MoneyCommands, ACollectionIsSavedCheckedAndUncheckedByItsNumber)
         run({ "balance", "kh", "100001", "--as-of", "2025-03-13" }).out, QStringLiteral("0.00\n"));
     EXPECT_EQ(run({ "cash-balance", "现金" }).out, QStringLiteral("100.00\n"));
     EXPECT_TRUE(run({ "show", "SK25031410001" }).out.contains(QStringLiteral("\nk_check=1\n")));
+    EXPECT_EQ(run({ "registration-date", "SK25031410001", "2025-03-20" }).status, 0);
+    EXPECT_EQ(
+        run({ "balance", "kh", "100001", "--as-of", "2025-03-19" }).out, QStringLiteral("0.00\n"));
+    EXPECT_EQ(run({ "registration-date", "SK25031410001", "2025-13-01" }).err,
+        QStringLiteral("日期不正确，请按“yyyy-MM-dd”输入！\n"));
 
     const CliRun declined = run({ "uncheck", "SK25031410001" });
     EXPECT_EQ(declined.status, 1);

@@ -205,3 +205,39 @@ TEST_F(RegistrationsTest, AnUncheckedRegistrationIsRewrittenUnderTheNumberOfItsD
     EXPECT_TRUE(deleteRegistration(session(), QStringLiteral("SK25031610001")));
     EXPECT_EQ(rowCount(db(), QStringLiteral("jxc_ysyfk_dj")), 0);
 }
+
+TEST_F(RegistrationsTest, ANewDateMovesACheckedCollectionsRowsAndRecalculatesBothBooks)
+{
+    owe(PartyKind::Customer, customer(), "2025-03-01", 100.5);
+    owe(PartyKind::Customer, customer(), "2025-03-20", 10);
+    const QString number = checkedRegistration(collection(100, 0.5));
+    EXPECT_EQ(ledgerBalances(PartyKind::Customer, customer()),
+        (std::vector<double> { 100.5, 0.5, 0, 10 }));
+
+    ASSERT_TRUE(changeRegistrationDate(session(), number, QStringLiteral("2025-03-25")).ok());
+
+    EXPECT_EQ(rows(QStringLiteral("select gl_djh,k_rq,k_ljje from jxc_ysyfk order by k_rq,id")),
+        (QStringList { "XS25030110001|2025-03-01|100.5", "XS25032010001|2025-03-20|110.5",
+            "SK25031410001|2025-03-25|10.5", "YS25031410001|2025-03-25|10" }));
+    EXPECT_EQ(figure(PartyKind::Customer, customer()), 10);
+    EXPECT_EQ(rows(QStringLiteral("select k_rq from jxc_ysyfk_dj where gl_djh=?"), { number }),
+        QStringList { "2025-03-25" });
+    EXPECT_EQ(rows(QStringLiteral("select xj_rq,xj_je from jxc_xjyh where gl_djh=?"), { number }),
+        QStringList { "2025-03-25|100" });
+    EXPECT_EQ(rows(QStringLiteral("select gl_kdrq from jxc_goodslist where gl_djh=?"), { number }),
+        QStringList { "2025-03-25" });
+    EXPECT_EQ(
+        lastLog(), QStringLiteral("修改收付款日期，单据：SK25031410001，2025-03-14改为2025-03-25"));
+}
+
+TEST_F(RegistrationsTest, ADateChangeRefusedForABadDateOrAMissingNumberWritesNothing)
+{
+    const QString number = checkedRegistration(collection(100));
+    const QString before = snapshot();
+    EXPECT_FALSE(changeRegistrationDate(session(), number, QStringLiteral("2025-02-30")).ok());
+    EXPECT_FALSE(changeRegistrationDate(
+        session(), QStringLiteral("SK25031499999"), QStringLiteral("2025-03-15"))
+                     .ok());
+    EXPECT_EQ(snapshot(), before);
+    EXPECT_EQ(ui.informed.size(), 2);
+}

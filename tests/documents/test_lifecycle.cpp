@@ -78,6 +78,10 @@ TEST_F(HeaderStatusTest, CheckMarksTheRowReadAndDropsItsUncheckedCopy)
     EXPECT_TRUE(requireStatus(session(), test::plainKind(), bs, 1));
     markUnchecked(session(), test::plainKind(), bs);
     EXPECT_EQ(rows("jxc_bsd", "id,bs_status,bs_checker,bs_chkrq"), QStringList { "1|0||" });
+    // A workstation that read it checked before this uncheck must not take the document itself
+    // for a stray copy.
+    removeUncheckedCopies(session(), test::plainKind(), bs);
+    EXPECT_EQ(rows("jxc_bsd", "id,bs_status,bs_checker,bs_chkrq"), QStringList { "1|0||" });
     EXPECT_FALSE(requireStatus(session(), test::plainKind(), bs, 1));
     EXPECT_FALSE(requireStatus(session(), test::plainKind(), "BS25031499999", 0));
     EXPECT_EQ(ui.informed,

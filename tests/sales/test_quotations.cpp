@@ -25,6 +25,12 @@ TEST_F(SalesTest, QuotationsAreAddedFromTheOperatorsWorkRowsChangedQueriedAndDel
     ASSERT_TRUE(
         sales::addQuotationWorkRow(session(), QStringLiteral("200002"), QStringLiteral("7"), {}));
 
+    // Without a party nothing is added and the work rows wait for one.
+    EXPECT_FALSE(sales::addQuotations(
+        session(), QuotationSide::Customer, QStringLiteral(" "), QStringLiteral("2025-03-14"), {}));
+    EXPECT_EQ(ui.informed.last(), QStringLiteral("请选择客户！"));
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_khbj")), 0);
+    EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_tempspxf")), 2);
     const Result<int> added = sales::addQuotations(session(), QuotationSide::Customer,
         QStringLiteral("100002"), QStringLiteral("2025-03-14"), QStringLiteral("100001"));
     ASSERT_TRUE(added.ok());

@@ -103,3 +103,20 @@ TEST_F(StockCommandsTest, RepairsNeedTheStockCheckRight)
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.err, "您没有“库存核对”的权限！\n");
 }
+
+// The alarm lists what the screen lists; the average is set only on "--yes" and stays on "No".
+TEST_F(StockCommandsTest, AlarmsAndTheAverageSetByHand)
+{
+    db().exec("update jxc_goods set g_zdkc=25 where g_sn='200001'");
+    EXPECT_EQ(cli({ "stock-alarm" }).out,
+        "商品编号\t商品名称\t规格\t单位\t仓库\t库存数\t最低库存\t短缺数量\n"
+        "200001\t阿莫西林胶囊\t\t粒\t\t20\t25\t5\n");
+    const CliRun no = cli({ "set-average", "200001", "9.5", "100001" });
+    EXPECT_EQ(no.status, 1);
+    EXPECT_EQ(number("select kc_cbj from jxc_kcsp where g_sn='200001' and ck_sn='100001'"), 11);
+    const CliRun yes = cli({ "--yes", "set-average", "200001", "9.5", "100001" });
+    EXPECT_EQ(yes.status, 0) << yes.err.toStdString();
+    EXPECT_EQ(yes.out, "商品均价：9.5\n");
+    EXPECT_EQ(number("select kc_cbj from jxc_kcsp where g_sn='200001' and ck_sn='100001'"), 9.5);
+    EXPECT_EQ(number("select gl_kczje from jxc_goodslist where gl_djh='CJ2'"), 190);
+}

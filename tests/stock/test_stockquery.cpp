@@ -120,6 +120,34 @@ TEST_F(StockQueryTest, ExpiringWithinDaysCountsTheLastDay)
 }
 
 // What came in and went out follows each kind's direction, whatever the sign of its quantity.
+// Minimums: 阿莫西林胶囊 15 (14 in all, 10 in the main warehouse, 4 in the branch), 板蓝根颗粒 2
+// (exactly 2), and a disabled goods with 9 below its minimum that is never listed.
+TEST_F(StockQueryTest, AlarmsListGoodsBelowTheirMinimumInAllOrOneWarehouse)
+{
+    db().exec(QStringLiteral("update jxc_goods set g_zdkc=15 where g_sn='200001'"));
+    db().exec(QStringLiteral("update jxc_goods set g_zdkc=2 where g_sn='200002'"));
+    addGoods({ "200009", "停用药品" });
+    db().exec(QStringLiteral("update jxc_goods set g_zdkc=9,g_jy=1 where g_sn='200009'"));
+    const auto alarms = [&](const QString &warehouse, const QString &classCode) {
+        stock::StockFilter filter;
+        filter.warehouse = warehouse;
+        filter.classCode = classCode;
+        QStringList lines;
+        for (const stock::StockAlarm &a : stock::stockAlarms(session(), filter))
+            lines.append(
+                QStringList { a.goods.code, a.goods.warehouseName, core::plainNumber(a.quantity),
+                    core::plainNumber(a.minimum), core::plainNumber(a.shortage) }
+                    .join(QLatin1Char('|')));
+        return lines;
+    };
+    EXPECT_EQ(alarms(QString(), QString()), QStringList { QStringLiteral("200001||14|15|1") });
+    EXPECT_EQ(alarms(QStringLiteral("100002"), QString()),
+        (QStringList {
+            QStringLiteral("200001|分店仓库|4|15|11"), QStringLiteral("200002|分店仓库|0|2|2") }));
+    EXPECT_EQ(alarms(QStringLiteral("100002"), QStringLiteral("1001")),
+        QStringList { QStringLiteral("200002|分店仓库|0|2|2") });
+}
+
 TEST_F(StockQueryTest, TheLedgerSplitsMovementsIntoInAndOut)
 {
     postRow(
@@ -140,6 +168,11 @@ TEST_F(StockQueryTest, TheLedgerSplitsMovementsIntoInAndOut)
                   QStringLiteral("2025-03-12"), QStringLiteral("2025-03-13"))
                   .size(),
         2);
+    // One kind keeps the running quantity of the whole ledger.
+    const auto receipts
+        = stock::goodsLedger(session(), QStringLiteral("200002"), {}, {}, {}, QStringLiteral("xt"));
+    ASSERT_EQ(receipts.size(), 1);
+    EXPECT_EQ(receipts[0].running.quantity, 3);
     const auto branch
         = stock::goodsLedger(session(), QStringLiteral("200001"), QStringLiteral("100002"), {}, {});
     ASSERT_EQ(branch.size(), 1);

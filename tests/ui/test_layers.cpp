@@ -65,7 +65,7 @@ TEST(Layers, NoBusinessFolderIncludesAWidgetsHeader)
     const QDir root(QStringLiteral(MEDISTOCK_SOURCE_DIR));
     int scanned = 0;
     for (const char *folder : { "core", "shell", "documents", "masterdata", "stock", "purchasing",
-             "sales", "accounts", "members", "gsp", "reports", "statistics" }) {
+             "sales", "accounts", "members", "gsp", "reports", "statistics", "maintenance" }) {
         QDirIterator files(root.filePath(QString::fromLatin1(folder)),
             { QStringLiteral("*.h"), QStringLiteral("*.cpp") }, QDir::Files,
             QDirIterator::Subdirectories);

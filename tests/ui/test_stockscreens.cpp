@@ -17,6 +17,7 @@
 #include "ui/stock/stockqueryscreen.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -149,6 +150,15 @@ TEST_F(StockScreensTest, TheLedgerShowsEachMovementWithItsRunningFigures)
     ledger.run();
     EXPECT_EQ(ledger.model()->dataRows(), 1);
     EXPECT_EQ(ledger.model()->text(0, 12), QStringLiteral("13.00"));
+
+    // The returns alone, with the running figures of the whole ledger.
+    ledger.fromField()->setText(QString());
+    ledger.toField()->setText(QString());
+    ledger.kindBox()->setCurrentIndex(ledger.kindBox()->findText(QStringLiteral("采购退货单")));
+    ledger.run();
+    ASSERT_EQ(ledger.model()->dataRows(), 1);
+    EXPECT_EQ(ledger.model()->text(0, 3), QStringLiteral("CT25031310001"));
+    EXPECT_EQ(ledger.model()->text(0, 11), QStringLiteral("16.00"));
 }
 
 // Costs, averages and stock values are not shown (not even as blanks) without "显示商品成本价".

@@ -8,4 +8,9 @@ class ScreenRegistry;
 // "销售管理" ("xsgl" 3).
 void registerStatementScreens(ScreenRegistry &registry);
 
+// "往来帐款": the registrations, the ledgers with their written-off change and the invoice
+// registers; "日常管理": expenses and income, cash and bank. The check entries open the same
+// screens on what waits for checking.
+void registerMoneyScreens(ScreenRegistry &registry);
+
 } // namespace medistock::ui

@@ -286,6 +286,18 @@ documents::DocumentDraft DocumentScreen::draft(bool &valid) const
         }
     }
     d.lines = m_lines->drafts();
+    // A typed cost goes to the operation as a number only; what is no number is told here.
+    for (int row = 0; row < m_lines->rowCount() && valid; ++row) {
+        const LineEntry &line = m_lines->line(row);
+        if (!line.costTyped)
+            continue;
+        const Result<double> cost
+            = documents::readLineNumber(row + 1, documents::LineNumber::Cost, line.cost);
+        if (!cost) {
+            m_workspace.session.ui().inform(cost.message());
+            valid = false;
+        }
+    }
     return d;
 }
 

@@ -27,6 +27,7 @@ LineEntry DocumentScreen::lineFor(const documents::GoodsChoice &goods) const
     LineEntry line = LineEntry::of(goods, documents::unitChoices(session.db(), goods.code));
     line.price = QString::number(m_kind->proposePrice(session, goods, goods.unit, partyCode()), 'f',
         session.params().priceDecimals());
+    m_kind->proposeFigures(session, line, warehouseCode(), date());
     if (m_kind->outgoing())
         for (const BatchChoice &batch :
             m_kind->batchChoices(session, goods.code, warehouseCode(), date()))
@@ -56,6 +57,7 @@ void DocumentScreen::checkNumber(int row, LineField field, const QString &text)
     const documents::LineNumber which = field == LineField::Quantity
         ? documents::LineNumber::Quantity
         : field == LineField::Price    ? documents::LineNumber::Price
+        : field == LineField::Cost     ? documents::LineNumber::Cost
         : field == LineField::Discount ? documents::LineNumber::DiscountRate
                                        : documents::LineNumber::TaxRate;
     // What is typed stays in its cell; the save refuses it with the same words.
@@ -91,14 +93,18 @@ void DocumentScreen::lookUpGoods(int row, const QString &text)
 void DocumentScreen::proposePrice(int row)
 {
     LineEntry line = m_lines->line(row);
-    if (line.priceTyped || !line.chosen)
+    if (!line.chosen)
         return;
-    readSafely(m_workspace.session.ui(), [&] {
-        if (const auto goods
-            = documents::goodsChoice(m_workspace.session, line.goods, warehouseCode()))
-            line.price = QString::number(
-                m_kind->proposePrice(m_workspace.session, *goods, line.unit, partyCode()), 'f',
-                m_workspace.session.params().priceDecimals());
+    const shell::Session &session = m_workspace.session;
+    readSafely(session.ui(), [&] {
+        // The kind's figures follow the unit (a cost per unit); a typed price stays.
+        m_kind->proposeFigures(session, line, warehouseCode(), date());
+        if (line.priceTyped)
+            return;
+        if (const auto goods = documents::goodsChoice(session, line.goods, warehouseCode()))
+            line.price
+                = QString::number(m_kind->proposePrice(session, *goods, line.unit, partyCode()),
+                    'f', session.params().priceDecimals());
     });
     m_lines->replaceLine(row, line);
 }

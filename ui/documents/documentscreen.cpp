@@ -55,6 +55,8 @@ int widthOf(LineField field)
         return 86;
     case LineField::Quantity:
     case LineField::Stock:
+    case LineField::Book:
+    case LineField::Difference:
         return 64;
     case LineField::Price:
         return 72;
@@ -63,6 +65,10 @@ int widthOf(LineField field)
         return 84;
     case LineField::Remark:
         return 100;
+    case LineField::Cost:
+        return 72;
+    case LineField::Limit:
+        return 64;
     }
     return 80;
 }
@@ -80,6 +86,7 @@ DocumentScreen::DocumentScreen(
     , m_totals(new QLabel(this))
     , m_capitals(new QLabel(this))
 {
+    m_lines->setCostColumn(m_kind->costColumn());
     for (int column = 0; column < m_lines->columnCount(); ++column)
         m_grid->setColumnWidth(column, widthOf(m_lines->fieldAt(column)));
     m_workspace.rememberColumns(m_grid, QStringLiteral("单据/") + m_kind->title());

@@ -22,6 +22,11 @@ std::optional<double> number(const QString &text, std::optional<double> absent =
     return ok && std::isfinite(value) ? std::optional<double>(value) : std::nullopt;
 }
 
+double bookOf(const LineEntry &line)
+{
+    return line.columns.value(QStringLiteral("kc_sl")).toDouble();
+}
+
 QString fixed(double value, int decimals)
 {
     return QString::number(value, 'f', decimals);
@@ -37,6 +42,10 @@ bool isNumberField(LineField field)
     case LineField::TaxRate:
     case LineField::Total:
     case LineField::Stock:
+    case LineField::Book:
+    case LineField::Difference:
+    case LineField::Cost:
+    case LineField::Limit:
         return true;
     default:
         return false;
@@ -84,6 +93,14 @@ LineModel::LineModel(
     , m_fields(fields)
     , m_rounding(rounding)
 { }
+
+void LineModel::setCaption(LineField field, const QString &caption)
+{
+    m_captions.insert(field, caption);
+    const int column = columnOf(field);
+    if (column >= 0)
+        emit headerDataChanged(Qt::Horizontal, column, column);
+}
 
 void LineModel::setEditable(bool editable)
 {
@@ -161,6 +178,12 @@ QList<documents::LineDraft> LineModel::drafts() const
         draft.expiry = line.expiry;
         draft.remark = line.remark;
         draft.columns = line.columns;
+        if (line.costTyped && !m_costColumn.isEmpty()) {
+            // A cost that is no number goes as typed, for the operation to refuse.
+            const auto cost = number(line.cost);
+            draft.columns.set(
+                m_costColumn, cost ? QVariant(*cost / line.factor()) : QVariant(line.cost));
+        }
         drafts.append(draft);
     }
     return drafts;
@@ -243,6 +266,17 @@ QString LineModel::display(const LineEntry &line, int row, LineField field) cons
         return line.chosen ? fixed(line.stock, m_rounding.quantity) : QString();
     case LineField::Remark:
         return line.remark;
+    case LineField::Book:
+        return line.chosen ? fixed(bookOf(line), m_rounding.quantity) : QString();
+    case LineField::Difference:
+        if (const auto counted = number(line.quantity); counted && line.chosen)
+            return fixed(
+                core::roundTo(*counted - bookOf(line), m_rounding.quantity), m_rounding.quantity);
+        return {};
+    case LineField::Cost:
+        return line.cost;
+    case LineField::Limit:
+        return line.saleLimit > 0 ? fixed(line.saleLimit, m_rounding.quantity) : QString();
     }
     return {};
 }
@@ -266,6 +300,14 @@ QVariant LineModel::data(const QModelIndex &index, int role) const
             return QColor(Qt::red);
         if (isNumberField(field) && display(line, index.row(), field).toDouble() < 0)
             return QColor(Qt::red);
+        return {};
+    case Qt::BackgroundRole:
+        // A counted difference stands out along the whole line.
+        if (m_fields.contains(LineField::Difference)) {
+            const QString difference = display(line, index.row(), LineField::Difference);
+            if (!difference.isEmpty() && difference.toDouble() != 0)
+                return QColor(0xff, 0xf0, 0xc0);
+        }
         return {};
     default:
         return {};
@@ -342,13 +384,17 @@ bool LineModel::setData(const QModelIndex &index, const QVariant &value, int rol
     case LineField::Remark:
         line.remark = text;
         break;
+    case LineField::Cost:
+        line.cost = text.trimmed();
+        line.costTyped = true;
+        break;
     default:
         return false;
     }
     emit dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
     emit edited();
     if (field == LineField::Quantity || field == LineField::Price || field == LineField::Discount
-        || field == LineField::TaxRate)
+        || field == LineField::TaxRate || field == LineField::Cost)
         emit numberTyped(index.row(), field, text);
     return true;
 }
@@ -371,6 +417,8 @@ bool LineModel::isEditableField(const LineEntry &line, LineField field) const
     case LineField::TaxRate:
     case LineField::Remark:
         return line.chosen;
+    case LineField::Cost:
+        return line.chosen && !m_costColumn.isEmpty();
     default:
         return false;
     }
@@ -389,7 +437,7 @@ Qt::ItemFlags LineModel::flags(const QModelIndex &index) const
 QVariant LineModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section < m_fields.size())
-        return captionOf(m_fields.at(section));
+        return m_captions.value(m_fields.at(section), captionOf(m_fields.at(section)));
     return QAbstractTableModel::headerData(section, orientation, role);
 }
 

@@ -5,6 +5,7 @@
 #include "documents/lines.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QList>
 
 namespace medistock::ui {
@@ -27,6 +28,10 @@ enum class LineField {
     Total,
     Stock,
     Remark,
+    Book, // a count's book quantity, the line's own column "kc_sl"
+    Difference, // quantity - book, highlighted when not 0
+    Cost, // the cost price per line unit
+    Limit, // the goods' most per sale (g_xzsl), blank for none
 };
 
 // One line as it stands on the screen. What the clerk typed is kept as typed, so that a line the
@@ -50,6 +55,9 @@ struct LineEntry
     QString expiry;
     QString remark;
     bool priceTyped = false; // typed (or taken from a source line), so a unit change keeps it
+    QString cost; // per line unit, as proposed or typed; empty where the kind shows none
+    bool costTyped = false; // typed: handed to the operation (DocumentScreenKind::costColumn)
+    double saleLimit = 0; // the goods' most per sale, in line units; 0: none
     documents::ColumnValues columns; // the kind's own line columns (a return line's "id2")
 
     bool isBlank() const;
@@ -73,8 +81,13 @@ public:
     // The column of a field; -1 when the grid does not show it.
     int columnOf(LineField field) const { return int(m_fields.indexOf(field)); }
 
+    // A kind's own caption of a field ("盘点数量" for the quantity of a count).
+    void setCaption(LineField field, const QString &caption);
+
     void setEditable(bool editable);
     bool isEditable() const { return m_editable; }
+    // The line column a typed cost goes into, per base unit; empty: the cost is never typed.
+    void setCostColumn(const QString &column) { m_costColumn = column; }
     // Whether lines may be added (goods typed into a new line).
     void setAddingAllowed(bool allowed) { m_addingAllowed = allowed; }
     bool isAddingAllowed() const { return m_addingAllowed; }
@@ -120,10 +133,12 @@ private:
     void setAmount(LineEntry &line, const QString &typed);
 
     QList<LineField> m_fields;
+    QHash<LineField, QString> m_captions;
     documents::LineRounding m_rounding;
     QList<LineEntry> m_lines;
     bool m_editable = true;
     bool m_addingAllowed = true;
+    QString m_costColumn;
 };
 
 // The caption of a field as the grid heads it.

@@ -45,6 +45,10 @@ void DocumentScreenKind::setHeaderReadOnly(bool)
 void DocumentScreenKind::loadLine(const documents::DocumentLineRow &, LineEntry &) const
 { }
 
+void DocumentScreenKind::proposeFigures(
+    const shell::Session &, LineEntry &, const QString &, const QString &) const
+{ }
+
 void DocumentScreenKind::addActions(DocumentScreen &)
 { }
 

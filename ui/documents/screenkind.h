@@ -83,6 +83,12 @@ public:
     // The price proposed for a line of the goods in `unit`, per that unit.
     virtual double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
         const QString &unit, const QString &party) const = 0;
+    // The kind's own figures of a line as it is picked or its unit changes (a sale's cost per line
+    // unit, unless typed, and the goods' most per sale); nothing by default.
+    virtual void proposeFigures(const shell::Session &session, LineEntry &line,
+        const QString &warehouse, const QString &date) const;
+    // The line column a typed cost goes into, per base unit; empty: the cost cannot be typed.
+    virtual QString costColumn() const { return {}; }
     // The batches of the goods an outgoing line may take, in the order offered: expired ones
     // (coloured) first, then those the project's first-expiry-first-out routine proposes.
     virtual QList<BatchChoice> batchChoices(const shell::Session &session, const QString &goods,

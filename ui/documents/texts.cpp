@@ -11,7 +11,8 @@ QString lineCaption(int field)
         QStringLiteral("批号"), QStringLiteral("生产日期"), QStringLiteral("有效期至"),
         QStringLiteral("数量"), QStringLiteral("单价"), QStringLiteral("折扣"),
         QStringLiteral("金额"), QStringLiteral("税率%"), QStringLiteral("价税合计"),
-        QStringLiteral("库存"), QStringLiteral("备注") };
+        QStringLiteral("库存"), QStringLiteral("备注"), QStringLiteral("帐面数量"),
+        QStringLiteral("盈亏数量"), QStringLiteral("成本价"), QStringLiteral("限售数量") };
     return captions.value(field);
 }
 

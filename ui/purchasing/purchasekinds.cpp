@@ -1,6 +1,5 @@
 #include "ui/purchasing/purchasekinds.h"
 
-#include "accounts/texts.h"
 #include "core/interaction.h"
 #include "documents/entry.h"
 #include "purchasing/kinds.h"
@@ -26,19 +25,6 @@ namespace {
 QString column(const char *name)
 {
     return QString::fromLatin1(name);
-}
-
-// An amount field shows nothing for 0, so that an untouched document shows no noise.
-QString amountText(double value)
-{
-    return value == 0 ? QString() : QString::number(value, 'g', 15);
-}
-
-QLineEdit *amountField(QWidget *parent)
-{
-    auto *field = new QLineEdit(parent);
-    field->setAlignment(Qt::AlignRight);
-    return field;
 }
 
 } // namespace
@@ -69,20 +55,7 @@ QList<std::pair<QString, QWidget *>> PurchaseScreenKind::createHeaderFields(QWid
         m_supplierNumber = new QLineEdit(parent);
         fields.append({ pctexts::supplierNumber, m_supplierNumber });
     }
-    m_invoiceNumber = new QLineEdit(parent);
-    m_invoiceAmount = amountField(parent);
-    fields.append({ pctexts::invoiceNumber, m_invoiceNumber });
-    fields.append({ pctexts::invoiceAmount, m_invoiceAmount });
-    if (*m_kind.money.freight) {
-        m_freight = amountField(parent);
-        m_packing = amountField(parent);
-        m_freightTerms = new QComboBox(parent);
-        m_freightTerms->addItems(
-            { QString(), accounts::texts::wePayFreight(), accounts::texts::theyPayFreight() });
-        fields.append({ pctexts::freight, m_freight });
-        fields.append({ pctexts::packing, m_packing });
-        fields.append({ pctexts::freightTerms, m_freightTerms });
-    }
+    m_invoice.create(parent, *m_kind.money.freight, fields);
     return fields;
 }
 
@@ -105,35 +78,22 @@ void PurchaseScreenKind::loadHeader(const QSqlRecord &header)
     m_saved.freightTerms = text(m.freightMode);
     if (m_supplierNumber)
         m_supplierNumber->setText(m_saved.supplierNumber);
-    m_invoiceNumber->setText(m_saved.invoiceNumber);
-    m_invoiceAmount->setText(amountText(m_saved.invoiceAmount));
-    if (m_freight) {
-        m_freight->setText(amountText(m_saved.freight));
-        m_packing->setText(amountText(m_saved.packing));
-        m_freightTerms->setCurrentIndex(
-            std::max(0, m_freightTerms->findText(m_saved.freightTerms)));
-    }
+    m_invoice.loadFrom(m_saved);
 }
 
 void PurchaseScreenKind::clearHeader()
 {
     m_saved = {};
-    for (QLineEdit *field :
-        { m_supplierNumber, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
-        if (field)
-            field->clear();
-    if (m_freightTerms)
-        m_freightTerms->setCurrentIndex(0);
+    if (m_supplierNumber)
+        m_supplierNumber->clear();
+    m_invoice.clear();
 }
 
 void PurchaseScreenKind::setHeaderReadOnly(bool readOnly)
 {
-    for (QLineEdit *field :
-        { m_supplierNumber, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
-        if (field)
-            field->setReadOnly(readOnly);
-    if (m_freightTerms)
-        m_freightTerms->setEnabled(!readOnly);
+    if (m_supplierNumber)
+        m_supplierNumber->setReadOnly(readOnly);
+    m_invoice.setReadOnly(readOnly);
 }
 
 Result<purchasing::PurchaseHeader> PurchaseScreenKind::header(const shell::Session &session) const
@@ -141,22 +101,8 @@ Result<purchasing::PurchaseHeader> PurchaseScreenKind::header(const shell::Sessi
     purchasing::PurchaseHeader h = m_saved;
     if (m_supplierNumber)
         h.supplierNumber = m_supplierNumber->text();
-    h.invoiceNumber = m_invoiceNumber->text();
-    h.freightTerms = m_freightTerms ? m_freightTerms->currentText() : QString();
-    const std::pair<QLineEdit *, double *> amounts[] = { { m_invoiceAmount, &h.invoiceAmount },
-        { m_freight, &h.freight }, { m_packing, &h.packing } };
-    const QString labels[] = { pctexts::invoiceAmount, pctexts::freight, pctexts::packing };
-    for (int i = 0; i < 3; ++i) {
-        const auto &[field, value] = amounts[i];
-        if (!field)
-            continue;
-        const Result<double> typed = documents::readHeaderAmount(labels[i], field->text());
-        if (!typed) {
-            session.ui().inform(typed.message());
-            return typed.outcome();
-        }
-        *value = typed.value();
-    }
+    if (const Outcome read = m_invoice.readInto(session, h); !read)
+        return read;
     return h;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "purchasing/entry.h"
+#include "ui/documents/invoicefields.h"
 #include "ui/documents/screenkind.h"
 
 class QComboBox;
@@ -36,7 +37,7 @@ public:
     double proposePrice(const shell::Session &session, const documents::GoodsChoice &goods,
         const QString &unit, const QString &party) const override;
     Outcome check(shell::Session &session, const QString &number, QWidget *parent) override;
-    QLineEdit *freightField() const { return m_freight; }
+    QLineEdit *freightField() const { return m_invoice.freightField(); }
 
 protected:
     // The purchase header from the fields; refused (and told) when an amount is no number.
@@ -45,11 +46,7 @@ protected:
     const purchasing::PurchaseKind &m_kind;
     purchasing::PurchaseHeader m_saved; // what the document holds besides the fields shown
     QLineEdit *m_supplierNumber = nullptr;
-    QLineEdit *m_invoiceNumber = nullptr;
-    QLineEdit *m_invoiceAmount = nullptr;
-    QLineEdit *m_freight = nullptr;
-    QLineEdit *m_packing = nullptr;
-    QComboBox *m_freightTerms = nullptr;
+    InvoiceFreightFields m_invoice;
 };
 
 // "采购进货": lines come in with their batch typed; "cggl" 1 save, 6 check, 10 uncheck,

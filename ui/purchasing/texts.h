@@ -24,13 +24,6 @@ inline const QString account = QStringLiteral("结算帐户");
 inline const QString byPaid = QStringLiteral("按实付款结算");
 inline const QString remainderPayable = QStringLiteral("余款记入应付帐");
 
-// Header fields of their own
-inline const QString invoiceNumber = QStringLiteral("发票号");
-inline const QString invoiceAmount = QStringLiteral("发票金额");
-inline const QString freight = QStringLiteral("运费");
-inline const QString packing = QStringLiteral("包装费");
-inline const QString freightTerms = QStringLiteral("付费方式");
-
 // A return taken from a receipt's lines
 inline const QString fromReceipt = QStringLiteral("从进货单退货(F10)");
 inline const QString receiptLinesTitle = QStringLiteral("选择进货单及退货商品");

@@ -5,6 +5,7 @@
 #include "ui/common/workspace.h"
 #include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
+#include "ui/sales/quotationscreen.h"
 #include "ui/sales/salekinds.h"
 #include "ui/sales/texts.h"
 
@@ -31,6 +32,11 @@ void registerSalesScreens(ScreenRegistry &registry)
             { &sales::salesReturnKind(), area, sales::rights::saveReturn, QStringLiteral("xsth"),
                 -1, true } };
         auto *screen = new DocumentListScreen(workspace, sltexts::queryTitle, kinds, {});
+        screen->run();
+        return screen;
+    });
+    registry.addTab(QStringLiteral("rcgl"), sltexts::quotations, [](Workspace &workspace) {
+        auto *screen = new QuotationScreen(workspace);
         screen->run();
         return screen;
     });

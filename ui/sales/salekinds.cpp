@@ -3,8 +3,8 @@
 #include "accounts/bankaccounts.h"
 #include "accounts/cashbook.h"
 #include "accounts/ledger.h"
-#include "accounts/texts.h"
 #include "core/interaction.h"
+#include "core/rounding.h"
 #include "documents/entry.h"
 #include "sales/entry.h"
 #include "sales/kinds.h"
@@ -14,33 +14,27 @@
 #include "sales/salesreturn.h"
 #include "shell/rights.h"
 #include "shell/session.h"
+#include "shell/settings.h"
+#include "stock/checks.h"
+#include "stock/costs.h"
 #include "ui/common/reading.h"
+#include "ui/common/workspace.h"
+#include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
 #include "ui/documents/sourcelinesdialog.h"
+#include "ui/documents/uncheckeddialog.h"
 #include "ui/sales/orderlinesdialog.h"
 #include "ui/sales/texts.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSqlRecord>
 
 namespace medistock::ui {
 
 namespace {
-
-// An amount field shows nothing for 0, so that an untouched document shows no noise.
-QString amountText(double value)
-{
-    return value == 0 ? QString() : QString::number(value, 'g', 15);
-}
-
-QLineEdit *amountField(QWidget *parent)
-{
-    auto *field = new QLineEdit(parent);
-    field->setAlignment(Qt::AlignRight);
-    return field;
-}
 
 void choose(QComboBox *box, const QString &text, bool byData)
 {
@@ -65,13 +59,56 @@ bool SalesScreenKind::isOrder() const
     return &m_entry == &sales::salesOrderKind();
 }
 
+bool SalesScreenKind::showsCost() const
+{
+    return shell::hasRight(m_session, QStringLiteral("qtcz"), 7);
+}
+
 QList<LineField> SalesScreenKind::lineFields() const
 {
     QList<LineField> fields = DocumentScreenKind::lineFields();
+    if (isSale()) {
+        fields.removeAll(LineField::Produced);
+        fields.insert(fields.indexOf(LineField::Quantity) + 1, LineField::Limit);
+    }
+    if (showsCost())
+        fields.insert(fields.indexOf(LineField::Price), LineField::Cost);
     if (!shell::hasRight(m_session, QStringLiteral("qtcz"), 9))
         for (LineField hidden : { LineField::Price, LineField::Amount, LineField::Total })
             fields.removeAll(hidden);
     return fields;
+}
+
+void SalesScreenKind::proposeFigures(const shell::Session &session, LineEntry &line,
+    const QString &warehouse, const QString &date) const
+{
+    if (isSale())
+        line.saleLimit = stock::saleLimit(session, line.goods);
+    if (!showsCost() || line.costTyped)
+        return;
+    const double base = isOrder() ? stock::currentCost(session, line.goods, warehouse)
+                                  : stock::costAsOf(session, line.goods, warehouse, date);
+    const int places = session.params().priceDecimals();
+    line.cost = QString::number(core::roundTo(base * line.factor(), places), 'f', places);
+}
+
+QString SalesScreenKind::costColumn() const
+{
+    return isSale() && showsCost()
+            && shell::hasRight(m_session, QStringLiteral("xsgl"), sales::rights::changeSaleCost)
+        ? QStringLiteral("ls_cbj2")
+        : QString();
+}
+
+void SalesScreenKind::loadLine(const documents::DocumentLineRow &stored, LineEntry &line) const
+{
+    if (isSale())
+        line.saleLimit = stock::saleLimit(m_session, line.goods);
+    if (showsCost())
+        line.cost = QString::number(
+            stored.stored.value(isReturn() ? QStringLiteral("th_cbj") : QStringLiteral("ls_cbj"))
+                .toDouble(),
+            'f', m_session.params().priceDecimals());
 }
 
 QList<std::pair<QString, QWidget *>> SalesScreenKind::createHeaderFields(QWidget *parent)
@@ -84,26 +121,12 @@ QList<std::pair<QString, QWidget *>> SalesScreenKind::createHeaderFields(QWidget
         for (const accounts::BankAccount &account : accounts::listBankAccounts(m_session.db()))
             m_account->addItem(account.name);
     });
-    m_paid = amountField(parent);
+    m_paid = headerAmountField(parent);
     QList<std::pair<QString, QWidget *>> fields { { sltexts::mode, m_mode },
         { sltexts::account, m_account },
         { isReturn() ? sltexts::refunded : sltexts::received, m_paid } };
-    if (isOrder())
-        return fields;
-    m_invoiceNumber = new QLineEdit(parent);
-    m_invoiceAmount = amountField(parent);
-    fields.append({ sltexts::invoiceNumber, m_invoiceNumber });
-    fields.append({ sltexts::invoiceAmount, m_invoiceAmount });
-    if (!isReturn()) {
-        m_freight = amountField(parent);
-        m_packing = amountField(parent);
-        m_freightTerms = new QComboBox(parent);
-        m_freightTerms->addItems(
-            { QString(), accounts::texts::wePayFreight(), accounts::texts::theyPayFreight() });
-        fields.append({ sltexts::freight, m_freight });
-        fields.append({ sltexts::packing, m_packing });
-        fields.append({ sltexts::freightTerms, m_freightTerms });
-    }
+    if (!isOrder())
+        m_invoice.create(parent, !isReturn(), fields);
     return fields;
 }
 
@@ -127,16 +150,8 @@ void SalesScreenKind::loadHeader(const QSqlRecord &header)
     }
     choose(m_mode, m_saved.settlementMode, true);
     choose(m_account, m_saved.account, false);
-    m_paid->setText(amountText(m_saved.paid));
-    if (m_invoiceNumber) {
-        m_invoiceNumber->setText(m_saved.invoiceNumber);
-        m_invoiceAmount->setText(amountText(m_saved.invoiceAmount));
-    }
-    if (m_freight) {
-        m_freight->setText(amountText(m_saved.freight));
-        m_packing->setText(amountText(m_saved.packing));
-        choose(m_freightTerms, m_saved.freightTerms, false);
-    }
+    m_paid->setText(headerAmountText(m_saved.paid));
+    m_invoice.loadFrom(m_saved);
 }
 
 void SalesScreenKind::clearHeader()
@@ -144,21 +159,16 @@ void SalesScreenKind::clearHeader()
     m_saved = {};
     m_mode->setCurrentIndex(0);
     choose(m_account, accounts::cashAccountName(), false);
-    for (QLineEdit *field : { m_paid, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
-        if (field)
-            field->clear();
-    if (m_freightTerms)
-        m_freightTerms->setCurrentIndex(0);
+    m_paid->clear();
+    m_invoice.clear();
 }
 
 void SalesScreenKind::setHeaderReadOnly(bool readOnly)
 {
-    for (QLineEdit *field : { m_paid, m_invoiceNumber, m_invoiceAmount, m_freight, m_packing })
-        if (field)
-            field->setReadOnly(readOnly);
-    for (QComboBox *box : { m_mode, m_account, m_freightTerms })
-        if (box)
-            box->setEnabled(!readOnly);
+    m_paid->setReadOnly(readOnly);
+    m_mode->setEnabled(!readOnly);
+    m_account->setEnabled(!readOnly);
+    m_invoice.setReadOnly(readOnly);
 }
 
 void SalesScreenKind::takeHeader(const sales::SaleHeader &header)
@@ -174,24 +184,15 @@ Result<sales::SaleHeader> SalesScreenKind::header(const shell::Session &session)
     sales::SaleHeader h = m_saved;
     h.settlementMode = m_mode->currentData().toString();
     h.account = m_account->currentText();
-    if (m_invoiceNumber)
-        h.invoiceNumber = m_invoiceNumber->text();
-    h.freightTerms = m_freightTerms ? m_freightTerms->currentText() : QString();
-    const std::tuple<QLineEdit *, double *, QString> amounts[]
-        = { { m_paid, &h.paid, isReturn() ? sltexts::refunded : sltexts::received },
-              { m_invoiceAmount, &h.invoiceAmount, sltexts::invoiceAmount },
-              { m_freight, &h.freight, sltexts::freight },
-              { m_packing, &h.packing, sltexts::packing } };
-    for (const auto &[field, value, label] : amounts) {
-        if (!field)
-            continue;
-        const Result<double> typed = documents::readHeaderAmount(label, field->text());
-        if (!typed) {
-            session.ui().inform(typed.message());
-            return typed.outcome();
-        }
-        *value = typed.value();
+    const Result<double> paid = documents::readHeaderAmount(
+        isReturn() ? sltexts::refunded : sltexts::received, m_paid->text());
+    if (!paid) {
+        session.ui().inform(paid.message());
+        return paid.outcome();
     }
+    h.paid = paid.value();
+    if (const Outcome read = m_invoice.readInto(session, h); !read)
+        return read;
     return h;
 }
 
@@ -254,6 +255,38 @@ void SaleScreenKind::addActions(DocumentScreen &screen)
     screen.addEditingAction(button, QKeySequence(Qt::Key_F10));
 }
 
+void SaleScreenKind::showList(DocumentScreen &screen)
+{
+    uncheckedSalesDialog(screen)->exec();
+}
+
+std::unique_ptr<UncheckedDialog> uncheckedSalesDialog(DocumentScreen &screen)
+{
+    auto dialog = std::make_unique<UncheckedDialog>(screen);
+    DocumentListScreen *list = dialog->list();
+    auto *all = new QPushButton(sltexts::checkAll, dialog.get());
+    shell::Session &session = screen.workspace().session;
+    const bool allowed = shell::hasRight(session, QStringLiteral("xsgl"), sales::rights::checkSale);
+    all->setEnabled(allowed);
+    if (!allowed)
+        all->setToolTip(shell::noRightText(sltexts::checkRightName));
+    QObject::connect(all, &QPushButton::clicked, dialog.get(), [&session, &screen, list] {
+        QStringList numbers;
+        for (const PrintRequest &listed : list->listedDocuments())
+            numbers.append(listed.number);
+        if (!sales::checkListedSales(session, numbers))
+            return;
+        // The sale on the screen may have been among them.
+        if (!screen.number().isEmpty() && numbers.contains(screen.number()))
+            screen.openDocument(screen.number());
+        list->run();
+    });
+    auto *key = new QShortcut(QKeySequence(Qt::Key_F6), dialog.get());
+    QObject::connect(key, &QShortcut::activated, all, &QPushButton::click);
+    list->addButton(all);
+    return dialog;
+}
+
 SalesReturnScreenKind::SalesReturnScreenKind(const shell::Session &session)
     : SalesScreenKind(session, sales::salesReturnKind())
 { }
@@ -276,6 +309,7 @@ QString SalesReturnScreenKind::dueLabel() const
 void SalesReturnScreenKind::loadLine(
     const documents::DocumentLineRow &stored, LineEntry &line) const
 {
+    SalesScreenKind::loadLine(stored, line);
     loadSourceLink(stored, line);
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "sales/entry.h"
+#include "ui/documents/invoicefields.h"
 #include "ui/documents/screenkind.h"
+
+#include <memory>
 
 class QComboBox;
 class QLineEdit;
@@ -9,13 +12,18 @@ class QLineEdit;
 namespace medistock::ui {
 
 struct ReturnSource;
+class UncheckedDialog;
 
 // What the sale and the customer return add to the shared document screen: the settlement mode,
 // account and amount received (refunded) in the header, since a sale is usually paid at the
 // counter as it is keyed; the customer's price proposed for every goods picked; their
 // operations. The questions (negative stock, expired batches, prepayment, the save texts) are
 // the operations' own. A change of a stored document keeps what its header holds besides the
-// fields shown.
+// fields shown. With "显示商品成本价" the lines show their cost per line unit ("成本价", the
+// warehouse's cost as of the document's date as the save takes it); a sale lets it be typed
+// only with "允许修改销售成本价", and shows each goods' most per sale ("限售数量"). A sale's
+// lines leave the production date out, which the batch brings along, so that the columns a
+// clerk works with fit a 1366 pixels wide screen.
 class SalesScreenKind : public DocumentScreenKind
 {
 public:
@@ -24,6 +32,10 @@ public:
     const documents::DocumentKind &entry() const override { return m_entry; }
     // Price and amount columns are there only with "显示商品销售价".
     QList<LineField> lineFields() const override;
+    void proposeFigures(const shell::Session &session, LineEntry &line, const QString &warehouse,
+        const QString &date) const override;
+    QString costColumn() const override;
+    void loadLine(const documents::DocumentLineRow &stored, LineEntry &line) const override;
     QList<std::pair<QString, QWidget *>> createHeaderFields(QWidget *parent) override;
     void loadHeader(const QSqlRecord &header) override;
     void clearHeader() override;
@@ -45,6 +57,8 @@ protected:
     bool isReturn() const;
     // An order keeps only the settlement mode, account and amount received.
     bool isOrder() const;
+    bool isSale() const { return !isReturn() && !isOrder(); }
+    bool showsCost() const;
 
     const shell::Session &m_session;
     const documents::DocumentKind &m_entry;
@@ -52,11 +66,7 @@ protected:
     QComboBox *m_mode = nullptr;
     QComboBox *m_account = nullptr;
     QLineEdit *m_paid = nullptr;
-    QLineEdit *m_invoiceNumber = nullptr;
-    QLineEdit *m_invoiceAmount = nullptr;
-    QLineEdit *m_freight = nullptr;
-    QLineEdit *m_packing = nullptr;
-    QComboBox *m_freightTerms = nullptr;
+    InvoiceFreightFields m_invoice;
 };
 
 // "商品销售": lines leave from the batches proposed first-expiry-first or picked (F4); "xsgl" 1
@@ -77,6 +87,9 @@ public:
     Outcome remove(shell::Session &session, const QString &number) override;
     // "导入销售订单(F10)".
     void addActions(DocumentScreen &screen) override;
+    // The unchecked sales with "审核所有(F6)" besides the check of one: every sale the list
+    // shows, after one question, with the check right.
+    void showList(DocumentScreen &screen) override;
 };
 
 // "顾客退货": goods come back into the warehouse, typed freely or taken from a checked sale's
@@ -124,5 +137,8 @@ public:
 
 // A customer return's lines taken from a checked sale.
 ReturnSource saleSource();
+
+// The unchecked sales of the sale screen, with "审核所有(F6)".
+std::unique_ptr<UncheckedDialog> uncheckedSalesDialog(DocumentScreen &screen);
 
 } // namespace medistock::ui

@@ -15,11 +15,11 @@
 #include "ui/stock/texts.h"
 
 #include <QComboBox>
+#include <QDialog>
 #include <QHash>
+#include <QVBoxLayout>
 
 namespace medistock::ui {
-
-namespace {
 
 CodeNameField *makeGoodsField(const shell::Session &session, QWidget *parent)
 {
@@ -39,12 +39,11 @@ CodeNameField *makeGoodsField(const shell::Session &session, QWidget *parent)
     return field;
 }
 
-} // namespace
-
 GoodsLedgerScreen::GoodsLedgerScreen(Workspace &workspace, QWidget *parent)
     : QueryScreen(workspace, sttexts::ledgerTitle, parent)
     , m_goods(makeGoodsField(workspace.session, this))
     , m_warehouse(new QComboBox(this))
+    , m_kind(new QComboBox(this))
     , m_from(new DateField(this))
     , m_to(new DateField(this))
     , m_costs(shell::hasRight(workspace.session, QStringLiteral("qtcz"), 7))
@@ -52,6 +51,10 @@ GoodsLedgerScreen::GoodsLedgerScreen(Workspace &workspace, QWidget *parent)
     fillMasterBox(m_warehouse, workspace.session, "warehouse", true);
     addFilter(sttexts::goods, m_goods);
     addFilter(sttexts::warehouse, m_warehouse);
+    m_kind->addItem(sttexts::allKinds, QString());
+    for (const QString &kind : stock::ledgerKinds())
+        m_kind->addItem(stock::ledgerKindName(kind), kind);
+    addFilter(sttexts::kind, m_kind);
     addFilter(texts::dateFrom(), m_from);
     addFilter(texts::dateTo(), m_to);
     setPrintKey(QStringLiteral("kcbd"));
@@ -112,7 +115,8 @@ void GoodsLedgerScreen::fetch()
     }
     QList<QVariantList> rows;
     for (const stock::LedgerEntry &e : stock::goodsLedger(m_workspace.session, m_goods->code(),
-             m_warehouse->currentData().toString(), m_from->text(), m_to->text())) {
+             m_warehouse->currentData().toString(), m_from->text(), m_to->text(),
+             m_kind->currentData().toString())) {
         const double signedQuantity = e.in > 0 ? e.in : -e.out;
         QVariantList row { e.warehouseName, e.date, stock::ledgerKindText(e.kind, signedQuantity),
             e.number, e.partyName, e.batch, e.expiry, e.in, e.out };
@@ -125,6 +129,19 @@ void GoodsLedgerScreen::fetch()
         m_sources.append({ e.kind, e.number });
     }
     setRows(rows);
+}
+
+void showLedgerDialog(
+    Workspace &workspace, const QString &goods, const QString &warehouse, QWidget *parent)
+{
+    QDialog dialog(parent);
+    auto *ledger = new GoodsLedgerScreen(workspace, &dialog);
+    ledger->showGoods(goods, warehouse);
+    dialog.setWindowTitle(ledger->windowTitle());
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(ledger);
+    dialog.resize(1280, 640);
+    dialog.exec();
 }
 
 void GoodsLedgerScreen::openSource(int row)

@@ -24,9 +24,6 @@
 
 namespace medistock::ui {
 
-namespace {
-
-// The classes as a flat list, each indented under its parent; the root ("所有类别") holds all.
 void fillClasses(QComboBox *box, const shell::Session &session)
 {
     readSafely(session.ui(), [&] {
@@ -37,8 +34,6 @@ void fillClasses(QComboBox *box, const shell::Session &session)
         }
     });
 }
-
-} // namespace
 
 StockQueryScreen::StockQueryScreen(Workspace &workspace, QWidget *parent)
     : QueryScreen(workspace, sttexts::stockTitle, parent)
@@ -177,14 +172,7 @@ void StockQueryScreen::showLedger(int row)
 {
     if (row < 0 || row >= m_rowKeys.size())
         return;
-    QDialog dialog(this);
-    auto *ledger = new GoodsLedgerScreen(m_workspace, &dialog);
-    ledger->showGoods(m_rowKeys[row].first, m_rowKeys[row].second);
-    dialog.setWindowTitle(ledger->windowTitle());
-    auto *layout = new QVBoxLayout(&dialog);
-    layout->addWidget(ledger);
-    dialog.resize(1280, 640);
-    dialog.exec();
+    showLedgerDialog(m_workspace, m_rowKeys[row].first, m_rowKeys[row].second, this);
 }
 
 } // namespace medistock::ui

@@ -7,7 +7,15 @@ class QComboBox;
 class QLineEdit;
 class QSpinBox;
 
+namespace medistock::shell {
+class Session;
+}
+
 namespace medistock::ui {
+
+// The goods classes as a flat list, each indented under its parent, the class code as the item's
+// data; the root ("所有类别", code empty or its own) holds all.
+void fillClasses(QComboBox *box, const shell::Session &session);
 
 // "当前库存查询": the stock of every goods per warehouse, or per batch with its expiry, narrowed
 // by warehouse, goods class, a text, "只显示有库存" and the days within which a batch expires

@@ -34,6 +34,7 @@ inline const QString ledgerTitle = QStringLiteral("库存变动情况");
 inline const QString goods = QStringLiteral("商品");
 inline const QString date = QStringLiteral("日期");
 inline const QString kind = QStringLiteral("单据类型");
+inline const QString allKinds = QStringLiteral("全部");
 inline const QString number = QStringLiteral("单据号");
 inline const QString party = QStringLiteral("往来单位");
 inline const QString in = QStringLiteral("入库数量");
@@ -55,5 +56,48 @@ inline const QString rows = QStringLiteral("品种数");
 inline const QString operatorName = QStringLiteral("操作员");
 inline const QString costAmount = QStringLiteral("成本金额");
 QString posted(const QString &entry); // "已建账：QC25031410001"
+
+// Transfers, loss and overflow
+inline const QString issuingWarehouse = QStringLiteral("调出仓库");
+inline const QString receivingWarehouse = QStringLiteral("调入仓库");
+inline const QString transferAmount = QStringLiteral("调拨金额");
+inline const QString transferQuery = QStringLiteral("调拨单查询");
+inline const QString lossOverflowTitle = QStringLiteral("库存报损报溢");
+inline const QString lossPage = QStringLiteral("报损单");
+inline const QString overflowPage = QStringLiteral("报溢单");
+inline const QString lossAmount = QStringLiteral("报损金额");
+inline const QString overflowAmount = QStringLiteral("报溢金额");
+
+// Stock-taking
+inline const QString countedAmount = QStringLiteral("盘点金额");
+inline const QString scan = QStringLiteral("扫描条码");
+inline const QString scanHint = QStringLiteral("扫描或输入条码、编号后回车");
+inline const QString makeSheet = QStringLiteral("生成盘点表");
+inline const QString importCounts = QStringLiteral("导入盘点数");
+inline const QString exportSheet = QStringLiteral("导出盘点表");
+inline const QString countSheetFile = QStringLiteral("库存盘点表");
+inline const QString bookQuantity = QStringLiteral("帐面数量");
+inline const QString countedQuantity = QStringLiteral("盘点数量");
+inline const QString replaceLines = QStringLiteral("生成盘点表将替换当前单据中的商品，确认吗？");
+inline const QString nothingToCount = QStringLiteral("该仓库（类别）没有可盘点的库存批次！");
+QString notOnSheet(const QString &scanned); // "条码“6901”的商品不在盘点表中！"
+QString rowNotOnSheet(int row, const QString &goodsCode, const QString &batchNumber);
+QString badCount(int row, const QString &typed);
+QString importRefused(const QStringList &problems); // the rows named, one per line
+QString imported(int lines); // "已导入 3 行盘点数量"
+
+// The average changed by hand
+inline const QString averageTitle = QStringLiteral("修改商品均价");
+inline const QString changeAverage = QStringLiteral("修改均价");
+inline const QString averageNow = QStringLiteral("当前均价");
+inline const QString newAverage = QStringLiteral("新均价");
+inline const QString chooseGoods = QStringLiteral("请先选择商品！");
+// "12.50（帐面库存 10 盒）"
+QString averageShown(const QString &perUnit, const QString &onHand, const QString &baseUnit);
+
+// Stock alarms
+inline const QString alarmTitle = QStringLiteral("库存报警查询");
+inline const QString minimum = QStringLiteral("最低库存");
+inline const QString shortage = QStringLiteral("短缺数量");
 
 } // namespace medistock::ui::sttexts

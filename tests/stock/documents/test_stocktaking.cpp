@@ -49,6 +49,20 @@ TEST_F(StockTakingTest, CountSheetListsTheWarehousesBatchesAtTheCurrentCost)
             "200003|维生素C片|粒|V1|2027-12-31|2024-12-01|5|2" }));
 }
 
+// A class holds its sub-classes.
+TEST_F(StockTakingTest, CountSheetOfAClassHoldsItsSubClasses)
+{
+    db().exec("update jxc_goods set gc_sn='1001' where g_sn='200001'");
+    db().exec("update jxc_goods set gc_sn='100101' where g_sn='200002'");
+    db().exec("update jxc_goods set gc_sn='1002' where g_sn='200003'");
+    QStringList goods;
+    for (const stock::BatchLine &l : stock::countSheet(session(), mainStore, "1001"))
+        goods.append(l.goods);
+    EXPECT_EQ(goods, (QStringList { "200001", "200002" }));
+    EXPECT_EQ(stock::countSheet(session(), mainStore, "100101").size(), 1);
+    EXPECT_EQ(stock::countSheet(session(), mainStore).size(), 3);
+}
+
 TEST_F(StockTakingTest, SaveKeepsTheBookQuantityAndTheValueOfTheDifference)
 {
     const QString number = saveCount();
