@@ -326,17 +326,19 @@ QList<QSqlRecord> searchMasterRows(
         columns.append(str(kind.mnemonicColumn));
     for (const char *column : kind.searchColumns)
         columns.append(str(column));
+    // Letters match in either case, as the mnemonics are typed: the server's like tells them
+    // apart, SQLite's does not, so both sides are put in capitals.
     QStringList conditions;
     QVariantList params;
     const QString pattern = QLatin1Char('%') + text.trimmed() + QLatin1Char('%');
     for (const QString &column : columns) {
-        conditions.append(column + QStringLiteral(" like ?"));
+        conditions.append(QStringLiteral("upper(%1) like upper(?)").arg(column));
         params.append(pattern);
     }
     if (&kind == &goodsKind()) {
         conditions.append(
-            QStringLiteral("g_sn in (select g_sn from jxc_goodstm where g_sptm like ? "
-                           "union select g_sn from jxc_goodsdw where g_sptm like ?)"));
+            QStringLiteral("g_sn in (select g_sn from jxc_goodstm where upper(g_sptm) like upper(?) "
+                           "union select g_sn from jxc_goodsdw where upper(g_sptm) like upper(?))"));
         params << pattern << pattern;
     }
     return db.rows(QStringLiteral("select * from %1 where %2 and (%3) order by id")
