@@ -101,10 +101,10 @@ TEST_F(SaleScreenTest, TheCostColumnFollowsItsTwoRights)
     keys.press(Qt::Key_Return);
     keys.press(Qt::Key_F3);
     ASSERT_EQ(screen->number(), QStringLiteral("XS25031410001"));
-    EXPECT_EQ(db().firstText(QStringLiteral("select ls_cbj2||'|'||ls_cbj||'|'||ls_zcb from "
-                                            "jxc_lsxssp where gl_djh=? and g_sn=?"),
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_lsxssp"),
+                  QStringLiteral("ls_cbj2,ls_cbj,ls_zcb"), QStringLiteral("gl_djh=? and g_sn=?"),
                   { screen->number(), QStringLiteral("10000001") }),
-        QStringLiteral("6.2|6.2|12.4"));
+        QStringList { QStringLiteral("6.2|6.2|12.4") });
     EXPECT_EQ(text(*screen, 0, ui::LineField::Cost), QStringLiteral("6.20"));
 
     addOperatorWithRights(QStringLiteral("小李"),
