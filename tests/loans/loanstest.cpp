@@ -79,11 +79,12 @@ loans::LoanSale LoansTest::sell(const QString &loan, const QString &quantity, do
 
 QString LoansTest::stores()
 {
-    return db().firstText(QStringLiteral(
-        "select a.kc_sl||'|'||a.kc_zsl||'|'||g.g_kc||'|'||t.t_sl||'|'||j.js_sl from jxc_kcsp a,"
-        "jxc_goods g,jxc_tkc t,jxc_kcjs j where a.g_sn='200001' and a.ck_sn='100001' and "
-        "g.g_sn=a.g_sn and t.g_sn=a.g_sn and t.ck_sn=a.ck_sn and t.t_ph='B1' and "
-        "j.ck_sn=a.ck_sn and j.js_rq='2025-03-14'"));
+    const QStringList found = queryRows(db(),
+        QStringLiteral("select a.kc_sl,a.kc_zsl,g.g_kc,t.t_sl,j.js_sl from jxc_kcsp a,jxc_goods g,"
+                       "jxc_tkc t,jxc_kcjs j where a.g_sn='200001' and a.ck_sn='100001' and "
+                       "g.g_sn=a.g_sn and t.g_sn=a.g_sn and t.ck_sn=a.ck_sn and t.t_ph='B1' and "
+                       "j.ck_sn=a.ck_sn and j.js_rq='2025-03-14'"));
+    return found.isEmpty() ? QString() : found.first();
 }
 
 } // namespace medistock::test
