@@ -336,9 +336,9 @@ QList<QSqlRecord> searchMasterRows(
         params.append(pattern);
     }
     if (&kind == &goodsKind()) {
-        conditions.append(
-            QStringLiteral("g_sn in (select g_sn from jxc_goodstm where upper(g_sptm) like upper(?) "
-                           "union select g_sn from jxc_goodsdw where upper(g_sptm) like upper(?))"));
+        conditions.append(QStringLiteral(
+            "g_sn in (select g_sn from jxc_goodstm where upper(g_sptm) like upper(?) "
+            "union select g_sn from jxc_goodsdw where upper(g_sptm) like upper(?))"));
         params << pattern << pattern;
     }
     return db.rows(QStringLiteral("select * from %1 where %2 and (%3) order by id")

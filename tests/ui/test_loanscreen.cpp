@@ -159,7 +159,8 @@ TEST_F(LoanScreenTest, ALoanKeyedAndCheckedThenPartlyReturnedOnScreen)
         (QStringList { QStringLiteral("JH25031410001|借货|4|60|40|0|0|0"),
             QStringLiteral("HH25031410001|还货|4|40|0|1|2|38") }));
     EXPECT_EQ(stores(), QStringLiteral("8|8|8"));
-    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_yyfy"), QStringLiteral("fy_lx,fy_je,fy_kmmc")),
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_yyfy"), QStringLiteral("fy_lx,fy_je,fy_kmmc")),
         QStringList { QStringLiteral("收入|2|现金") });
 }
 

@@ -300,9 +300,9 @@ TEST_F(SaleScreenTest, AnOrderPartlyDeliveredOffersWhatIsLeft)
     keys.press(Qt::Key_F5);
     EXPECT_TRUE(screen->isChecked());
     EXPECT_EQ(delivered(), QStringLiteral("10"));
-    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_lsxssp"),
-                  QStringLiteral("ls_zsl,id3,gl_djh2"), QStringLiteral("gl_djh=?"),
-                  { screen->number() }),
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_lsxssp"), QStringLiteral("ls_zsl,id3,gl_djh2"),
+            QStringLiteral("gl_djh=?"), { screen->number() }),
         QStringList { QStringLiteral("6|%1|%2").arg(
             db().firstText(QStringLiteral("select id2 from jxc_xssp where gl_djh=?"), { number }),
             number) });
@@ -339,8 +339,9 @@ TEST_F(SaleScreenTest, AnOrderIsKeyedAndTheQueryListsSalesWithReturns)
     keys.press(Qt::Key_F5);
     EXPECT_TRUE(order->isChecked());
     EXPECT_FALSE(order->uncheckButton()->isVisible());
-    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_xssp"), QStringLiteral("ls_sl,ls_dj,ls_cksl"),
-                  QStringLiteral("gl_djh=?"), { order->number() }),
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_xssp"), QStringLiteral("ls_sl,ls_dj,ls_cksl"),
+            QStringLiteral("gl_djh=?"), { order->number() }),
         QStringList { QStringLiteral("30|11.5|0") });
     EXPECT_EQ(batchStock(QStringLiteral("10000001"), QStringLiteral("A1")), 20);
 
