@@ -28,9 +28,8 @@ protected:
     {
         return test::queryRows(db(),
                    QStringLiteral(
-                       "select group_concat(kc_cbj,'|') from (select kc_cbj from jxc_kcsp "
-                       "where g_sn='200001' order by ck_sn)"))
-                   .join(QString())
+                       "select kc_cbj from jxc_kcsp where g_sn='200001' order by ck_sn"))
+                   .join(QLatin1Char('|'))
             + QLatin1Char('/')
             + db().firstText(QStringLiteral("select g_pjjj from jxc_goods where g_sn='200001'"));
     }
