@@ -27,8 +27,7 @@ protected:
     QString costs()
     {
         return test::queryRows(db(),
-                   QStringLiteral(
-                       "select kc_cbj from jxc_kcsp where g_sn='200001' order by ck_sn"))
+                   QStringLiteral("select kc_cbj from jxc_kcsp where g_sn='200001' order by ck_sn"))
                    .join(QLatin1Char('|'))
             + QLatin1Char('/')
             + db().firstText(QStringLiteral("select g_pjjj from jxc_goods where g_sn='200001'"));
