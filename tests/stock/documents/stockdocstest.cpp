@@ -51,8 +51,11 @@ QStringList StockDocsTest::rows(const QString &sql, const QVariantList &params)
     for (const QSqlRecord &record : db().rows(sql, params)) {
         QStringList values;
         for (int i = 0; i < record.count(); ++i) {
+            // A NULL reads as empty on both engines (the server's driver hands it as a typed
+            // null whose text would be "0").
             const QVariant value = record.value(i);
-            values.append(value.typeId() == QMetaType::Double
+            values.append(record.isNull(i) ? QString()
+                    : value.typeId() == QMetaType::Double
                     ? QString::number(value.toDouble(), 'g', 12)
                     : value.toString());
         }
