@@ -61,16 +61,23 @@ TEST_F(AdministrationTest, LoginOffersTheDefaultSetFirstThenTheMasterFileAndSkip
             names.append(set.name + QLatin1Char('=') + set.fileName);
         return names;
     };
+    // A set's file on SQLite; on the server its database, named after the master's.
+    const auto at = [&](const char *name, const char *file, const char *suffix) {
+        return QString::fromUtf8(name) + QLatin1Char('=')
+            + (db().dialect() == core::Dialect::Sqlite
+                    ? QString::fromLatin1(file)
+                    : db().postgresOptions().database + QString::fromLatin1(suffix));
+    };
     ASSERT_TRUE(createSet(QStringLiteral("城西店"), false, false).ok());
     ASSERT_TRUE(createSet(QStringLiteral("旧帐"), false, true).ok());
     EXPECT_EQ(offered(),
-        (QStringList { QStringLiteral("主帐套=jxc.db"), QStringLiteral("城西店=jxc_100001.db") }));
+        (QStringList { at("主帐套", "jxc.db", ""), at("城西店", "jxc_100001.db", "_100001") }));
     EXPECT_TRUE(core::loginAccountSets(db()).first().code.isEmpty());
 
     ASSERT_TRUE(createSet(QStringLiteral("城东店"), true, false).ok());
     EXPECT_EQ(offered(),
-        (QStringList { QStringLiteral("城东店=jxc_100003.db"), QStringLiteral("主帐套=jxc.db"),
-            QStringLiteral("城西店=jxc_100001.db") }));
+        (QStringList { at("城东店", "jxc_100003.db", "_100003"), at("主帐套", "jxc.db", ""),
+            at("城西店", "jxc_100001.db", "_100001") }));
 }
 
 TEST_F(AdministrationTest, OpeningASetWhoseFileIsMissingIsRefusedAndCreatesNothing)
