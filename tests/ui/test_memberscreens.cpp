@@ -158,7 +158,7 @@ TEST_F(MemberScreens, LoggingInReleasesTheGiftsThatHaveFallenDue)
                              "hs_myje,hs_zsje) values ('XF25031010001',?,'2025-03-10',100,"
                              "'2025-03-10',3,10,35)"),
         { member });
-    ui::LoginDialog login(core::Connection::openSqlite(path()), folder(), clock, ui);
+    ui::LoginDialog login(openAgain(), folder(), clock, ui);
     login.show();
     QTest::keyClick(login.passwordField(), Qt::Key_Return);
     ASSERT_EQ(login.result(), QDialog::Accepted);

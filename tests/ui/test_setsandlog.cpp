@@ -45,20 +45,22 @@ TEST_F(AccountSetScreenTest, ANewSetIsCreatedListedAndAnnounced)
     screen.defaultBox()->setChecked(true);
     screen.createButton()->click();
 
-    EXPECT_EQ(
-        ui.informed, QStringList { QStringLiteral("帐套“城西店”已建立，数据文件：jxc_100001.db") });
+    // The set's file, or on the server its database beside the master's.
+    const QString file = onPostgres() ? db().postgresOptions().database + QStringLiteral("_100001")
+                                      : QStringLiteral("jxc_100001.db");
+    EXPECT_EQ(ui.informed, QStringList { QStringLiteral("帐套“城西店”已建立，数据文件：") + file });
     ASSERT_EQ(screen.grid()->rowCount(), 1);
     QStringList row;
     for (int i = 0; i < screen.grid()->columnCount(); ++i)
         row.append(screen.grid()->item(0, i)->text());
     EXPECT_EQ(row,
         (QStringList { QStringLiteral("100001"), QStringLiteral("城西店"),
-            QStringLiteral("jxc_100001.db"), QStringLiteral("是"), QString(),
+            file, QStringLiteral("是"), QString(),
             QStringLiteral("2025年（新店）") }));
     EXPECT_TRUE(screen.nameField()->text().isEmpty());
-    auto copy
-        = core::Connection::openSqlite(QDir(folder()).filePath(QStringLiteral("jxc_100001.db")));
-    EXPECT_EQ(copy->firstText(QStringLiteral("select c_name from jxc_company")),
+    auto copy = core::openAccountSet(db(), core::listAccountSets(db()).first());
+    ASSERT_TRUE(copy.ok()) << copy.message().toStdString();
+    EXPECT_EQ(copy.value()->firstText(QStringLiteral("select c_name from jxc_company")),
         QStringLiteral("康宁大药房"));
 }
 

@@ -65,7 +65,7 @@ protected:
     std::unique_ptr<ui::LoginDialog> openDialog()
     {
         auto dialog = std::make_unique<ui::LoginDialog>(
-            core::Connection::openSqlite(path()), folder(), clock, said);
+            openAgain(), folder(), clock, said);
         dialog->show();
         return dialog;
     }
@@ -96,7 +96,9 @@ TEST_F(LoginScreen, AdminSeesTheHintAndEnterLogsInWithTheEmptyPassword)
     const ui::OpenedAccountSet opened = dialog->take();
     ASSERT_TRUE(opened.session);
     EXPECT_EQ(opened.session->user().code, QStringLiteral("100001"));
-    EXPECT_EQ(opened.set.fileName, QStringLiteral("jxc.db"));
+    // The master file, or on the server the master's database.
+    EXPECT_EQ(opened.set.fileName,
+        onPostgres() ? db().postgresOptions().database : QStringLiteral("jxc.db"));
     EXPECT_EQ(opened.own, nullptr);
     EXPECT_EQ(db().firstText(QStringLiteral("select a_name||':'||log_note from jxc_log")),
         QStringLiteral("admin:登录系统"));
