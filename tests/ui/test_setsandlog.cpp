@@ -54,9 +54,8 @@ TEST_F(AccountSetScreenTest, ANewSetIsCreatedListedAndAnnounced)
     for (int i = 0; i < screen.grid()->columnCount(); ++i)
         row.append(screen.grid()->item(0, i)->text());
     EXPECT_EQ(row,
-        (QStringList { QStringLiteral("100001"), QStringLiteral("城西店"),
-            file, QStringLiteral("是"), QString(),
-            QStringLiteral("2025年（新店）") }));
+        (QStringList { QStringLiteral("100001"), QStringLiteral("城西店"), file,
+            QStringLiteral("是"), QString(), QStringLiteral("2025年（新店）") }));
     EXPECT_TRUE(screen.nameField()->text().isEmpty());
     auto copy = core::openAccountSet(db(), core::listAccountSets(db()).first());
     ASSERT_TRUE(copy.ok()) << copy.message().toStdString();

@@ -64,8 +64,7 @@ class LoginScreen : public test::AccountSetTest
 protected:
     std::unique_ptr<ui::LoginDialog> openDialog()
     {
-        auto dialog = std::make_unique<ui::LoginDialog>(
-            openAgain(), folder(), clock, said);
+        auto dialog = std::make_unique<ui::LoginDialog>(openAgain(), folder(), clock, said);
         dialog->show();
         return dialog;
     }
