@@ -55,7 +55,7 @@ void Conditions::keyword(const QStringList &columns, const QString &key)
         return;
     QStringList tests;
     for (const QString &column : columns) {
-        tests.append(column + QStringLiteral(" like ?"));
+        tests.append(QStringLiteral("upper(%1) like upper(?)").arg(column));
         m_params.append(QLatin1Char('%') + text + QLatin1Char('%'));
     }
     m_sql += QStringLiteral(" and (") + tests.join(QStringLiteral(" or ")) + QLatin1Char(')');

@@ -84,7 +84,7 @@ QList<LoanRow> listLoans(const shell::Session &session, const LoanQuery &query)
     }
     if (!query.text.isEmpty()) {
         sql += QStringLiteral(" and (a.gl_djh like ? or a.jh_note like ? or k.kh_name like ? or "
-                              "k.kh_jm like ?)");
+                              "upper(k.kh_jm) like upper(?))");
         const QString pattern = QLatin1Char('%') + query.text + QLatin1Char('%');
         params << pattern << pattern << pattern << pattern;
     }

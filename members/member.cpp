@@ -164,7 +164,7 @@ QList<QSqlRecord> searchMembers(core::Connection &connection, const QString &tex
     return connection.rows(select
             + QStringLiteral(
                 " where a.hy_sn like ? or a.hy_bh like ? or a.hy_name like ? or "
-                "a.hy_jm like ? or a.hy_mobile like ? or a.hy_tele like ? order by a.id"),
+                "upper(a.hy_jm) like upper(?) or a.hy_mobile like ? or a.hy_tele like ? order by a.id"),
         { pattern, pattern, pattern, pattern, pattern, pattern });
 }
 
