@@ -28,10 +28,11 @@ ExpirySource expirySource(
     rights.warehouseRights(session, QStringLiteral("c"));
     ExpirySource source;
     source.sql
-        = QStringLiteral(" from jxc_tkc a,jxc_goods b,jxc_ckxx c where a.g_sn=b.g_sn and "
-                         "a.ck_sn=c.ck_sn and a.t_sl>0 and a.ck_sn like ? and (b.g_sn like ? or "
-                         "b.g_name like ? or upper(b.g_jm) like upper(?)) and a.t_ph<>? and a.t_yxq<>? and "
-                         "a.t_yxq<>? and a.t_yxq<=?")
+        = QStringLiteral(
+              " from jxc_tkc a,jxc_goods b,jxc_ckxx c where a.g_sn=b.g_sn and "
+              "a.ck_sn=c.ck_sn and a.t_sl>0 and a.ck_sn like ? and (b.g_sn like ? or "
+              "b.g_name like ? or upper(b.g_jm) like upper(?)) and a.t_ph<>? and a.t_yxq<>? and "
+              "a.t_yxq<>? and a.t_yxq<=?")
         + rights.sql();
     source.params = { QLatin1Char('%') + code + QLatin1Char('%'), pattern, pattern, pattern,
         QString(QLatin1String("")), QString(QLatin1String("")), QStringLiteral("0000-00"),

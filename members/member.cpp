@@ -162,9 +162,9 @@ QList<QSqlRecord> searchMembers(core::Connection &connection, const QString &tex
         return connection.rows(select + QStringLiteral(" order by a.id"));
     const QString pattern = QLatin1Char('%') + text.trimmed() + QLatin1Char('%');
     return connection.rows(select
-            + QStringLiteral(
-                " where a.hy_sn like ? or a.hy_bh like ? or a.hy_name like ? or "
-                "upper(a.hy_jm) like upper(?) or a.hy_mobile like ? or a.hy_tele like ? order by a.id"),
+            + QStringLiteral(" where a.hy_sn like ? or a.hy_bh like ? or a.hy_name like ? or "
+                             "upper(a.hy_jm) like upper(?) or a.hy_mobile like ? or a.hy_tele like "
+                             "? order by a.id"),
         { pattern, pattern, pattern, pattern, pattern, pattern });
 }
 

@@ -107,7 +107,8 @@ QString memberConditions(const MemberSalesFilter &filter, QVariantList &params)
     }
     const QString text = filter.text.trimmed();
     if (!text.isEmpty()) {
-        sql += QStringLiteral(" and (h.hy_name like ? or upper(h.hy_jm) like upper(?) or h.hy_mobile like ?)");
+        sql += QStringLiteral(
+            " and (h.hy_name like ? or upper(h.hy_jm) like upper(?) or h.hy_mobile like ?)");
         const QString pattern = QLatin1Char('%') + text + QLatin1Char('%');
         params << pattern << pattern << pattern;
     }

@@ -146,7 +146,8 @@ QList<OpenOrderLine> openOrderLines(const shell::Session &session, const OrderFi
         QStringLiteral("select %1 from jxc_xssp a,jxc_xsd b where a.gl_djh=b.gl_djh and "
                        "b.ls_status=? and a.ls_sl>a.ls_cksl and b.ls_xsrq>=? and b.ls_xsrq<=? and "
                        "(b.gl_djh like ? or b.kh_sn like ? or exists (select 1 from jxc_khxx c "
-                       "where c.kh_sn=b.kh_sn and (upper(c.kh_jm) like upper(?) or c.kh_name like ?))) order by "
+                       "where c.kh_sn=b.kh_sn and (upper(c.kh_jm) like upper(?) or c.kh_name like "
+                       "?))) order by "
                        "b.ls_xsrq desc,b.gl_djh desc,a.id desc")
             .arg(openLineColumns),
         { 1, filter.from, filter.to + QStringLiteral(" 23:59:59"), like, like, like, like },

@@ -148,7 +148,8 @@ QList<Quotation> findQuotations(
         "select a.id,a.g_sn,b.g_name,a.%1,a.%2,a.%3,c.%4,(select u_name from jxc_user where "
         "u_sn=a.u_sn order by id limit 1),a.%5 from %6 a join jxc_goods b on b.g_sn=a.g_sn left "
         "join %7 c on c.%3=a.%3 where a.%2>=? and a.%2<=? and coalesce(c.%4,'') like ? and "
-        "(b.g_sn like ? or b.g_name like ? or upper(coalesce(b.g_jm,'')) like upper(?)) order by a.%2 desc,"
+        "(b.g_sn like ? or b.g_name like ? or upper(coalesce(b.g_jm,'')) like upper(?)) order by "
+        "a.%2 desc,"
         "a.id desc")
                             .arg(name(c.price), name(c.date), name(c.party), name(c.partyName),
                                 name(c.note), name(c.table), name(c.partyTable));

@@ -45,7 +45,8 @@ Sql ledgerConditions(const ReportFilter &filter)
         sql += { QStringLiteral(" and b.gc_sn like ?"), { filter.classCode + QLatin1Char('%') } };
     if (!filter.keyword.trimmed().isEmpty()) {
         const QString pattern = QLatin1Char('%') + filter.keyword.trimmed() + QLatin1Char('%');
-        sql += { QStringLiteral(" and (a.g_sn like ? or b.g_name like ? or upper(b.g_jm) like upper(?))"),
+        sql += { QStringLiteral(
+                     " and (a.g_sn like ? or b.g_name like ? or upper(b.g_jm) like upper(?))"),
             { pattern, pattern, pattern } };
     }
     if (!filter.goods.isEmpty())

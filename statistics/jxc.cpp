@@ -162,7 +162,8 @@ QList<JxcRow> jxcRows(const shell::Session &session, const JxcFilter &filter)
         sql += { QStringLiteral(" and b.gc_sn like ?"), { filter.classCode + QLatin1Char('%') } };
     if (!filter.keyword.trimmed().isEmpty()) {
         const QString pattern = QLatin1Char('%') + filter.keyword.trimmed() + QLatin1Char('%');
-        sql += { QStringLiteral(" and (k.g_sn like ? or b.g_name like ? or upper(b.g_jm) like upper(?))"),
+        sql += { QStringLiteral(
+                     " and (k.g_sn like ? or b.g_name like ? or upper(b.g_jm) like upper(?))"),
             { pattern, pattern, pattern } };
     }
     sql.text += QStringLiteral(" order by k.g_sn");
