@@ -74,6 +74,11 @@ TEST_F(FilledRecords, ThePickerOffersInStockBatchesOfEnabledGoods)
         QStringList { QStringLiteral("200003/C1") });
     EXPECT_EQ(batchNames(offered({ .key = QStringLiteral("阿莫") })),
         (QStringList { QStringLiteral("200001/A1"), QStringLiteral("200001/A2") }));
+    // A mnemonic matches in whichever case it is typed.
+    db().exec(QStringLiteral("update jxc_goods set g_jm=? where g_sn=?"),
+        { QStringLiteral("AMXL"), QStringLiteral("200001") });
+    EXPECT_EQ(batchNames(offered({ .key = QStringLiteral("amx") })),
+        (QStringList { QStringLiteral("200001/A1"), QStringLiteral("200001/A2") }));
     EXPECT_EQ(batchNames(offered({ .warehouse = QStringLiteral("100002") })),
         QStringList { QStringLiteral("200001/B9") });
     // Within 60 days the expiry query's limit is "2025-05": A1 is a full date in that month.
