@@ -102,7 +102,7 @@ int main(int argc, char *argv[])
     const ui::OpenedAccountSet opened = login.take();
 
     ui::GridLayouts layouts(ui::GridLayouts::defaultFilePath());
-    ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts };
+    ui::Workspace workspace { *opened.session, *opened.master, opened.set.name, layouts, folder };
     ui::installPrinting(workspace);
     ui::ScreenRegistry registry;
     registerScreens(registry);

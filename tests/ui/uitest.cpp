@@ -24,7 +24,8 @@ void UiTest::SetUp()
     }
     layouts
         = std::make_unique<ui::GridLayouts>(QDir(folder()).filePath(QStringLiteral("layout.ini")));
-    m_workspace.reset(new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts });
+    m_workspace.reset(
+        new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts, folder() });
 }
 
 void UiTest::TearDown()
@@ -37,7 +38,8 @@ void UiTest::TearDown()
 void UiTest::switchOperator(const QString &name, const QString &password)
 {
     loginAs(name, password);
-    m_workspace.reset(new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts });
+    m_workspace.reset(
+        new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts, folder() });
 }
 
 void UiTest::addOperatorWithRights(const QString &name, const QHash<QString, QString> &strings)

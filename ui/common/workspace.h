@@ -25,6 +25,8 @@ struct Workspace
     core::Connection &master;
     QString accountSetName;
     GridLayouts &layouts;
+    // The data folder the program started with; empty in a workspace built without one.
+    QString dataFolder {};
     // Opens (or brings forward) the screen of an operation and returns it; nullptr when the
     // operator lacks its right or no screen is registered. Set by the main window; a screen
     // shown without one (a test, a screenshot) finds it empty.
@@ -32,6 +34,11 @@ struct Workspace
     // How screens print (see printing.h); set by the program (ui/reports).
     PrintHandler print {};
     PrintAllHandler printAll {};
+
+    // Where the workstation keeps its files (edited report templates, GSP documents): the data
+    // folder, also when the books are on a server and no master file marks a folder; without
+    // one, the master file's folder.
+    QString folder() const;
 
     // Restores a grid's column widths and order for this screen and operator and keeps them.
     void rememberColumns(QTableView *grid, const QString &screen)

@@ -21,7 +21,6 @@
 #include "ui/shell/mainwindow.h"
 
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTimer>
@@ -81,8 +80,7 @@ void registerDerivedScreens(ScreenRegistry &registry)
 
 void openDocumentsFolder(Workspace &workspace)
 {
-    const QString data = QFileInfo(workspace.master.filePath()).absolutePath();
-    const Result<QString> folder = gsp::gspDocumentsFolder(data);
+    const Result<QString> folder = gsp::gspDocumentsFolder(workspace.folder());
     if (!folder) {
         workspace.session.ui().inform(folder.message());
         return;

@@ -8,7 +8,6 @@
 #include "ui/reports/previewdialog.h"
 
 #include <QAbstractItemModel>
-#include <QFileInfo>
 #include <QInputDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -17,9 +16,7 @@ namespace medistock::ui {
 
 reports::TemplateFolders templateFolders(const Workspace &workspace)
 {
-    const QString master = workspace.master.filePath();
-    return reports::programTemplateFolders(
-        master.isEmpty() ? QString() : QFileInfo(master).absolutePath());
+    return reports::programTemplateFolders(workspace.folder());
 }
 
 reports::ReportData gridData(const Workspace &workspace, const QAbstractItemModel &model,
