@@ -77,9 +77,9 @@ TEST_F(QuotationScreenTest, AQuotationKeyedOnScreenIsWhatTheSaleProposes)
     keys.press(Qt::Key_F2);
     EXPECT_FALSE(keys.waiting());
     EXPECT_TRUE(ui.informed.isEmpty()) << ui.informed.join(QLatin1Char('|')).toStdString();
-    EXPECT_EQ(db().firstText(QStringLiteral("select g_sn||'|'||kb_bj||'|'||kh_sn||'|'||kb_bjrq||"
-                                            "'|'||a_name from jxc_khbj")),
-        QStringLiteral("10000001|10.8|100002|2025-03-14|admin"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_khbj"),
+                  QStringLiteral("g_sn,kb_bj,kh_sn,kb_bjrq,a_name")),
+        QStringList { QStringLiteral("10000001|10.8|100002|2025-03-14|admin") });
     EXPECT_EQ(test::gridRows(*screen),
         QStringList { QStringLiteral("10000001|阿莫西林胶囊|10.80|2025-03-14|华康药店||") });
 
@@ -143,8 +143,9 @@ TEST_F(QuotationScreenTest, ASupplierQuotationStaysApartFromSales)
     EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_ghsbj")), 0);
     EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_tempspxf")), 0);
     keyQuotation(true);
-    EXPECT_EQ(db().firstText(QStringLiteral("select g_sn||'|'||gb_bj||'|'||ghs_sn from jxc_ghsbj")),
-        QStringLiteral("10000001|4.5|100002"));
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_ghsbj"), QStringLiteral("g_sn,gb_bj,ghs_sn")),
+        QStringList { QStringLiteral("10000001|4.5|100002") });
     EXPECT_EQ(test::rowCount(db(), QStringLiteral("jxc_khbj")), 0);
     EXPECT_EQ(proposedPrice(), QStringLiteral("11.50"));
 }
