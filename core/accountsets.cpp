@@ -41,13 +41,6 @@ void buildSetFile(Connection &master, const QString &path, const SeedContext &se
         throw DbError(created.message());
 }
 
-// Both names are the program's own (the master's name as configured and a numeric code).
-QString quotedName(const QString &name)
-{
-    QString inner = name;
-    return QLatin1Char('"') + inner.replace(QLatin1Char('"'), QLatin1String("\"\""))
-        + QLatin1Char('"');
-}
 
 // The register row of a new set (inside the caller's transaction).
 void registerSet(Connection &master, const AccountSet &created)

@@ -28,4 +28,11 @@ QString beginWriteSql(Dialect dialect)
                                       : QStringLiteral("begin isolation level serializable");
 }
 
+QString quotedName(const QString &name)
+{
+    QString inner = name;
+    return QLatin1Char('"') + inner.replace(QLatin1Char('"'), QLatin1String("\"\""))
+        + QLatin1Char('"');
+}
+
 } // namespace medistock::core

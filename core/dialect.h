@@ -16,4 +16,8 @@ QString columnTypeSql(Dialect dialect, const QString &declaredType);
 // serializable on PostgreSQL (conflicts come back as DbError::Kind::Conflict, see operation.h).
 QString beginWriteSql(Dialect dialect);
 
+// A database's name as an identifier in SQL text ("jxc_100001" in double quotes). Only names the
+// program makes itself (the master's as configured, a set's code, a scratch database) go here.
+QString quotedName(const QString &name);
+
 } // namespace medistock::core

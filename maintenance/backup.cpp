@@ -3,6 +3,7 @@
 #include "core/connection.h"
 #include "core/dbfile.h"
 #include "core/operation.h"
+#include "maintenance/pgdump.h"
 #include "maintenance/sqlitecopy.h"
 #include "shell/session.h"
 #include "shell/settings.h"
@@ -20,50 +21,91 @@ QString shown(const QString &path)
     return QDir::toNativeSeparators(path);
 }
 
-QString postgresText()
-{
-    return QStringLiteral("这个帐套在 PostgreSQL 服务器上，请在服务器上用 pg_dump 备份、用 "
-                          "pg_restore 恢复。");
-}
-
 QString badBackupText(const QString &refusal)
 {
     return QStringLiteral("这个备份文件不能用来恢复，当前帐套没有任何改动。\r\n") + refusal;
 }
 
-QString setFolder(const shell::Session &session)
+// What differs between a set in an SQLite file and one on a server, decided here once: the
+// backups' extension, how one is written and checked, and how one replaces the set. Each
+// returns the refusal text, empty when it went through.
+struct SetCopies
 {
-    return QFileInfo(session.db().filePath()).absolutePath();
+    using Step = std::function<QString(const QString &file, const CopyProgress &progress)>;
+    QString name; // the set's file or database name, which its backups' names start with
+    QString extension;
+    Step write; // a checked backup of the set into the file
+    Step check; // whether the file may be restored from
+    Step replace; // the set's data replaced by the file's
+};
+
+SetCopies fileCopies(core::Connection &db)
+{
+    const auto check = [&db](const QString &file, const CopyProgress &) {
+        if (QFileInfo(file) == QFileInfo(db.filePath()))
+            return QStringLiteral("这是当前帐套文件本身。");
+        const QString refusal = core::inspectDatabaseFile(file);
+        return refusal.isEmpty() ? core::verifyDatabaseFile(file) : refusal;
+    };
+    const auto write = [&db](const QString &file, const CopyProgress &progress) {
+        const QString copied = copyDatabase(db.filePath(), file, CopyMode::ToNewFile, progress);
+        return copied.isEmpty() ? core::verifyDatabaseFile(file) : copied;
+    };
+    // The backup carries the identity of the file it was taken from; the set keeps one of its own.
+    const auto replace = [&db](const QString &file, const CopyProgress &progress) {
+        const QString copied = copyDatabase(file, db.filePath(), CopyMode::IntoOpenSet, progress);
+        if (copied.isEmpty())
+            db.giveFileIdentity(true);
+        return copied;
+    };
+    return { QFileInfo(db.filePath()).completeBaseName(), QStringLiteral(".db"), write, check,
+        replace };
 }
 
-// Refuses (and tells) an operator without the right "备份/恢复数据库", and a set that is not an
-// SQLite file.
-Outcome requireBackupRight(const shell::Session &session)
+SetCopies serverCopies(core::Connection &db)
 {
-    const Outcome allowed = shell::requireRight(session, "qtcz", 13);
-    if (allowed && session.db().dialect() != core::Dialect::Sqlite)
-        return core::refuse(session.ui(), postgresText());
-    return allowed;
+    const auto write = [&db](const QString &file, const CopyProgress &progress) {
+        const QString dumped = dumpServerSet(db, file, progress);
+        return dumped.isEmpty() ? checkServerDump(db, file, progress) : dumped;
+    };
+    const auto check = [&db](const QString &file, const CopyProgress &progress) {
+        return checkServerDump(db, file, progress);
+    };
+    const auto replace = [&db](const QString &file, const CopyProgress &progress) {
+        return restoreServerDump(db, file, progress);
+    };
+    return { db.postgresOptions().database, QStringLiteral(".dump"), write, check, replace };
 }
 
-// Why the file cannot be restored from; empty when it is a sound account-set file other than
-// the open one.
-QString backupRefusal(const shell::Session &session, const QString &file)
+SetCopies setCopies(const shell::Session &session)
+{
+    return session.db().dialect() == core::Dialect::Postgres ? serverCopies(session.db())
+                                                             : fileCopies(session.db());
+}
+
+// Runs a step; a database error on the way is its refusal.
+QString run(const SetCopies::Step &step, const QString &file, const CopyProgress &progress)
+{
+    try {
+        return step(file, progress);
+    } catch (const core::DbError &error) {
+        return error.message();
+    }
+}
+
+// Why the file cannot be restored from; empty when it is a sound backup of an account set.
+QString backupRefusal(const SetCopies &copies, const QString &file, const CopyProgress &progress)
 {
     if (!QFileInfo::exists(file))
         return badBackupText(QStringLiteral("备份文件不存在：") + shown(file));
-    if (QFileInfo(file) == QFileInfo(session.db().filePath()))
-        return badBackupText(QStringLiteral("这是当前帐套文件本身。"));
-    QString refusal = core::inspectDatabaseFile(file);
-    if (refusal.isEmpty())
-        refusal = core::verifyDatabaseFile(file);
+    const QString refusal = run(copies.check, file, progress);
     return refusal.isEmpty() ? QString() : badBackupText(refusal);
 }
 
-// Copies the open set to `target` through a temporary file that is checked before it takes the
-// name, so that a file of that name is always a whole, sound backup.
-Outcome writeBackup(
-    const shell::Session &session, const QString &target, const CopyProgress &progress)
+// Writes a backup of the set to `target` through a temporary file that is checked before it
+// takes the name, so that a file of that name is always a whole, sound backup.
+Outcome writeBackup(const shell::Session &session, const SetCopies &copies, const QString &target,
+    const CopyProgress &progress)
 {
     if (!QDir().mkpath(QFileInfo(target).absolutePath()))
         return core::refuse(session.ui(),
@@ -71,9 +113,7 @@ Outcome writeBackup(
                 .arg(shown(QFileInfo(target).absolutePath())));
     const QString partial = target + QStringLiteral(".part");
     QFile::remove(partial);
-    const QString copied
-        = copyDatabase(session.db().filePath(), partial, CopyMode::ToNewFile, progress);
-    QString refusal = copied.isEmpty() ? core::verifyDatabaseFile(partial) : copied;
+    QString refusal = run(copies.write, partial, progress);
     if (refusal.isEmpty() && QFile::exists(target) && !QFile::remove(target))
         refusal = QStringLiteral("不能替换已有的备份文件“%1”。").arg(shown(target));
     if (refusal.isEmpty() && !QFile::rename(partial, target))
@@ -85,9 +125,29 @@ Outcome writeBackup(
     return Outcome::done();
 }
 
-QString baseName(const shell::Session &session)
+QString datedName(const SetCopies &copies, const QString &infix, const QDateTime &when)
 {
-    return QFileInfo(session.db().filePath()).completeBaseName();
+    return copies.name + infix + when.toString(QStringLiteral("yyyyMMdd_HHmmss"))
+        + copies.extension;
+}
+
+// The kept copy never takes the name of a file that is there (the backup restored from may be
+// one kept a moment ago).
+QString unusedName(const QString &path)
+{
+    const QFileInfo info(path);
+    QString name = path;
+    for (int n = 2; QFileInfo::exists(name); ++n)
+        name = info.dir().filePath(
+            info.completeBaseName() + QStringLiteral("_%1.").arg(n) + info.suffix());
+    return name;
+}
+
+QString restoreQuestion(const QString &file)
+{
+    return QStringLiteral("从备份文件恢复帐套数据：\r\n%1\r\n当前帐套的全部数据将被备份"
+                          "文件里的数据替换（替换前的数据另存一份），确认吗？")
+        .arg(shown(file));
 }
 
 } // namespace
@@ -97,85 +157,84 @@ QString backupFolder(const QString &dataFolder)
     return QDir(dataFolder).filePath(QStringLiteral("backup"));
 }
 
-QString backupFileName(const QString &setFile, const QDateTime &when)
+QString backupFileName(const shell::Session &session, const QDateTime &when)
 {
-    return QFileInfo(setFile).completeBaseName() + QLatin1Char('_')
-        + when.toString(QStringLiteral("yyyyMMdd_HHmmss")) + QStringLiteral(".db");
+    return datedName(setCopies(session), QStringLiteral("_"), when);
 }
 
-Result<QString> backupAccountSet(
-    const shell::Session &session, const QString &target, const CopyProgress &progress)
+QString backupFilePattern(const shell::Session &session)
 {
-    const Outcome allowed = requireBackupRight(session);
+    return QLatin1Char('*') + setCopies(session).extension;
+}
+
+Result<QString> backupAccountSet(const shell::Session &session, const QString &dataFolder,
+    const QString &target, const CopyProgress &progress)
+{
+    const Outcome allowed = shell::requireRight(session, "qtcz", 13);
     if (!allowed)
         return allowed;
+    const SetCopies copies = setCopies(session);
     const QString file = target.isEmpty()
-        ? QDir(backupFolder(setFolder(session)))
-              .filePath(backupFileName(session.db().filePath(), session.clock().now()))
+        ? QDir(backupFolder(dataFolder)).filePath(backupFileName(session, session.clock().now()))
         : QFileInfo(target).absoluteFilePath();
-    if (QFileInfo(file) == QFileInfo(session.db().filePath()))
+    if (session.db().dialect() == core::Dialect::Sqlite
+        && QFileInfo(file) == QFileInfo(session.db().filePath()))
         return core::refuse(session.ui(), QStringLiteral("备份文件不能是帐套文件本身。"));
-    const Outcome written = writeBackup(session, file, progress);
+    const Outcome written = writeBackup(session, copies, file, progress);
     if (!written)
         return written;
     session.log(QStringLiteral("帐套数据备份到文件：") + shown(file));
     return file;
 }
 
-Result<QString> restoreAccountSet(
-    const shell::Session &session, const QString &source, const CopyProgress &progress)
+Result<QString> restoreAccountSet(const shell::Session &session, const QString &dataFolder,
+    const QString &source, const CopyProgress &progress)
 {
-    const Outcome allowed = requireBackupRight(session);
+    const Outcome allowed = shell::requireRight(session, "qtcz", 13);
     if (!allowed)
         return allowed;
+    const SetCopies copies = setCopies(session);
     const QString file = QFileInfo(source).absoluteFilePath();
-    const QString refusal = backupRefusal(session, file);
+    const QString refusal = backupRefusal(copies, file, progress);
     if (!refusal.isEmpty())
         return core::refuse(session.ui(), refusal);
-    if (!session.ui().ask(
-            QStringLiteral("从备份文件恢复帐套数据：\r\n%1\r\n当前帐套的全部数据将被备份"
-                           "文件里的数据替换（替换前的数据另存一份），确认吗？")
-                .arg(shown(file))))
+    if (!session.ui().ask(restoreQuestion(file)))
         return Outcome::refused(QString());
-    const QString kept = QDir(backupFolder(setFolder(session)))
-                             .filePath(baseName(session) + QStringLiteral("_before_restore_")
-                                 + session.clock().now().toString(QStringLiteral("yyyyMMdd_HHmmss"))
-                                 + QStringLiteral(".db"));
-    const Outcome copied = writeBackup(session, kept, {});
+    const QString kept = unusedName(QDir(backupFolder(dataFolder))
+            .filePath(datedName(copies, QStringLiteral("_before_restore_"), session.clock().now())));
+    const Outcome copied = writeBackup(session, copies, kept, progress);
     if (!copied)
         return copied;
-    const QString restored
-        = copyDatabase(file, session.db().filePath(), CopyMode::IntoOpenSet, progress);
+    const QString restored = run(copies.replace, file, progress);
     if (!restored.isEmpty())
         return core::refuse(session.ui(), restored);
-    // The backup carries the identity of the file it was taken from; the set keeps one of its own.
-    const Outcome marked = core::guarded(session.ui(), [&] {
-        session.db().giveFileIdentity(true);
+    const Outcome logged = core::guarded(session.ui(), [&] {
         session.log(QStringLiteral("从备份文件恢复帐套数据：") + shown(file));
         return Outcome::done();
     });
-    if (!marked)
-        return marked;
+    if (!logged)
+        return logged;
     return kept;
 }
 
-Result<QString> dailyBackup(const shell::Session &session)
+Result<QString> dailyBackup(const shell::Session &session, const QString &dataFolder)
 {
     const int kept = session.params().integer("cs_cs032");
-    if (kept <= 0 || session.db().dialect() != core::Dialect::Sqlite)
+    if (kept <= 0)
         return QString();
-    const QDir folder(backupFolder(setFolder(session)));
-    const QString prefix = baseName(session) + QStringLiteral("_auto_");
-    const QString file = folder.filePath(prefix
-        + session.clock().today().toString(QStringLiteral("yyyyMMdd")) + QStringLiteral(".db"));
+    const SetCopies copies = setCopies(session);
+    const QDir folder(backupFolder(dataFolder));
+    const QString prefix = copies.name + QStringLiteral("_auto_");
+    const QString file = folder.filePath(
+        prefix + session.clock().today().toString(QStringLiteral("yyyyMMdd")) + copies.extension);
     if (QFileInfo::exists(file))
         return QString();
-    const Outcome written = writeBackup(session, file, {});
+    const Outcome written = writeBackup(session, copies, file, {});
     if (!written)
         return written;
     // The date in the name sorts as text; the newest come first.
     const QStringList daily = folder.entryList(
-        { prefix + QStringLiteral("*.db") }, QDir::Files, QDir::Name | QDir::Reversed);
+        { prefix + QLatin1Char('*') + copies.extension }, QDir::Files, QDir::Name | QDir::Reversed);
     for (qsizetype i = kept; i < daily.size(); ++i)
         QFile::remove(folder.filePath(daily.at(i)));
     return file;

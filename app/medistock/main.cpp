@@ -113,7 +113,7 @@ int main(int argc, char *argv[])
     {
         // The daily backup on leaving, when the parameters ask for one.
         ui::BusyIndicator busy(nullptr, QStringLiteral("正在自动备份帐套数据…"));
-        maintenance::dailyBackup(*opened.session);
+        maintenance::dailyBackup(*opened.session, folder);
     }
     return status;
 }

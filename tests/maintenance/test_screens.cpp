@@ -32,7 +32,7 @@ protected:
         layouts = std::make_unique<ui::GridLayouts>(
             QDir(folder()).filePath(QStringLiteral("layout.ini")));
         workspace = std::make_unique<ui::Workspace>(
-            ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts });
+            ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts, folder() });
     }
 
     QStringList gridTexts(const ui::QueryScreen &screen, int column)
@@ -76,29 +76,39 @@ TEST_F(MaintenanceScreens, VerifyListsWhatItFindsAndRepairMendsIt)
     EXPECT_FALSE(screen.repairButton()->isEnabled());
 }
 
+// A set file is backed up to "*.db" files, a set on the server to "*.dump" files.
 TEST_F(MaintenanceScreens, BackupIsListedAndOnlyASoundFileRestores)
 {
-    if (db().dialect() != core::Dialect::Sqlite)
-        GTEST_SKIP() << "backup files are SQLite files";
+    const QString name = onPostgres() ? db().postgresOptions().database : QStringLiteral("jxc");
+    const QString extension = onPostgres() ? QStringLiteral(".dump") : QStringLiteral(".db");
     ui::BackupDialog dialog(*workspace);
     dialog.show();
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     EXPECT_EQ(QApplication::focusWidget(), dialog.backupFile());
     const QString proposed = dialog.backupFile()->text();
-    EXPECT_TRUE(
-        proposed.startsWith(QDir(folder()).filePath(QStringLiteral("backup/jxc_20250314_"))))
+    EXPECT_TRUE(proposed.startsWith(
+        QDir(folder()).filePath(QStringLiteral("backup/%1_20250314_").arg(name))))
         << proposed.toStdString();
+    EXPECT_TRUE(proposed.endsWith(extension));
+    EXPECT_TRUE(dialog.backupButton()->isEnabled());
+    EXPECT_TRUE(dialog.restoreButton()->isEnabled());
+    // A backup of the other kind of set is not offered.
+    ASSERT_TRUE(QDir(folder()).mkpath(QStringLiteral("backup")));
+    QFile stray(QDir(folder()).filePath(
+        QStringLiteral("backup/stray") + (onPostgres() ? QStringLiteral(".db") : QStringLiteral(".dump"))));
+    ASSERT_TRUE(stray.open(QIODevice::WriteOnly));
+    stray.close();
     dialog.backUp();
     EXPECT_TRUE(QFile::exists(proposed));
     ASSERT_EQ(dialog.backups()->rowCount(), 1);
     dialog.backups()->setCurrentCell(0, 0);
     EXPECT_EQ(dialog.restoreFile()->text(), proposed);
 
-    const QString truncated = QDir(folder()).filePath(QStringLiteral("short.db"));
+    const QString truncated = QDir(folder()).filePath(QStringLiteral("short") + extension);
     ASSERT_TRUE(QFile::copy(proposed, truncated));
     QFile file(truncated);
-    ASSERT_TRUE(file.resize(file.size() - 4096));
+    ASSERT_TRUE(file.resize(file.size() * 3 / 4));
     dialog.restoreFile()->setText(truncated);
     ui.clear();
     dialog.restore();

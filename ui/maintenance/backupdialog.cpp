@@ -29,12 +29,6 @@ namespace medistock::ui {
 
 namespace {
 
-QString postgresTip()
-{
-    return QStringLiteral("这个帐套在 PostgreSQL 服务器上，请在服务器上用 pg_dump 备份、用 "
-                          "pg_restore 恢复");
-}
-
 // A button at the right end of its own row.
 QWidget *buttonRow(QPushButton *button, QWidget *parent)
 {
@@ -96,11 +90,6 @@ BackupDialog::BackupDialog(Workspace &workspace, QWidget *parent)
     layout->addWidget(buildRestoreGroup(), 1);
     layout->addWidget(buildDailyGroup());
     layout->addWidget(buttons);
-    if (workspace.session.db().dialect() != core::Dialect::Sqlite)
-        for (QWidget *w : { static_cast<QWidget *>(m_backUp), static_cast<QWidget *>(m_restore) }) {
-            w->setEnabled(false);
-            w->setToolTip(postgresTip());
-        }
     listBackups();
     resize(760, 560);
     m_backupFile->setFocus();
@@ -108,7 +97,7 @@ BackupDialog::BackupDialog(Workspace &workspace, QWidget *parent)
 
 QString BackupDialog::folder() const
 {
-    return maintenance::backupFolder(QFileInfo(m_workspace.session.db().filePath()).absolutePath());
+    return maintenance::backupFolder(m_workspace.folder());
 }
 
 QWidget *BackupDialog::buildBackupGroup()
@@ -118,7 +107,7 @@ QWidget *BackupDialog::buildBackupGroup()
     auto *browse = new QPushButton(QStringLiteral("浏览…"), group);
     connect(browse, &QPushButton::clicked, this, [this] {
         const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("备份到文件"),
-            m_backupFile->text(), QStringLiteral("帐套备份 (*.db)"));
+            m_backupFile->text(), backupFilter());
         if (!path.isEmpty())
             m_backupFile->setText(path);
     });
@@ -135,7 +124,7 @@ QWidget *BackupDialog::buildRestoreGroup()
     auto *browse = new QPushButton(QStringLiteral("浏览…"), group);
     connect(browse, &QPushButton::clicked, this, [this] {
         const QString path = QFileDialog::getOpenFileName(this, QStringLiteral("选择备份文件"),
-            folder(), QStringLiteral("帐套备份 (*.db);;所有文件 (*)"));
+            folder(), backupFilter() + QStringLiteral(";;所有文件 (*)"));
         if (!path.isEmpty())
             m_restoreFile->setText(path);
     });
@@ -178,17 +167,23 @@ QWidget *BackupDialog::buildDailyGroup()
     return group;
 }
 
+QString BackupDialog::backupFilter() const
+{
+    return QStringLiteral("帐套备份 (%1)").arg(maintenance::backupFilePattern(m_workspace.session));
+}
+
 void BackupDialog::proposeBackupFile()
 {
-    m_backupFile->setText(QDir(folder()).filePath(maintenance::backupFileName(
-        m_workspace.session.db().filePath(), m_workspace.session.clock().now())));
+    m_backupFile->setText(QDir(folder()).filePath(
+        maintenance::backupFileName(m_workspace.session, m_workspace.session.clock().now())));
 }
 
 void BackupDialog::listBackups()
 {
     QList<QStringList> rows;
     const QFileInfoList files
-        = QDir(folder()).entryInfoList({ QStringLiteral("*.db") }, QDir::Files, QDir::Time);
+        = QDir(folder()).entryInfoList(
+        { maintenance::backupFilePattern(m_workspace.session) }, QDir::Files, QDir::Time);
     for (const QFileInfo &file : files)
         rows.append(
             { file.fileName(), file.lastModified().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
@@ -200,8 +195,8 @@ void BackupDialog::backUp()
 {
     const Result<QString> written
         = withProgress(this, QStringLiteral("正在备份帐套数据…"), [&](const auto &progress) {
-              return maintenance::backupAccountSet(
-                  m_workspace.session, m_backupFile->text().trimmed(), progress);
+              return maintenance::backupAccountSet(m_workspace.session, m_workspace.folder(),
+                  m_backupFile->text().trimmed(), progress);
           });
     if (!written)
         return;
@@ -215,8 +210,8 @@ void BackupDialog::restore()
 {
     const Result<QString> kept
         = withProgress(this, QStringLiteral("正在恢复帐套数据…"), [&](const auto &progress) {
-              return maintenance::restoreAccountSet(
-                  m_workspace.session, m_restoreFile->text().trimmed(), progress);
+              return maintenance::restoreAccountSet(m_workspace.session, m_workspace.folder(),
+                  m_restoreFile->text().trimmed(), progress);
           });
     if (!kept)
         return;

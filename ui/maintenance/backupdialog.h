@@ -15,7 +15,8 @@ struct Workspace;
 // (another may be chosen), "从备份文件恢复帐套数据" lists the backups there, newest first, or takes
 // any file; both copy with a progress window. The daily backup's kept copies (cs_cs032) are set
 // here too. After a restore the program must log in again, which restored() tells the caller.
-// On PostgreSQL the buttons stay disabled with a tooltip: the server's tools do it there.
+// A set on a server is backed up to and restored from pg_dump files ("*.dump"), a set file from
+// SQLite files ("*.db"): the file dialogs and the list offer only that kind.
 class BackupDialog : public QDialog
 {
     Q_OBJECT
@@ -26,6 +27,8 @@ public:
     QLineEdit *restoreFile() const { return m_restoreFile; }
     QTableWidget *backups() const { return m_backups; }
     QSpinBox *keptCopies() const { return m_kept; }
+    QPushButton *backupButton() const { return m_backUp; }
+    QPushButton *restoreButton() const { return m_restore; }
     bool restored() const { return m_restored; }
 
 public slots:
@@ -41,6 +44,7 @@ private:
     // A new dated name in the backup folder.
     void proposeBackupFile();
     QString folder() const;
+    QString backupFilter() const;
 
     Workspace &m_workspace;
     QLineEdit *m_backupFile;
