@@ -1,4 +1,5 @@
 // verify, backup and restore on the command line, on a data folder of its own.
+#include "tests/support/accountset.h"
 #include "tests/support/cli.h"
 
 #include <QDir>
@@ -58,6 +59,50 @@ TEST_F(MaintenanceCli, VerifyBackupAndRestore)
         << refused.err.toStdString();
     EXPECT_EQ(run({ QStringLiteral("verify"), QStringLiteral("--repair") }).out,
         QStringLiteral("没有作任何修改。\n"));
+}
+
+// The same on a server: backup and restore go through pg_dump files in the data folder.
+class ServerCli : public AccountSetTest
+{
+protected:
+    CliRun run(const QStringList &arguments)
+    {
+        return runCli(QStringList { QStringLiteral("--data"), folder(), QStringLiteral("--pg"),
+                          db().postgresOptions().text(), QStringLiteral("--today"),
+                          QStringLiteral("2025-03-14") }
+            + arguments);
+    }
+};
+
+TEST_F(ServerCli, BackupAndRestoreASetOnTheServer)
+{
+    if (!onPostgres())
+        GTEST_SKIP() << "about a set on the server";
+    const CliRun backup = run({ QStringLiteral("backup") });
+    EXPECT_EQ(backup.status, 0) << backup.err.toStdString();
+    const QString file = backup.out.trimmed();
+    EXPECT_TRUE(file.startsWith(QDir::toNativeSeparators(QDir(folder()).filePath(
+        QStringLiteral("backup/%1_20250314_").arg(db().postgresOptions().database)))))
+        << file.toStdString();
+    EXPECT_TRUE(file.endsWith(QStringLiteral(".dump")));
+    db().exec(QStringLiteral("update jxc_xtcs set cs_cs032=5"));
+
+    const CliRun restored = run({ QStringLiteral("--yes"), QStringLiteral("restore"), file });
+    EXPECT_EQ(restored.status, 0) << restored.err.toStdString();
+    EXPECT_TRUE(restored.out.startsWith(QStringLiteral("恢复前的帐套数据已另存为：")));
+    EXPECT_TRUE(restored.out.trimmed().endsWith(QStringLiteral(".dump")));
+    EXPECT_EQ(db().firstValue(QStringLiteral("select cs_cs032 from jxc_xtcs")).toInt(), 0);
+
+    QFile copy(file);
+    ASSERT_TRUE(copy.resize(copy.size() / 2));
+    const CliRun refused = run({ QStringLiteral("--yes"), QStringLiteral("restore"), file });
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(refused.err.startsWith(
+        QStringLiteral("这个备份文件不能用来恢复，当前帐套没有任何改动。\r\n备份文件")))
+        << refused.err.toStdString();
+    const CliRun verified = run({ QStringLiteral("verify") });
+    EXPECT_EQ(verified.status, 0) << verified.out.toStdString();
+    EXPECT_TRUE(verified.out.startsWith(QStringLiteral("没有发现问题。\n")));
 }
 
 } // namespace
