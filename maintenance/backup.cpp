@@ -200,8 +200,10 @@ Result<QString> restoreAccountSet(const shell::Session &session, const QString &
         return core::refuse(session.ui(), refusal);
     if (!session.ui().ask(restoreQuestion(file)))
         return Outcome::refused(QString());
-    const QString kept = unusedName(QDir(backupFolder(dataFolder))
-            .filePath(datedName(copies, QStringLiteral("_before_restore_"), session.clock().now())));
+    const QString kept = unusedName(
+        QDir(backupFolder(dataFolder))
+            .filePath(
+                datedName(copies, QStringLiteral("_before_restore_"), session.clock().now())));
     const Outcome copied = writeBackup(session, copies, kept, progress);
     if (!copied)
         return copied;

@@ -80,9 +80,10 @@ std::optional<Tools> findTools(int major)
 
 QString noToolsText(int major)
 {
-    return QStringLiteral("这台电脑上没有找到 PostgreSQL 的客户端程序 pg_dump 和 pg_restore，不能备份"
-                          "或恢复服务器上的帐套。请安装 postgresql-client-%1（与服务器的版本 %1 "
-                          "相同或更新）后再试。")
+    return QStringLiteral(
+        "这台电脑上没有找到 PostgreSQL 的客户端程序 pg_dump 和 pg_restore，不能备份"
+        "或恢复服务器上的帐套。请安装 postgresql-client-%1（与服务器的版本 %1 "
+        "相同或更新）后再试。")
         .arg(major);
 }
 
@@ -161,8 +162,8 @@ private:
     QStringList m_errors;
 };
 
-ToolRun runTool(const QString &program, const QStringList &arguments, const Options &options,
-    ToolWatch &watch)
+ToolRun runTool(
+    const QString &program, const QStringList &arguments, const Options &options, ToolWatch &watch)
 {
     QProcess process;
     process.setProgram(program);
@@ -172,7 +173,8 @@ ToolRun runTool(const QString &program, const QStringList &arguments, const Opti
     process.setStandardInputFile(QProcess::nullDevice());
     process.start();
     if (!process.waitForStarted())
-        return { false, false, QStringLiteral("不能启动 %1：%2").arg(program, process.errorString()) };
+        return { false, false,
+            QStringLiteral("不能启动 %1：%2").arg(program, process.errorString()) };
     bool going = true;
     while (going && process.state() != QProcess::NotRunning) {
         process.waitForFinished(pollMilliseconds);
@@ -188,7 +190,8 @@ ToolRun runTool(const QString &program, const QStringList &arguments, const Opti
     const bool done = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     QString errors = watch.errors();
     if (!done && errors.isEmpty())
-        errors = QStringLiteral("%1 异常结束（%2）").arg(QFileInfo(program).fileName())
+        errors = QStringLiteral("%1 异常结束（%2）")
+                     .arg(QFileInfo(program).fileName())
                      .arg(process.exitCode());
     return { done, false, errors };
 }
@@ -256,8 +259,8 @@ QString missingTables(core::Connection &restored, const QString &file)
 {
     for (const core::TableDef &table : core::schemaTables()) {
         const QString name = QString::fromLatin1(table.name);
-        const QStringList columns = restored.tableExists(name) ? restored.columnNames(name)
-                                                               : QStringList();
+        const QStringList columns
+            = restored.tableExists(name) ? restored.columnNames(name) : QStringList();
         for (const QString &column : core::columnNames(table))
             if (!columns.contains(column, Qt::CaseInsensitive))
                 return QStringLiteral("“%1”不是本系统的帐套备份：里面没有表 %2 或它的列 %3。")
@@ -321,14 +324,23 @@ QString checkServerDump(core::Connection &set, const QString &file, const CopyPr
     if (!refusal.isEmpty())
         return refusal;
     const QString scratch = scratchName();
-    set.execDirect(QStringLiteral("create database ") + core::quotedName(scratch));
+    try {
+        set.execDirect(QStringLiteral("create database ") + core::quotedName(scratch));
+    } catch (const core::DbError &error) {
+        return QStringLiteral("不能在服务器上建立检查备份用的临时数据库（登录用户需要建立数据库的"
+                              "权限）：")
+            + error.message();
+    }
     try {
         refusal = checkInScratch(*tools, options, scratch, file, list.fileName(), progress);
     } catch (const core::DbError &error) {
         refusal = error.message();
     }
-    set.execDirect(QStringLiteral("drop database if exists %1 with (force)")
-                       .arg(core::quotedName(scratch)));
+    // A scratch database left behind holds nothing of the set's; the check's answer counts.
+    try {
+        set.execDirect(QStringLiteral("drop database if exists %1 with (force)")
+                           .arg(core::quotedName(scratch)));
+    } catch (const core::DbError &) { }
     return refusal;
 }
 
@@ -350,10 +362,11 @@ QString restoreServerDump(core::Connection &set, const QString &file, const Copy
     ToolWatch watch("processing data for table", int(core::schemaTables().size()), progress);
     const ToolRun run = runTool(tools->restore,
         connectionArguments(options, options.database)
-            + QStringList { QStringLiteral("--use-list"), list.fileName(), QStringLiteral("--clean"),
-                QStringLiteral("--if-exists"), QStringLiteral("--no-owner"),
-                QStringLiteral("--no-privileges"), QStringLiteral("--single-transaction"),
-                QStringLiteral("--exit-on-error"), QStringLiteral("--verbose"), file },
+            + QStringList { QStringLiteral("--use-list"), list.fileName(),
+                QStringLiteral("--clean"), QStringLiteral("--if-exists"),
+                QStringLiteral("--no-owner"), QStringLiteral("--no-privileges"),
+                QStringLiteral("--single-transaction"), QStringLiteral("--exit-on-error"),
+                QStringLiteral("--verbose"), file },
         options, watch);
     writeLock.commit();
     return refusalOf(run, QStringLiteral("恢复没有完成，当前帐套没有任何改动："));

@@ -29,7 +29,6 @@ QString checkServerDump(core::Connection &set, const QString &file, const CopyPr
 // Replaces the set's tables and rows by the dump's in one transaction of the server, under the
 // set's write lock: other workstations' writes wait for it, and a failure or a cancel leaves the
 // set exactly as it was.
-QString restoreServerDump(
-    core::Connection &set, const QString &file, const CopyProgress &progress);
+QString restoreServerDump(core::Connection &set, const QString &file, const CopyProgress &progress);
 
 } // namespace medistock::maintenance

@@ -37,7 +37,8 @@ int runBackup(Context &context, Args &args)
 {
     const QString target = args.option(QStringLiteral("--to")).value_or(QString());
     requireNoMore(context, args);
-    const auto written = maintenance::backupAccountSet(context.session(), context.dataFolder(), target);
+    const auto written
+        = maintenance::backupAccountSet(context.session(), context.dataFolder(), target);
     context.out() << valueOf(written) << Qt::endl;
     return ExitDone;
 }
@@ -45,8 +46,8 @@ int runBackup(Context &context, Args &args)
 int runRestore(Context &context, Args &args)
 {
     const QStringList positional = takePositional(context, args, 1, 1);
-    const auto restored = maintenance::restoreAccountSet(
-        context.session(), context.dataFolder(), positional[0]);
+    const auto restored
+        = maintenance::restoreAccountSet(context.session(), context.dataFolder(), positional[0]);
     const QString &kept = valueOf(restored);
     context.out() << QStringLiteral("恢复前的帐套数据已另存为：") << kept << Qt::endl;
     return ExitDone;

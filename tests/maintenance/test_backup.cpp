@@ -34,7 +34,10 @@ protected:
 
     // The set's name and its backups' extension: jxc and .db for the master file, the
     // database's name and .dump on the server.
-    QString setName() { return onPostgres() ? db().postgresOptions().database : QStringLiteral("jxc"); }
+    QString setName()
+    {
+        return onPostgres() ? db().postgresOptions().database : QStringLiteral("jxc");
+    }
     QString extension() { return onPostgres() ? QStringLiteral(".dump") : QStringLiteral(".db"); }
     // What another process opens to reach the same set.
     QString target() { return onPostgres() ? db().postgresOptions().text() : path(); }
@@ -74,10 +77,10 @@ TEST_F(BackupTest, ABackupIsADatedSoundCopyOfTheBooks)
           });
     ASSERT_TRUE(written.ok());
     const QString name = QFileInfo(written.value()).fileName();
-    EXPECT_TRUE(QRegularExpression(QStringLiteral("^%1_20250314_\\d{6}\\%2$")
-                                       .arg(setName(), extension()))
-                    .match(name)
-                    .hasMatch())
+    EXPECT_TRUE(
+        QRegularExpression(QStringLiteral("^%1_20250314_\\d{6}\\%2$").arg(setName(), extension()))
+            .match(name)
+            .hasMatch())
         << name.toStdString();
     EXPECT_EQ(QFileInfo(written.value()).absolutePath(), backups());
     EXPECT_EQ(backupFiles(), QStringList { name });
@@ -167,9 +170,9 @@ TEST_F(BackupTest, ATruncatedBackupIsRefusedAndNothingIsReplaced)
                   .arg(QDir::toNativeSeparators(backup));
         EXPECT_TRUE(ui.informed[0].startsWith(why)) << ui.informed[0].toStdString();
         EXPECT_GT(ui.informed[0].size(), why.size());
-        EXPECT_EQ(queryRows(db(),
-                      QStringLiteral("select datname from pg_database where datname like ?"),
-                      { QStringLiteral("medistock_check_%") }),
+        EXPECT_EQ(
+            queryRows(db(), QStringLiteral("select datname from pg_database where datname like ?"),
+                { QStringLiteral("medistock_check_%") }),
             QStringList());
     } else {
         EXPECT_EQ(ui.informed[0],
@@ -244,12 +247,11 @@ TEST_F(BackupTest, TheDailyBackupIsTakenOnceADayAndKeepsTheNewestCopies)
     setParameter(QStringLiteral("cs_cs032"), 2);
     for (int day = 10; day <= 13; ++day) {
         session().clock().fix(QDate(2025, 3, day));
-        EXPECT_TRUE(maintenance::dailyBackup(session(), folder())
-                        .value()
-                        .endsWith(QStringLiteral("%1_auto_202503%2%3")
-                                      .arg(setName())
-                                      .arg(day)
-                                      .arg(extension())));
+        EXPECT_TRUE(
+            maintenance::dailyBackup(session(), folder())
+                .value()
+                .endsWith(
+                    QStringLiteral("%1_auto_202503%2%3").arg(setName()).arg(day).arg(extension())));
         EXPECT_EQ(maintenance::dailyBackup(session(), folder()).value(), QString());
     }
     EXPECT_EQ(backupFiles(),
@@ -264,7 +266,8 @@ TEST_F(BackupTest, BackupsTakenWhileAnotherProcessPostsRestoreToSoundBooks)
     QProcess worker;
     worker.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     worker.start(QStringLiteral(MEDISTOCK_BOOKWORKER_PATH),
-        QStringList { target(), QStringLiteral("7"), onPostgres() ? QStringLiteral("20") : QStringLiteral("4") }
+        QStringList { target(), QStringLiteral("7"),
+            onPostgres() ? QStringLiteral("20") : QStringLiteral("4") }
             + receipts);
     ASSERT_TRUE(worker.waitForStarted());
     QByteArray output;

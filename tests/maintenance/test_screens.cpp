@@ -95,8 +95,8 @@ TEST_F(MaintenanceScreens, BackupIsListedAndOnlyASoundFileRestores)
     EXPECT_TRUE(dialog.restoreButton()->isEnabled());
     // A backup of the other kind of set is not offered.
     ASSERT_TRUE(QDir(folder()).mkpath(QStringLiteral("backup")));
-    QFile stray(QDir(folder()).filePath(
-        QStringLiteral("backup/stray") + (onPostgres() ? QStringLiteral(".db") : QStringLiteral(".dump"))));
+    QFile stray(QDir(folder()).filePath(QStringLiteral("backup/stray")
+        + (onPostgres() ? QStringLiteral(".db") : QStringLiteral(".dump"))));
     ASSERT_TRUE(stray.open(QIODevice::WriteOnly));
     stray.close();
     dialog.backUp();

@@ -52,12 +52,15 @@ QWidget *fileRow(QLineEdit *field, QPushButton *browse, QWidget *parent)
     return row;
 }
 
-// Copies with a progress window that can be cancelled.
+// Copies with a progress window that can be cancelled (the copy's files are then removed).
 template<class Copy> auto withProgress(QWidget *parent, const QString &text, Copy &&copy)
 {
     QProgressDialog progress(text, QStringLiteral("取消"), 0, 0, parent);
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(0);
+    // A server's copy runs in steps that each count from the start again.
+    progress.setAutoReset(false);
+    progress.setAutoClose(false);
     auto result = copy([&](int done, int total) {
         progress.setMaximum(total);
         progress.setValue(done);
@@ -106,8 +109,8 @@ QWidget *BackupDialog::buildBackupGroup()
     proposeBackupFile();
     auto *browse = new QPushButton(QStringLiteral("浏览…"), group);
     connect(browse, &QPushButton::clicked, this, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("备份到文件"),
-            m_backupFile->text(), backupFilter());
+        const QString path = QFileDialog::getSaveFileName(
+            this, QStringLiteral("备份到文件"), m_backupFile->text(), backupFilter());
         if (!path.isEmpty())
             m_backupFile->setText(path);
     });
@@ -181,8 +184,7 @@ void BackupDialog::proposeBackupFile()
 void BackupDialog::listBackups()
 {
     QList<QStringList> rows;
-    const QFileInfoList files
-        = QDir(folder()).entryInfoList(
+    const QFileInfoList files = QDir(folder()).entryInfoList(
         { maintenance::backupFilePattern(m_workspace.session) }, QDir::Files, QDir::Time);
     for (const QFileInfo &file : files)
         rows.append(
