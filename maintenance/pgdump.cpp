@@ -276,17 +276,27 @@ QString scratchName()
         .arg(QRandomGenerator::system()->bounded(1, 0x7fffffff), 0, 16);
 }
 
+// pg_restore of the listed entries of the dump into `database`, in one transaction of the
+// server, with `extra` options before the file.
+ToolRun restoreInto(const Tools &tools, const Options &options, const QString &database,
+    const QString &list, const QString &file, const QStringList &extra,
+    const CopyProgress &progress)
+{
+    ToolWatch watch("processing data for table", int(core::schemaTables().size()), progress);
+    return runTool(tools.restore,
+        connectionArguments(options, database)
+            + QStringList { QStringLiteral("--use-list"), list, QStringLiteral("--no-owner"),
+                QStringLiteral("--no-privileges"), QStringLiteral("--single-transaction"),
+                QStringLiteral("--exit-on-error"), QStringLiteral("--verbose") }
+            + extra + QStringList { file },
+        options, watch);
+}
+
 // Restores the dump into the scratch database and looks at its tables.
 QString checkInScratch(const Tools &tools, const Options &options, const QString &scratch,
     const QString &file, const QString &list, const CopyProgress &progress)
 {
-    ToolWatch watch("processing data for table", int(core::schemaTables().size()), progress);
-    const ToolRun run = runTool(tools.restore,
-        connectionArguments(options, scratch)
-            + QStringList { QStringLiteral("--use-list"), list, QStringLiteral("--no-owner"),
-                QStringLiteral("--no-privileges"), QStringLiteral("--single-transaction"),
-                QStringLiteral("--exit-on-error"), QStringLiteral("--verbose"), file },
-        options, watch);
+    const ToolRun run = restoreInto(tools, options, scratch, list, file, {}, progress);
     const QString refusal = refusalOf(run, damagedText(file));
     if (!refusal.isEmpty())
         return refusal;
@@ -294,15 +304,38 @@ QString checkInScratch(const Tools &tools, const Options &options, const QString
     return missingTables(*restored, file);
 }
 
+// The tools for the set's server, or the refusal that none is installed.
+std::optional<Tools> toolsFor(core::Connection &set, QString &refusal)
+{
+    const int major = serverMajor(set);
+    std::optional<Tools> tools = findTools(major);
+    if (!tools)
+        refusal = noToolsText(major);
+    return tools;
+}
+
+// Finds the tools and writes the dump's list of what to restore; the refusal, empty when both
+// are there.
+QString prepareRestore(
+    core::Connection &set, const QString &file, Tools &tools, QTemporaryFile &list)
+{
+    QString refusal;
+    const std::optional<Tools> found = toolsFor(set, refusal);
+    if (!found)
+        return refusal;
+    tools = *found;
+    return writeRestoreList(tools, set.postgresOptions(), file, list);
+}
+
 } // namespace
 
 QString dumpServerSet(core::Connection &set, const QString &file, const CopyProgress &progress)
 {
     const Options &options = set.postgresOptions();
-    const int major = serverMajor(set);
-    const std::optional<Tools> tools = findTools(major);
+    QString refusal;
+    const std::optional<Tools> tools = toolsFor(set, refusal);
     if (!tools)
-        return noToolsText(major);
+        return refusal;
     ToolWatch watch("dumping contents of table", publicTables(set), progress);
     const ToolRun run = runTool(tools->dump,
         connectionArguments(options, options.database)
@@ -315,12 +348,9 @@ QString dumpServerSet(core::Connection &set, const QString &file, const CopyProg
 QString checkServerDump(core::Connection &set, const QString &file, const CopyProgress &progress)
 {
     const Options &options = set.postgresOptions();
-    const int major = serverMajor(set);
-    const std::optional<Tools> tools = findTools(major);
-    if (!tools)
-        return noToolsText(major);
+    Tools tools;
     QTemporaryFile list;
-    QString refusal = writeRestoreList(*tools, options, file, list);
+    QString refusal = prepareRestore(set, file, tools, list);
     if (!refusal.isEmpty())
         return refusal;
     const QString scratch = scratchName();
@@ -332,7 +362,7 @@ QString checkServerDump(core::Connection &set, const QString &file, const CopyPr
             + error.message();
     }
     try {
-        refusal = checkInScratch(*tools, options, scratch, file, list.fileName(), progress);
+        refusal = checkInScratch(tools, options, scratch, file, list.fileName(), progress);
     } catch (const core::DbError &error) {
         refusal = error.message();
     }
@@ -347,27 +377,17 @@ QString checkServerDump(core::Connection &set, const QString &file, const CopyPr
 QString restoreServerDump(core::Connection &set, const QString &file, const CopyProgress &progress)
 {
     const Options &options = set.postgresOptions();
-    const int major = serverMajor(set);
-    const std::optional<Tools> tools = findTools(major);
-    if (!tools)
-        return noToolsText(major);
+    Tools tools;
     QTemporaryFile list;
-    const QString listed = writeRestoreList(*tools, options, file, list);
-    if (!listed.isEmpty())
-        return listed;
+    QString refusal = prepareRestore(set, file, tools, list);
+    if (!refusal.isEmpty())
+        return refusal;
     // Holding the set's write lock (taken with every write transaction) keeps other
     // workstations' postings out until the restore has committed; this transaction itself
     // reads and writes nothing.
     core::Transaction writeLock(set);
-    ToolWatch watch("processing data for table", int(core::schemaTables().size()), progress);
-    const ToolRun run = runTool(tools->restore,
-        connectionArguments(options, options.database)
-            + QStringList { QStringLiteral("--use-list"), list.fileName(),
-                QStringLiteral("--clean"), QStringLiteral("--if-exists"),
-                QStringLiteral("--no-owner"), QStringLiteral("--no-privileges"),
-                QStringLiteral("--single-transaction"), QStringLiteral("--exit-on-error"),
-                QStringLiteral("--verbose"), file },
-        options, watch);
+    const ToolRun run = restoreInto(tools, options, options.database, list.fileName(), file,
+        { QStringLiteral("--clean"), QStringLiteral("--if-exists") }, progress);
     writeLock.commit();
     return refusalOf(run, QStringLiteral("恢复没有完成，当前帐套没有任何改动："));
 }
