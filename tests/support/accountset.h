@@ -92,7 +92,8 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
 // The rows of one table as text lines.
 QStringList dumpTable(core::Connection &connection, const QString &table);
 int rowCount(core::Connection &connection, const QString &table);
-// The rows a query reads, each as its values joined by "|".
+// The rows a query reads, each as its values joined by "|", read the same on both engines: a
+// NULL as empty, a number in plain decimals ("100000000", "0.5"; never "1e+08" nor "1.00000000").
 QStringList queryRows(
     core::Connection &connection, const QString &sql, const QVariantList &params = {});
 // The rows of a table as "a|b|c" over the given columns, in id order, narrowed by `where`.
