@@ -39,6 +39,25 @@ std::unique_ptr<core::Connection> AccountSetTest::openAgain() const
     return m_connection->openAnother();
 }
 
+QStringList AccountSetTest::copySet(const QString &folder)
+{
+    if (!m_database.isEmpty()) {
+        m_copy = copyTestDatabase(m_database);
+        return { QStringLiteral("--data"), folder, QStringLiteral("--pg"), m_copy->text() };
+    }
+    // The path is the test's own temporary folder: it may stand in the statement.
+    m_connection->execDirect(
+        QStringLiteral("vacuum into '%1'").arg(QDir(folder).filePath(core::masterFileName())));
+    return { QStringLiteral("--data"), folder };
+}
+
+std::unique_ptr<core::Connection> AccountSetTest::openCopy(const QString &folder) const
+{
+    if (m_copy)
+        return core::Connection::openPostgres(*m_copy);
+    return core::Connection::openSqlite(QDir(folder).filePath(core::masterFileName()));
+}
+
 QString AccountSetTest::path() const
 {
     return QDir(m_dir.path()).filePath(core::masterFileName());

@@ -46,6 +46,12 @@ protected:
     void reopen();
     // A second connection to the same set.
     std::unique_ptr<core::Connection> openAgain() const;
+    // A copy of the set as it stands, for the command line to work on beside the test's own set:
+    // on SQLite the master file copied into `folder`, on the server a database beside the
+    // test's, dropped with it. The command line's arguments that reach the copy.
+    QStringList copySet(const QString &folder);
+    // The copy copySet(folder) made.
+    std::unique_ptr<core::Connection> openCopy(const QString &folder) const;
     bool onPostgres() const
     {
         return m_connection && m_connection->dialect() == core::Dialect::Postgres;
@@ -57,6 +63,7 @@ private:
     QTemporaryDir m_dir;
     std::unique_ptr<core::Connection> m_connection;
     QString m_database;
+    std::optional<core::Connection::PostgresOptions> m_copy;
 };
 
 // For a test about SQLite files themselves (their checks, their copies, their locks).
