@@ -16,8 +16,14 @@ using medistock::test::tableRows;
 
 namespace {
 
+// The column's type as the engine keeps it.
 QString declaredType(Connection &db, const QString &table, const QString &column)
 {
+    if (db.dialect() == Dialect::Postgres)
+        return db.firstText(
+            QStringLiteral("select format_type(atttypid,atttypmod) from "
+                           "pg_attribute where attrelid=to_regclass(?) and attname=?"),
+            { table, column });
     QString type;
     db.forEach(QStringLiteral("select name,type from pragma_table_info(?)"), { table },
         [&](const QSqlQuery &q) {
@@ -83,16 +89,19 @@ TEST_F(SchemaTest, EveryTableIsCreatedWithItsDeclaredTypes)
         ASSERT_TRUE(db().tableExists(name)) << table.name;
         EXPECT_EQ(db().columnNames(name), columnNames(table)) << table.name;
     }
+    // The server has no nvarchar and no bit flag: its texts are varchar left as wide as SQLite
+    // leaves them, its flags smallint; amounts are exact decimals on both.
+    const bool server = onPostgres();
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_jj")),
         QStringLiteral("numeric(28,8)"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_name")),
-        QStringLiteral("nvarchar(128)"));
+        server ? QStringLiteral("character varying") : QStringLiteral("nvarchar(128)"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_jy")),
-        QStringLiteral("bit"));
+        server ? QStringLiteral("smallint") : QStringLiteral("bit"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_goods"), QStringLiteral("id")).toLower(),
         QStringLiteral("integer"));
     EXPECT_EQ(declaredType(db(), QStringLiteral("jxc_mryt"), QStringLiteral("mr_ts")),
-        QStringLiteral("nvarchar(200)"));
+        server ? QStringLiteral("character varying") : QStringLiteral("nvarchar(200)"));
     EXPECT_TRUE(db().tableExists(QStringLiteral("jxc_xtzt")));
 }
 
