@@ -246,9 +246,9 @@ core::Connection::PostgresOptions copyTestDatabase(const QString &name)
     for (QProcess *process : { &dump, &restore })
         if (!process->waitForFinished(120000) || process->exitStatus() != QProcess::NormalExit
             || process->exitCode() != 0)
-            throw core::DbError(
-                QStringLiteral("copying %1 failed: %2")
-                    .arg(name, QString::fromLocal8Bit(process->readAllStandardError())));
+            throw core::DbError(QStringLiteral("copying %1 failed: %2 %3")
+                                    .arg(name, process->errorString(),
+                                        QString::fromLocal8Bit(process->readAllStandardError())));
     return copy;
 }
 

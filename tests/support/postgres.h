@@ -35,7 +35,7 @@ core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &se
 // to reach it.
 core::Connection::PostgresOptions copyTestDatabase(const QString &name);
 // Gives the database back to the pool, dropping the account-set databases made beside it
-// (named name + "_" + code).
+// (named name + "_" + code) and its copy.
 void dropTestDatabase(const QString &name);
 
 // The main of every test executable: in the PostgreSQL run without a server, or for a test left
