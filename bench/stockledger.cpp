@@ -5,7 +5,7 @@
 // The rows come from one generator, whatever the engine: the same seeded sequence gives the
 // same rows, ids included, in an SQLite file and on a server, so that their figures compare.
 // They go in many to a statement (BatchInsert), every value bound, because a server answers
-// each statement over the wire and 1,000,000 of them one by one took hours.
+// each statement over the wire: 1,000,000 of them one by one were too slow to wait for.
 #include "bench/stockledger.h"
 
 #include "core/connection.h"
