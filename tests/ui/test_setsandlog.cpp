@@ -48,7 +48,8 @@ TEST_F(AccountSetScreenTest, ANewSetIsCreatedListedAndAnnounced)
     // The set's file, or on the server its database beside the master's.
     const QString file = onPostgres() ? db().postgresOptions().database + QStringLiteral("_100001")
                                       : QStringLiteral("jxc_100001.db");
-    EXPECT_EQ(ui.informed, QStringList { QStringLiteral("帐套“城西店”已建立，数据文件：") + file });
+    const QString where = onPostgres() ? QStringLiteral("数据库：") : QStringLiteral("数据文件：");
+    EXPECT_EQ(ui.informed, QStringList { QStringLiteral("帐套“城西店”已建立，") + where + file });
     ASSERT_EQ(screen.grid()->rowCount(), 1);
     QStringList row;
     for (int i = 0; i < screen.grid()->columnCount(); ++i)

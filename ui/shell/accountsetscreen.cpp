@@ -1,5 +1,6 @@
 #include "ui/shell/accountsetscreen.h"
 
+#include "core/connection.h"
 #include "core/interaction.h"
 #include "core/schemacatalogue.h"
 #include "shell/accountsets.h"
@@ -115,7 +116,9 @@ void AccountSetScreen::create()
     m_grid->selectRow(m_grid->rowCount() - 1);
     m_name->clear();
     m_note->clear();
-    m_workspace.session.ui().inform(shelltexts::setCreated(created->name, created->fileName));
+    const bool onServer = m_workspace.master.dialect() == core::Dialect::Postgres;
+    m_workspace.session.ui().inform(
+        shelltexts::setCreated(created->name, created->fileName, onServer));
 }
 
 } // namespace medistock::ui

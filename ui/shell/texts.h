@@ -120,7 +120,7 @@ inline const QString logOperator = QStringLiteral("操作员");
 inline const QString logNote = QStringLiteral("内容");
 inline const QString logCleared = QStringLiteral("操作日志已清除！");
 
-// The message after a set was made: its name and file.
-QString setCreated(const QString &name, const QString &fileName);
+// The message after a set was made: its name and file, or on a server its database.
+QString setCreated(const QString &name, const QString &fileName, bool onServer);
 
 } // namespace medistock::ui::shelltexts
