@@ -41,37 +41,16 @@ QString saleNumber(int index)
         .arg(10001 + index);
 }
 
-// A sale of `lines` goods from the main warehouse, each 2 boxes at 30, paid in full.
-void addSale(core::Connection &db, const QString &number, int firstGoods, int lines)
-{
-    const QString today = bench::benchToday().toString(QStringLiteral("yyyy-MM-dd"));
-    db.exec(
-        QStringLiteral("insert into jxc_lsxsd (gl_djh,kh_sn,ck_sn,ls_xsrq,ls_yfje,ls_sfje,"
-                       "ls_yhje,u_sn,a_name,ls_status,ls_jsfs,ls_kmmc,ls_th,ls_crk,ls_qk,"
-                       "ls_hkje,ls_dhbz,ls_checker,ls_chkrq) values (?,?,?,?,?,?,0,?,?,0,1,?,0,0,"
-                       "0,0,0,'','')"),
-        { number, QStringLiteral("100001"), bench::mainWarehouse(), today, 60.0 * lines,
-            60.0 * lines, QStringLiteral("100001"), QStringLiteral("admin"),
-            QStringLiteral("现金") });
-    for (int g = firstGoods; g < firstGoods + lines; ++g)
-        db.exec(QStringLiteral("insert into jxc_lsxssp (gl_djh,g_sn,dw_name,g_zhxs,ls_sl,ls_zsl,"
-                               "ls_dj,ls_tax,ls_taxdj,ls_taxje,ls_je,ls_zje,ls_dzl,ls_cbj2,ls_cbj,"
-                               "ls_zcb,ls_lsj,ls_cksl,ls_qxsl,id2,id3,gl_djh2,a_name,t_ph,t_yxq,"
-                               "t_scrq) values (?,?,'盒',1,2,2,30,0,30,0,60,60,1,20,20,40,35,2,0,0,"
-                               "0,'',?,?,?,?)"),
-            { number, bench::benchGoods(g), QStringLiteral("admin"), QStringLiteral("BENCH-S"),
-                QStringLiteral("2028-12-31"), QString() });
-}
-
 SalesSet &salesSet()
 {
     static SalesSet *set = nullptr;
     if (!set) {
         set = &bench::keepForRun(std::make_unique<SalesSet>());
         core::Transaction transaction(set->set.db());
-        addSale(set->set.db(), saleNumber(0), 100, 50);
+        const QDate today = bench::benchToday();
+        bench::addSale(set->set.db(), saleNumber(0), today, 100, 50, false);
         for (int i = 1; i <= 1000; ++i)
-            addSale(set->set.db(), saleNumber(i), 200 + (i * 7) % 4000, 5);
+            bench::addSale(set->set.db(), saleNumber(i), today, 200 + (i * 7) % 4000, 5, false);
         transaction.commit();
     }
     return *set;

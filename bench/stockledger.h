@@ -32,8 +32,16 @@ QDate benchToday();
 QString receiptToday();
 QString receiptYearBack();
 QString receiptBusyYearBack();
-// The header of one of those receipts as its check hands it to the stock posting.
-stock::PostingHeader receiptHeader(const QString &number);
+// Sales of 50 lines (2 boxes each of the goods the receipt of the same date takes), dated today
+// and a year back, checked but not yet posted into stock.
+QString saleToday();
+QString saleYearBack();
+// The header of one of those receipts or sales as its check hands it to the stock posting.
+stock::PostingHeader postingHeader(const QString &number);
+// Writes a sale of `lines` goods from benchGoods(firstGoods) on, as saving leaves it (or as its
+// check marks it before the stock is posted): each line 2 boxes at 30, paid in full in cash.
+void addSale(core::Connection &db, const QString &number, QDate date, int firstGoods, int lines,
+    bool checked);
 
 // The PostgreSQL server the benchmarks also run on: MEDISTOCK_BENCH_PG, else MEDISTOCK_TEST_PG
 // (a libpq text naming a maintenance database on which databases may be created); empty when

@@ -55,18 +55,19 @@ TEST_F(ExpensesTest, AnExpenseLowersItsAccountAndIncomeRaisesIt)
     const QString income = saved(draft(ExpenseKind::Income, 50, QStringLiteral("现金")));
     EXPECT_EQ(expense, QStringLiteral("FY25031410001"));
     EXPECT_EQ(income, QStringLiteral("SR25031410001"));
-    EXPECT_EQ(
-        db().firstText(QStringLiteral("select group_concat(fy_flag||fy_chk,',') from jxc_yyfy")),
-        QStringLiteral("费用0,收入0"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_yyfy"), QStringLiteral("fy_flag,fy_chk")),
+        (QStringList { QStringLiteral("费用|0"), QStringLiteral("收入|0") }));
     const QString before = snapshot();
 
     ASSERT_TRUE(checkExpense(session(), expense));
     EXPECT_EQ(core::readLog(db(), {}, {}).last().note,
         QStringLiteral("审核费用单FY25031410001，金额：80"));
     ASSERT_TRUE(checkExpense(session(), income));
-    EXPECT_EQ(db().firstText(QStringLiteral("select group_concat(xj_dlx||xj_je||gl_djh,',') from "
-                                            "jxc_xjyh where xj_dlx<>'期初金额'")),
-        QStringLiteral("费用付款-80FY25031410001,收入收款50SR25031410001"));
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_xjyh"), QStringLiteral("xj_dlx,xj_je,gl_djh"),
+            QStringLiteral("xj_dlx<>?"), { QStringLiteral("期初金额") }),
+        (QStringList { QStringLiteral("费用付款|-80|FY25031410001"),
+            QStringLiteral("收入收款|50|SR25031410001") }));
     EXPECT_EQ(cashBalances(QStringLiteral("现金")), (std::vector<double> { 0, -80, -30 }));
 
     ui.setDefaultAnswer(true);

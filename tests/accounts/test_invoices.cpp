@@ -53,9 +53,10 @@ TEST_F(InvoicesTest, ASetAsideRowKeepsItsAmountsButChangesNoBalanceUntilTakenBac
     EXPECT_EQ(ui.asked,
         QStringList { QStringLiteral("该单据不开发票或发票不正确，从列表中排除，\r\n\r\n"
                                      "转到发票管理中等待处理，继续吗？") });
-    EXPECT_EQ(db().firstText(QStringLiteral("select fp_yfje||'|'||fp_check||'|'||fp_checker from "
-                                            "jxc_fpdjb where gl_djh='XS25031010001'")),
-        QStringLiteral("300|0|"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_fpdjb"),
+                  QStringLiteral("fp_yfje,fp_check,fp_checker"), QStringLiteral("gl_djh=?"),
+                  { QStringLiteral("XS25031010001") }),
+        QStringList { QStringLiteral("300|0|") });
     EXPECT_EQ(invoiceBalances(PartyKind::Customer, customer()), std::vector<double> { 200 });
     EXPECT_EQ(currentInvoiceBalance(db(), PartyKind::Customer, customer()), 200);
     {
@@ -67,9 +68,10 @@ TEST_F(InvoicesTest, ASetAsideRowKeepsItsAmountsButChangesNoBalanceUntilTakenBac
 
     ASSERT_TRUE(takeBackInvoiceRows(session(), QStringLiteral("XS25031010001")));
     EXPECT_EQ(invoiceBalances(PartyKind::Customer, customer()), (std::vector<double> { 300, 500 }));
-    EXPECT_EQ(db().firstText(QStringLiteral("select fp_checker||'|'||fp_chkrq from jxc_fpdjb "
-                                            "where gl_djh='XS25031010001'")),
-        QStringLiteral("admin|2025-03-14"));
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_fpdjb"), QStringLiteral("fp_checker,fp_chkrq"),
+            QStringLiteral("gl_djh=?"), { QStringLiteral("XS25031010001") }),
+        QStringList { QStringLiteral("admin|2025-03-14") });
     EXPECT_FALSE(takeBackInvoiceRows(session(), QStringLiteral("XS25031010001")));
     EXPECT_EQ(ui.informed.last(), QStringLiteral("单据：XS25031010001已经审核！"));
 }

@@ -56,10 +56,10 @@ TEST_F(EditingTest, ANewGoodsIsSavedWithItsUnitsBarcodesAndPricesInOneGo)
             { { QStringLiteral("批发价"), 8.5 } } });
     ASSERT_TRUE(code.ok()) << code.message().toStdString();
     EXPECT_EQ(code.value(), QStringLiteral("10000001"));
-    EXPECT_EQ(db().firstText(QStringLiteral(
-                  "select dw_name||'|'||g_zhxs||'|'||g_sptm||'|'||g_jj||'|'||g_sj from jxc_goodsdw "
-                  "where g_sn='10000001'")),
-        QStringLiteral("箱|200|16901234500014|1360|1900"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_goodsdw"),
+                  QStringLiteral("dw_name,g_zhxs,g_sptm,g_jj,g_sj"), QStringLiteral("g_sn=?"),
+                  { code.value() }),
+        QStringList { QStringLiteral("箱|200|16901234500014|1360|1900") });
     EXPECT_EQ(dumpTable(db(), QStringLiteral("jxc_goodstm")).size(), 1);
     EXPECT_EQ(goodsPrices(db(), code.value()),
         (QList<QPair<QString, double>> { { QStringLiteral("批发价"), 8.5 } }));

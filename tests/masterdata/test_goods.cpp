@@ -48,11 +48,10 @@ TEST_F(GoodsTest, CodesFollowTheClassPrefixWhenAutomaticNumberingIsOn)
 TEST_F(GoodsTest, ANewGoodsStartsWithFactorOneAndTheDefaultSupplier)
 {
     const QString code = addGoods(QStringLiteral("阿莫西林胶囊"));
-    EXPECT_EQ(db().firstText(
-                  QStringLiteral("select g_zhxs||','||g_dzll||','||ghs_sn||','||g_kc||','||gc_cid "
-                                 "from jxc_goods where g_sn=?"),
-                  { code }),
-        QStringLiteral("1,1,100001,0,2"));
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_goods"),
+            QStringLiteral("g_zhxs,g_dzll,ghs_sn,g_kc,gc_cid"), QStringLiteral("g_sn=?"), { code }),
+        QStringList { QStringLiteral("1|1|100001|0|2") });
 }
 
 TEST_F(GoodsTest, UnitsBarcodesAndNamedPrices)

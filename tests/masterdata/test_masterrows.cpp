@@ -182,10 +182,10 @@ TEST_F(MasterRowsTest, NumbersAtTheirLimitsAndFlagWordsAreTaken)
             { QStringLiteral("g_dzll"), QStringLiteral("1") },
             { QStringLiteral("g_jy"), QStringLiteral("是") } });
     ASSERT_TRUE(code.ok()) << code.message().toStdString();
-    EXPECT_EQ(db().firstText(QStringLiteral("select g_kc||'|'||g_jj||'|'||g_dzll||'|'||g_jy "
-                                            "from jxc_goods where g_sn=?"),
-                  { code.value() }),
-        QStringLiteral("100000000|0|1|1"));
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_kc,g_jj,g_dzll,g_jy"),
+            QStringLiteral("g_sn=?"), { code.value() }),
+        QStringList { QStringLiteral("100000000|0|1|1") });
 }
 
 TEST_F(MasterRowsTest, ARowInUseCannotBeDeletedButCanBeDisabled)

@@ -125,9 +125,9 @@ TEST_F(ParametersTest, FlagsAndNumbersAreStoredAsWhatTheyMean)
             { QStringLiteral("cs_cbjs"), QStringLiteral(" 8 ") },
             { QStringLiteral("cs_tax"), QStringLiteral("13") } })
                     .ok());
-    EXPECT_EQ(db().firstText(QStringLiteral(
-                  "select cs_kc||'|'||cs_shdj||'|'||cs_cbjs||'|'||cs_tax from jxc_xtcs")),
-        QStringLiteral("0|1|8|13"));
+    EXPECT_EQ(test::tableRows(
+                  db(), QStringLiteral("jxc_xtcs"), QStringLiteral("cs_kc,cs_shdj,cs_cbjs,cs_tax")),
+        QStringList { QStringLiteral("0|1|8|13") });
     EXPECT_EQ(session().params().priceDecimals(), 8);
 }
 

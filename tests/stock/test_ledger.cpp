@@ -133,6 +133,21 @@ TEST_F(RerunTest, BackdatedRowRewritesEveryLaterRowAndNoEarlierOne)
     EXPECT_EQ(runningColumns(amoxil, "100002"), QStringList { "cj 1 999 1 1 1" });
 }
 
+// Seven later rows are written back in statements of four, two and one: each row gets its own
+// figures, and a second rerun finds every stored figure equal to its recomputation.
+TEST_F(RerunTest, BackdatedReceiptRewritesSevenLaterSalesEachWithItsOwnFigures)
+{
+    for (int day = 2; day <= 8; ++day)
+        postRow("xs", QStringLiteral("2025-01-0%1").arg(day), amoxil, 1, 15, 15);
+    const qint64 receipt = postRow("cj", "2025-01-01", amoxil, 10, 100, 10);
+    EXPECT_EQ(runningColumns(amoxil),
+        (QStringList { "cj 10 100 10 10 100", "xs 0 0 9 10 90", "xs 0 0 8 10 80", "xs 0 0 7 10 70",
+            "xs 0 0 6 10 60", "xs 0 0 5 10 50", "xs 0 0 4 10 40", "xs 0 0 3 10 30" }));
+    const stock::RerunSummary again = stock::rerunLedger(session(), receipt, false);
+    EXPECT_EQ(again.rowsRun, 8);
+    EXPECT_EQ(again.rowsRewritten, 0);
+}
+
 TEST_F(RerunTest, RowsOfOneDateRunInIdOrder)
 {
     postRow("cj", "2025-01-01", amoxil, 10, 100, 10);

@@ -3,6 +3,7 @@
 #include "core/datafolder.h"
 
 #include <QDir>
+#include <QLocale>
 #include <QSqlQuery>
 #include <QSqlRecord>
 
@@ -36,6 +37,25 @@ void AccountSetTest::TearDown()
 std::unique_ptr<core::Connection> AccountSetTest::openAgain() const
 {
     return m_connection->openAnother();
+}
+
+QStringList AccountSetTest::copySet(const QString &folder)
+{
+    if (!m_database.isEmpty()) {
+        m_copy = copyTestDatabase(m_database);
+        return { QStringLiteral("--data"), folder, QStringLiteral("--pg"), m_copy->text() };
+    }
+    // The path is the test's own temporary folder: it may stand in the statement.
+    m_connection->execDirect(
+        QStringLiteral("vacuum into '%1'").arg(QDir(folder).filePath(core::masterFileName())));
+    return { QStringLiteral("--data"), folder };
+}
+
+std::unique_ptr<core::Connection> AccountSetTest::openCopy(const QString &folder) const
+{
+    if (m_copy)
+        return core::Connection::openPostgres(*m_copy);
+    return core::Connection::openSqlite(QDir(folder).filePath(core::masterFileName()));
 }
 
 QString AccountSetTest::path() const
@@ -102,15 +122,31 @@ QStringList dumpTable(core::Connection &connection, const QString &table)
     return lines;
 }
 
+namespace {
+
+// A value written the same on both engines. A NULL reads as empty (the server's driver hands it
+// as a typed null whose text would be "0"). A number is written in plain decimals: the server
+// hands every numeric(28,8) as a double, whose own text would be "1e+08" where SQLite, keeping
+// a whole number as an integer, writes "100000000".
+QString valueText(const QSqlRecord &row, int i)
+{
+    if (row.isNull(i))
+        return {};
+    const QVariant value = row.value(i);
+    if (value.typeId() == QMetaType::Double)
+        return QString::number(value.toDouble(), 'f', QLocale::FloatingPointShortest);
+    return value.toString();
+}
+
+} // namespace
+
 QStringList queryRows(core::Connection &connection, const QString &sql, const QVariantList &params)
 {
     QStringList lines;
     for (const QSqlRecord &row : connection.rows(sql, params)) {
         QStringList values;
         for (int i = 0; i < row.count(); ++i)
-            // A NULL reads as empty on both engines (the server's driver hands it as a typed
-            // null whose text would be "0").
-            values.append(row.isNull(i) ? QString() : row.value(i).toString());
+            values.append(valueText(row, i));
         lines.append(values.join(QLatin1Char('|')));
     }
     return lines;

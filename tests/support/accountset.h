@@ -46,6 +46,12 @@ protected:
     void reopen();
     // A second connection to the same set.
     std::unique_ptr<core::Connection> openAgain() const;
+    // A copy of the set as it stands, for the command line to work on beside the test's own set:
+    // on SQLite the master file copied into `folder`, on the server a database beside the
+    // test's, dropped with it. The command line's arguments that reach the copy.
+    QStringList copySet(const QString &folder);
+    // The copy copySet(folder) made.
+    std::unique_ptr<core::Connection> openCopy(const QString &folder) const;
     bool onPostgres() const
     {
         return m_connection && m_connection->dialect() == core::Dialect::Postgres;
@@ -57,6 +63,7 @@ private:
     QTemporaryDir m_dir;
     std::unique_ptr<core::Connection> m_connection;
     QString m_database;
+    std::optional<core::Connection::PostgresOptions> m_copy;
 };
 
 // For a test about SQLite files themselves (their checks, their copies, their locks).
@@ -92,7 +99,8 @@ QString dumpDatabase(core::Connection &connection, const QStringList &skipTables
 // The rows of one table as text lines.
 QStringList dumpTable(core::Connection &connection, const QString &table);
 int rowCount(core::Connection &connection, const QString &table);
-// The rows a query reads, each as its values joined by "|".
+// The rows a query reads, each as its values joined by "|", read the same on both engines: a
+// NULL as empty, a number in plain decimals ("100000000", "0.5"; never "1e+08" nor "1.00000000").
 QStringList queryRows(
     core::Connection &connection, const QString &sql, const QVariantList &params = {});
 // The rows of a table as "a|b|c" over the given columns, in id order, narrowed by `where`.

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QSqlRecord>
 
@@ -224,6 +225,31 @@ core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &se
         return options;
     }
     throw core::DbError(QStringLiteral("all test databases of the pool are in use"));
+}
+
+core::Connection::PostgresOptions copyTestDatabase(const QString &name)
+{
+    const auto copy = testServer()->withDatabase(name + QStringLiteral("_copy"));
+    auto server = core::Connection::openPostgres(*testServer());
+    server->execDirect(
+        QStringLiteral("drop database if exists %1 with (force)").arg(quoted(copy.database)));
+    server->execDirect(QStringLiteral("create database ") + quoted(copy.database));
+    QProcess dump;
+    QProcess restore;
+    dump.setStandardOutputProcess(&restore);
+    dump.start(QStringLiteral("pg_dump"),
+        { QStringLiteral("--format=custom"), QStringLiteral("--exclude-schema=medistock_pristine"),
+            QStringLiteral("--dbname=") + testServer()->withDatabase(name).text() });
+    restore.start(QStringLiteral("pg_restore"),
+        { QStringLiteral("--no-owner"), QStringLiteral("--exit-on-error"),
+            QStringLiteral("--dbname=") + copy.text() });
+    for (QProcess *process : { &dump, &restore })
+        if (!process->waitForFinished(120000) || process->exitStatus() != QProcess::NormalExit
+            || process->exitCode() != 0)
+            throw core::DbError(QStringLiteral("copying %1 failed: %2 %3")
+                                    .arg(name, process->errorString(),
+                                        QString::fromLocal8Bit(process->readAllStandardError())));
+    return copy;
 }
 
 void dropTestDatabase(const QString &name)

@@ -30,8 +30,12 @@ std::optional<core::Connection::PostgresOptions> testServer();
 // those rows; pg_dump of a test database should leave it out with -N medistock_pristine).
 // The options to reach it.
 core::Connection::PostgresOptions createTestDatabase(const core::SeedContext &seeds);
+// A copy of the test database `name` as it stands, beside it on the server (made with pg_dump
+// and pg_restore, the pristine rows left out), dropped with it by dropTestDatabase. The options
+// to reach it.
+core::Connection::PostgresOptions copyTestDatabase(const QString &name);
 // Gives the database back to the pool, dropping the account-set databases made beside it
-// (named name + "_" + code).
+// (named name + "_" + code) and its copy.
 void dropTestDatabase(const QString &name);
 
 // The main of every test executable: in the PostgreSQL run without a server, or for a test left

@@ -90,9 +90,10 @@ TEST_F(GoodsScreenTest, AGoodsAddedWithAUnitAndABarcodeIsFoundAgainByItsMnemonic
     EXPECT_TRUE(ui.informed.isEmpty()) << ui.informed.join(QLatin1Char('|')).toStdString();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(dialog.savedKey(), QStringLiteral("10000001"));
-    EXPECT_EQ(db().firstText(QStringLiteral("select dw_name||'|'||g_zhxs||'|'||g_sptm from "
-                                            "jxc_goodsdw where g_sn='10000001'")),
-        QStringLiteral("箱|200|16901234500014"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_goodsdw"),
+                  QStringLiteral("dw_name,g_zhxs,g_sptm"), QStringLiteral("g_sn=?"),
+                  { QStringLiteral("10000001") }),
+        QStringList { QStringLiteral("箱|200|16901234500014") });
     EXPECT_EQ(
         db().firstText(QStringLiteral("select g_sptm from jxc_goodstm where g_sn='10000001'")),
         QStringLiteral("6901234500024"));
@@ -266,9 +267,9 @@ TEST_F(GoodsScreenTest, WithoutThePriceAndCommissionRightsThoseFieldsStayAsTheyA
     dialog.lineEdit(QStringLiteral("g_jj"))->setText(QStringLiteral("99"));
     dialog.lineEdit(QStringLiteral("g_lsj"))->setText(QStringLiteral("15"));
     dialog.save();
-    EXPECT_EQ(db().firstText(
-                  QStringLiteral("select g_jj||'|'||g_lsj from jxc_goods where g_sn=?"), { code }),
-        QStringLiteral("0|15"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_goods"), QStringLiteral("g_jj,g_lsj"),
+                  QStringLiteral("g_sn=?"), { code }),
+        QStringList { QStringLiteral("0|15") });
     ui::GoodsDialog fresh(session(), {});
     EXPECT_FALSE(fresh.lineEdit(QStringLiteral("g_jj"))->isReadOnly());
 }

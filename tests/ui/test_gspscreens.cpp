@@ -134,10 +134,9 @@ TEST_F(GspScreens, ATemperatureEntryIsTypedAndListed)
     test::typeInto(dialog.field(QStringLiteral("temperatureAfter")), QStringLiteral("25"));
     dialog.save();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(db().firstText(
-                  QStringLiteral("select ck_sn||'|'||cw_rq||'|'||cw_time||'|'||cw_wd||'|'||"
-                                 "cw_sd||'|'||cw_cs||'|'||cw_wd2||'|'||cw_jly from jxc_ckwsd")),
-        QStringLiteral("100001|2025-03-14|09:30|31.5|70|开空调|25|admin"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_ckwsd"),
+                  QStringLiteral("ck_sn,cw_rq,cw_time,cw_wd,cw_sd,cw_cs,cw_wd2,cw_jly")),
+        QStringList { QStringLiteral("100001|2025-03-14|09:30|31.5|70|开空调|25|admin") });
     screen.reload();
     EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：1"));
     EXPECT_EQ(screen.chart()->series().size(), 6);

@@ -179,8 +179,8 @@ TEST_F(MainWindowTest, ClearingTheLogFromTheMenuAsksAndOpensNoTab)
     EXPECT_EQ(window->tabs()->count(), 0);
     EXPECT_EQ(ui.asked, QStringList { shell::clearLogQuestion() });
     EXPECT_EQ(ui.informed, QStringList { QStringLiteral("操作日志已清除！") });
-    EXPECT_EQ(db().firstText(QStringLiteral("select group_concat(log_note) from jxc_log")),
-        QStringLiteral("清除日志"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_log"), QStringLiteral("log_note")),
+        QStringList { QStringLiteral("清除日志") });
 }
 
 TEST_F(MainWindowTest, TheStatusBarShowsCompanySetOperatorAndTheWeekday)

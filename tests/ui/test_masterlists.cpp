@@ -96,9 +96,10 @@ TEST_F(MasterListsTest, TheImportDialogWritesNothingUntilConfirmed)
     dialog.importButton()->click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(ui.informed, QStringList { QStringLiteral("已导入 2 行。") });
-    EXPECT_EQ(db().firstText(QStringLiteral(
-                  "select group_concat(kh_sn||' '||kh_name||' '||kh_lwje, '|') from jxc_khxx")),
-        QStringLiteral("100001 普通客户 0|100002 仁心诊所 120.5|100003 百草堂药店 0"));
+    EXPECT_EQ(
+        test::tableRows(db(), QStringLiteral("jxc_khxx"), QStringLiteral("kh_sn,kh_name,kh_lwje")),
+        (QStringList { QStringLiteral("100001|普通客户|0"), QStringLiteral("100002|仁心诊所|120.5"),
+            QStringLiteral("100003|百草堂药店|0") }));
 }
 
 TEST_F(MasterListsTest, AnUnreadableFileIsToldAndNoPreviewOpens)
@@ -145,13 +146,10 @@ TEST_F(MasterListsTest, ACustomerTakesItsTypeWarehouseAndEmployeesFromTheLists)
     tick(dialog.pickList(), QStringLiteral("100002"));
     dialog.save();
     ASSERT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(
-        db().firstText(
-            QStringLiteral(
-                "select kt_sn||'|'||kt_name||'|'||ck_sn||'|'||ck_name||'|'||z_name||'|'||kh_usn"
-                "||'|'||kh_uname||'|'||kh_lwje from jxc_khxx where kh_sn=?"),
-            { dialog.savedKey() }),
-        QStringLiteral("1001|一级|100001|主仓库|省会地区|100002,|张伟,|0"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_khxx"),
+                  QStringLiteral("kt_sn,kt_name,ck_sn,ck_name,z_name,kh_usn,kh_uname,kh_lwje"),
+                  QStringLiteral("kh_sn=?"), { dialog.savedKey() }),
+        QStringList { QStringLiteral("1001|一级|100001|主仓库|省会地区|100002,|张伟,|0") });
     screen.reload();
     screen.selectKey(dialog.savedKey());
     EXPECT_EQ(screen.grid()->model()->index(1, 8).data().toString(), QStringLiteral("张伟"));
@@ -169,9 +167,9 @@ TEST_F(MasterListsTest, WarehouseOperatorsAndEmployeeCommissionAreSavedAsTheyAre
     EXPECT_EQ(warehouse.pickList()->item(0)->checkState(), Qt::Checked);
     warehouse.pickList()->item(0)->setCheckState(Qt::Unchecked);
     warehouse.save();
-    EXPECT_EQ(db().firstText(QStringLiteral(
-                  "select ck_asn||'|'||ck_aname from jxc_ckxx where ck_sn='100001'")),
-        QStringLiteral("|"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_ckxx"), QStringLiteral("ck_asn,ck_aname"),
+                  QStringLiteral("ck_sn=?"), { QStringLiteral("100001") }),
+        QStringList { QStringLiteral("|") });
 
     ui::MasterRowDialog employee(session(), kind("employee"), {});
     employee.lineEdit(QStringLiteral("u_name"))->setText(QStringLiteral("刘洋"));
@@ -179,10 +177,10 @@ TEST_F(MasterListsTest, WarehouseOperatorsAndEmployeeCommissionAreSavedAsTheyAre
     employee.lineEdit(QStringLiteral("u_tc"))->setText(QStringLiteral("5"));
     employee.lineEdit(QStringLiteral("u_zdlr"))->setText(QStringLiteral("0.5"));
     employee.save();
-    EXPECT_EQ(
-        db().firstText(QStringLiteral("select u_sn||'|'||u_jm||'|'||u_tcfs||'|'||u_tctxt||'|'"
-                                      "||u_tc||'|'||u_zdlr from jxc_user where u_name='刘洋'")),
-        QStringLiteral("100002|LY|1|按利润提成|5|0.5"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_user"),
+                  QStringLiteral("u_sn,u_jm,u_tcfs,u_tctxt,u_tc,u_zdlr"),
+                  QStringLiteral("u_name=?"), { QStringLiteral("刘洋") }),
+        QStringList { QStringLiteral("100002|LY|1|按利润提成|5|0.5") });
 }
 
 TEST_F(MasterListsTest, ASupplierLicenceDateMustBeADate)

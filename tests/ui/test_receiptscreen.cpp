@@ -145,8 +145,7 @@ TEST_F(ReceiptScreenTest, AKeyedReceiptWritesWhatTheCommandLineWrites)
 {
     const QString cliFolder = QDir(folder()).filePath(QStringLiteral("cli"));
     ASSERT_TRUE(QDir().mkpath(cliFolder));
-    db().execDirect(
-        QStringLiteral("vacuum into '%1'").arg(QDir(cliFolder).filePath(QStringLiteral("jxc.db"))));
+    const QStringList copy = copySet(cliFolder);
 
     auto screen = openReceipt();
     keys.setWindow(screen.get());
@@ -193,8 +192,8 @@ TEST_F(ReceiptScreenTest, AKeyedReceiptWritesWhatTheCommandLineWrites)
         {"g_sn":"10000002","jh_sl":5,"jh_dj":9,"t_ph":"D2402","t_yxq":"2026-06-30"},
         {"g_sn":"10000001","dw_name":"件","jh_sl":2,"jh_dj":240,"t_ph":"A2401","t_scrq":"2024-01-02","t_yxq":"2026-01-01"}]})");
     json.close();
-    const QStringList global { QStringLiteral("--data"), cliFolder, QStringLiteral("--today"),
-        QStringLiteral("2025-03-14") };
+    const QStringList global
+        = copy + QStringList { QStringLiteral("--today"), QStringLiteral("2025-03-14") };
     const test::CliRun saved
         = test::runCli(global + QStringList { QStringLiteral("save"), json.fileName() });
     ASSERT_EQ(saved.status, 0) << saved.err.toStdString();
@@ -204,7 +203,7 @@ TEST_F(ReceiptScreenTest, AKeyedReceiptWritesWhatTheCommandLineWrites)
             QStringLiteral("check"), number, QStringLiteral("--paid"), QStringLiteral("500") });
     ASSERT_EQ(checked.status, 0) << checked.err.toStdString();
 
-    auto cli = core::Connection::openSqlite(QDir(cliFolder).filePath(QStringLiteral("jxc.db")));
+    auto cli = openCopy(cliFolder);
     const QStringList keyed = test::businessRows(db());
     EXPECT_EQ(test::rowDifferences(test::businessRows(*cli), keyed), QStringList());
     EXPECT_EQ(db().firstText(

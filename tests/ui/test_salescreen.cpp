@@ -51,8 +51,7 @@ TEST_F(SaleScreenTest, AKeyedSaleWritesWhatTheCommandLineWrites)
 {
     const QString cliFolder = QDir(folder()).filePath(QStringLiteral("cli"));
     ASSERT_TRUE(QDir().mkpath(cliFolder));
-    db().execDirect(
-        QStringLiteral("vacuum into '%1'").arg(QDir(cliFolder).filePath(QStringLiteral("jxc.db"))));
+    const QStringList copy = copySet(cliFolder);
 
     auto screen = openSale();
     keys.setWindow(screen.get());
@@ -118,8 +117,9 @@ TEST_F(SaleScreenTest, AKeyedSaleWritesWhatTheCommandLineWrites)
         {"g_sn":"10000002","ls_sl":5,"t_ph":"B1","t_yxq":"2026-06-30"},
         {"g_sn":"10000003","ls_sl":2,"t_ph":"G1","t_yxq":"2026-03-31"}]})");
     json.close();
-    const QStringList global { QStringLiteral("--data"), cliFolder, QStringLiteral("--today"),
-        QStringLiteral("2025-03-14"), QStringLiteral("--yes") };
+    const QStringList global = copy
+        + QStringList { QStringLiteral("--today"), QStringLiteral("2025-03-14"),
+              QStringLiteral("--yes") };
     const test::CliRun saved
         = test::runCli(global + QStringList { QStringLiteral("save"), json.fileName() });
     ASSERT_EQ(saved.status, 0) << saved.err.toStdString();
@@ -128,7 +128,7 @@ TEST_F(SaleScreenTest, AKeyedSaleWritesWhatTheCommandLineWrites)
         = test::runCli(global + QStringList { QStringLiteral("check"), number });
     ASSERT_EQ(checked.status, 0) << checked.err.toStdString();
 
-    auto cli = core::Connection::openSqlite(QDir(cliFolder).filePath(QStringLiteral("jxc.db")));
+    auto cli = openCopy(cliFolder);
     EXPECT_EQ(
         test::rowDifferences(test::businessRows(*cli), test::businessRows(db())), QStringList());
     EXPECT_EQ(db().firstText(

@@ -96,9 +96,10 @@ protected:
 
     QString goodsTotals()
     {
-        return db().firstText(QStringLiteral(
-            "select group_concat(g_kc,'|') from (select g_kc from jxc_goods where g_sn in "
-            "('10000001','10000002') order by g_sn)"));
+        return test::queryRows(db(),
+            QStringLiteral("select g_kc from jxc_goods where g_sn in (?,?) order by g_sn"),
+            { QStringLiteral("10000001"), QStringLiteral("10000002") })
+            .join(QLatin1Char('|'));
     }
 
     Keyboard keys;

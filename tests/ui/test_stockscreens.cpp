@@ -197,11 +197,10 @@ TEST_F(StockScreensTest, OpeningStockIsKeyedPostedAndRemoved)
     keys.press(Qt::Key_F3);
     EXPECT_EQ(ui.informed, QStringList { QStringLiteral("已建账：QC25031410001") });
     EXPECT_TRUE(screen.lines()->line(0).isBlank());
-    EXPECT_EQ(
-        db().firstText(QStringLiteral("select gl_flag||'|'||gl_sl||'|'||gl_dj||'|'||t_ph||'|'||"
-                                      "t_yxq||'|'||gl_kc from jxc_goodslist where gl_djh=?"),
-            { QStringLiteral("QC25031410001") }),
-        QStringLiteral("qc|12|5.5|G1|2026-12-31|15"));
+    EXPECT_EQ(test::tableRows(db(), QStringLiteral("jxc_goodslist"),
+                  QStringLiteral("gl_flag,gl_sl,gl_dj,t_ph,t_yxq,gl_kc"),
+                  QStringLiteral("gl_djh=?"), { QStringLiteral("QC25031410001") }),
+        QStringList { QStringLiteral("qc|12|5.5|G1|2026-12-31|15") });
 
     ui.clear();
     ui::OpeningEntriesDialog entries(workspace(), &screen);
