@@ -42,6 +42,10 @@ constexpr PrintRow rows[] = {
     { "posxp58", "jxc_posxsd", "gl_djh", "pos_xsrq", "posxp58", "" },
     { "jbxp", "jxc_jbgl", "id", "jb_time", "jbxp", "" },
     { "jbxp58", "jxc_jbgl", "id", "jb_time", "jbxp58", "" },
+    { "ysyfysk", "jxc_ysyfk_dj", "gl_djh", "k_rq", "ysyfysk", "YS" },
+    { "ysyfskd", "jxc_ysyfk_dj", "gl_djh", "k_rq", "ysyfskd", "SK" },
+    { "ysyfyfk", "jxc_ysyfk_dj", "gl_djh", "k_rq", "ysyfyfk", "YF" },
+    { "ysyffkd", "jxc_ysyfk_dj", "gl_djh", "k_rq", "ysyffkd", "FK" },
 };
 
 const PrintRow *documentPrintOfTemplate(const QString &name)

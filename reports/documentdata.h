@@ -27,7 +27,8 @@ struct DocumentPrint
 // Every document key: cgjh, cgth, spxs, xsth, cgd, spdd, kcdb, spcf, spkb, spbs, spby, kcpd,
 // khjh; xshh (the customer return as the drug ledger prints it); posxsd, posxp, posxp58 (a POS
 // document reprinted on A4 or on receipt paper); jbxp, jbxp58 (the till's shift handover on
-// 80 mm or 58 mm paper, numbered by its row id in jxc_jbgl).
+// 80 mm or 58 mm paper, numbered by its row id in jxc_jbgl); ysyfysk, ysyfskd, ysyfyfk, ysyffkd
+// (the registrations of jxc_ysyfk_dj: receivable entry, collection, payable entry, payment).
 QList<DocumentPrint> documentPrints();
 const DocumentPrint *documentPrint(const QString &key);
 // The key a document number prints with by default, from its prefix; empty for none.
@@ -75,6 +76,13 @@ void addCompanyVariables(const shell::Session &session, ReportData &data);
 // jbNote and the amounts bbskzje, sjyyk, xfyyk, jjzje with the amount decimals of the parameters
 // ("52.00", not the "#.00" of the documents' xx variables, which would print ".00" for nothing
 // handed over); it has no lines.
+//
+// A registration (ysyfysk, ysyfskd, ysyfyfk, ysyffkd) is read only under its own kind (k_djlx
+// YS, SK, YF, FK), so a collection never prints on the entry's form. It sets jhDate k_rq,
+// partyName (the customer's or supplier's name of k_ghskh), fkfs k_fkfs (the account), gldjh2,
+// Note, aName, uName (the salesman), checker, chkrq, the amounts mlje k_mlje and yhje k_yhje,
+// and je: what an entry adds to the debt (k_yfje) or what a collection or payment took
+// (k_sfje), as stored; dxje is je in capitals, yf is je and sf k_sfje.
 //
 // A number that does not exist is refused (documentMissing); a party or warehouse that is gone
 // leaves its variables empty.

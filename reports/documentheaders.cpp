@@ -132,6 +132,13 @@ const Variable handover[] = { { "jbTime", "jb_time" }, { "jbCurrUser", "jb_curru
     { "sjyyk", "jb_sjyyk", Shape::Amount }, { "xfyyk", "jb_xfyyk", Shape::Amount },
     { "jjzje", "jb_jjzje", Shape::Amount }, { "jbNote", "jb_note" } };
 
+// The registrations' figures: `je` is the row's amount the form names (see the header sources).
+const Variable registration[] = { { "jhDate", "k_rq" }, { "partyName", "party_name" },
+    { "fkfs", "k_fkfs" }, { "gldjh2", "gl_djh2" }, { "Note", "k_note" }, { "aName", "a_name" },
+    { "uName", "u_name" }, { "checker", "k_checker" }, { "chkrq", "k_chkrq" },
+    { "je", "je", Shape::Number }, { "mlje", "k_mlje", Shape::Number },
+    { "yhje", "k_yhje", Shape::Number } };
+
 #undef CUSTOMER
 #undef SUPPLIER
 
@@ -215,6 +222,27 @@ const HeaderSource headerSources[] = {
         "", pos, Total::Columns, "pos_yfje", "pos_sfje" },
     { "jbxp", "select a.* from jxc_jbgl a where a.id=?", "", handover, Total::None, "", "", "",
         false, true },
+    // A registration with its salesman (c) and party (d), only under its own kind.
+    { "ysyfysk",
+        "select a.*,a.k_yfje as je,c.u_name,d.kh_name as party_name from jxc_ysyfk_dj a left join "
+        "jxc_user c on a.u_sn=c.u_sn left join jxc_khxx d on a.k_ghskh=d.kh_sn where a.gl_djh=? "
+        "and a.k_djlx='YS' order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje" },
+    { "ysyfskd",
+        "select a.*,a.k_sfje as je,c.u_name,d.kh_name as party_name from jxc_ysyfk_dj a left join "
+        "jxc_user c on a.u_sn=c.u_sn left join jxc_khxx d on a.k_ghskh=d.kh_sn where a.gl_djh=? "
+        "and a.k_djlx='SK' order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje" },
+    { "ysyfyfk",
+        "select a.*,a.k_yfje as je,c.u_name,d.ghs_name as party_name from jxc_ysyfk_dj a left "
+        "join jxc_user c on a.u_sn=c.u_sn left join jxc_ghsxx d on a.k_ghskh=d.ghs_sn where "
+        "a.gl_djh=? and a.k_djlx='YF' order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje" },
+    { "ysyffkd",
+        "select a.*,a.k_sfje as je,c.u_name,d.ghs_name as party_name from jxc_ysyfk_dj a left "
+        "join jxc_user c on a.u_sn=c.u_sn left join jxc_ghsxx d on a.k_ghskh=d.ghs_sn where "
+        "a.gl_djh=? and a.k_djlx='FK' order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje" },
 };
 
 // xshh prints a customer return, the receipts print a POS document.

@@ -159,6 +159,10 @@ QStringList documentNumbersBetween(
             to.toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(" 23:59:59") },
         [&](const QSqlQuery &q) {
             const QString number = q.value(0).toString();
+            // The registrations' kinds share one table; each key takes its own prefix.
+            if (print->table == QLatin1String("jxc_ysyfk_dj")
+                && !print->prefixes.contains(number.left(2).toUpper()))
+                return;
             if (!numbers.contains(number))
                 numbers.append(number);
         });

@@ -129,6 +129,20 @@ TEST_F(EveryKey, PrintsAStoredDocumentWithItsNumberAndLines)
                         .contains(QStringLiteral("本班收款总额：52.00")))
             << key.toStdString();
     }
+    // The registrations have no goods either: the amount is what they print.
+    const std::pair<const char *, const char *> registrations[] = { { "ysyfysk", "YS" },
+        { "ysyfskd", "SK" }, { "ysyfyfk", "YF" }, { "ysyffkd", "FK" } };
+    for (const auto &[key, prefix] : registrations) {
+        const QString number = QString::fromLatin1(prefix) + QStringLiteral("25031410001");
+        db().exec(QStringLiteral("insert into jxc_ysyfk_dj (gl_djh,k_rq,k_fkfs,k_yfje,k_sfje,"
+                                 "k_djlx,k_ghskh,a_name) values (?,'2025-03-14','现金',66,66,?,"
+                                 "'100002','admin')"),
+            { number, QString::fromLatin1(prefix) });
+        keys.append(QString::fromLatin1(key));
+        const QString text = printed(QString::fromLatin1(key), number).report.allText();
+        EXPECT_TRUE(text.contains(number)) << key;
+        EXPECT_TRUE(text.contains(QStringLiteral("陆拾陆元整"))) << key;
+    }
     QStringList all;
     for (const reports::DocumentPrint &print : reports::documentPrints())
         all.append(print.key);

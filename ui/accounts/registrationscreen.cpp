@@ -36,6 +36,13 @@ int saveRight(RegistrationKind kind)
     return rights[int(kind)];
 }
 
+// The form each kind prints with: 客户欠款单, 客户收款单, 欠款单, 供货商付款单.
+QString printKey(RegistrationKind kind)
+{
+    static const char *const keys[] = { "ysyfysk", "ysyfskd", "ysyfyfk", "ysyffkd" };
+    return QString::fromLatin1(keys[int(kind)]);
+}
+
 QString kindTitle(RegistrationKind kind)
 {
     static const char *const titles[] = { "应收登记", "收款登记", "应付登记", "付款登记" };
@@ -100,6 +107,7 @@ RegistrationScreen::RegistrationScreen(
         QStringLiteral("取消审核"), Qt::Key_F7, [this] { uncheck(); }, "wlzk", checkRight(kind));
     setColumns(
         columns(kind), QStringLiteral("registrations-") + accounts::registrationPrefix(kind));
+    setPrintKey(printKey(kind));
     connect(this, &QueryScreen::activated, this, [this](int) { change(); });
 }
 
@@ -116,6 +124,14 @@ void RegistrationScreen::fetch()
                 r.checked ? QStringLiteral("已审核") : QStringLiteral("未审核"), r.checker,
                 r.checkDate, r.note }));
     setRows(rows);
+}
+
+PrintRequest RegistrationScreen::printRequest() const
+{
+    const accounts::RegistrationRow *row = current();
+    if (!row)
+        return {};
+    return { printKey(m_kind), row->number };
 }
 
 const accounts::RegistrationRow *RegistrationScreen::current() const

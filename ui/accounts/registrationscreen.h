@@ -13,7 +13,8 @@ class CodeNameField;
 // check right of the kind), F7 unchecks it after the operation's question. An entry ("应收登记" /
 // "应付登记") takes the amount owed and, when something was paid on it at once, the amount paid
 // and its account; a collection or payment takes the amount paid, the discount, the change
-// written off ("抹零") and the account.
+// written off ("抹零") and the account. F8 prints the current registration, checked or not, on
+// its kind's form with preview (an unchecked one prints without checker, as entered).
 class RegistrationScreen : public MoneyListScreen
 {
     Q_OBJECT
@@ -33,6 +34,7 @@ public slots:
 
 protected:
     void fetch() override;
+    PrintRequest printRequest() const override;
 
 private:
     // The form, filled from `row` when one is given; true when it was saved.
