@@ -11,6 +11,8 @@
 #include "ui/accounts/ledgerscreen.h"
 #include "ui/accounts/registrationscreen.h"
 #include "ui/common/workspace.h"
+#include "ui/reports/previewdialog.h"
+#include "ui/reports/printing.h"
 #include "ui/shell/mainwindow.h"
 
 #include <QApplication>
@@ -169,6 +171,15 @@ void shootMoney(const Shots &shots, ui::MainWindow &window, ui::Workspace &works
         auto *screen = current<ui::RegistrationScreen>(window);
         screen->grid()->selectRow(0);
         shots.shoot(&window, QStringLiteral("%1-%2").arg(n++).arg(QLatin1String(names[i])));
+        // The collection's and the payment's forms as F8 shows them.
+        if (i == 1 || i == 3) {
+            const QString key = i == 1 ? QStringLiteral("ysyfskd") : QStringLiteral("ysyffkd");
+            if (ui::PreviewDialog *preview = ui::printWithPreview(
+                    workspace, key, screen->model()->text(0, 0), &window)) {
+                shots.shoot(preview, QStringLiteral("%1-preview-%2").arg(223 + i / 2).arg(key));
+                preview->close();
+            }
+        }
         if (i == 1)
             shootForm(shots, window, QStringLiteral("%1-collection-form").arg(n++),
                 [screen] { screen->add(); });

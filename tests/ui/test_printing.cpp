@@ -1,8 +1,12 @@
+#include "accounts/registrations.h"
 #include "core/connection.h"
 #include "reports/printing.h"
 #include "reports/template.h"
 #include "shell/session.h"
+#include "tests/ui/keyboard.h"
+#include "tests/ui/previews.h"
 #include "tests/ui/uitest.h"
+#include "ui/accounts/registrationscreen.h"
 #include "ui/reports/designer.h"
 #include "ui/reports/designscene.h"
 #include "ui/reports/pageview.h"
@@ -22,6 +26,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStandardItemModel>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 
@@ -343,6 +348,50 @@ TEST_F(PrintingScreens, TheDesignScreenOffersEveryTemplateByTitleAndRestoresAnEd
     EXPECT_TRUE(screen.restoreShipped(QStringLiteral("kccx")));
     EXPECT_FALSE(QFileInfo::exists(userCopy(QStringLiteral("kccx"))));
     EXPECT_EQ(screen.buttonOf(QStringLiteral("kccx"))->text(), QStringLiteral("库存查询表"));
+}
+
+} // namespace
+
+namespace {
+
+// F8 on a registration list prints the row the clerk is on, on its kind's form; with no row
+// nothing opens.
+TEST_F(PrintingScreens, F8OnARegistrationListPrintsTheCurrentRowOnItsForm)
+{
+    ui::installPrinting(workspace());
+    shell::Session &session = workspace().session;
+    ui::RegistrationScreen collections(workspace(), accounts::RegistrationKind::Collection);
+    collections.show();
+    collections.run();
+    test::Keyboard keys;
+    keys.setWindow(&collections);
+    collections.setFocus();
+    keys.press(Qt::Key_F8);
+    EXPECT_TRUE(test::visiblePreviews().isEmpty());
+
+    accounts::RegistrationDraft draft;
+    draft.kind = accounts::RegistrationKind::Collection;
+    draft.party = QStringLiteral("100001");
+    draft.date = QStringLiteral("2025-03-14");
+    draft.paid = 1500.4;
+    draft.changeWrittenOff = 0.6;
+    draft.account = QStringLiteral("现金");
+    draft.note = QStringLiteral("收三月货款");
+    const Result<QString> number = accounts::saveRegistration(session, draft);
+    ASSERT_TRUE(number.ok()) << number.message().toStdString();
+    ASSERT_TRUE(accounts::checkRegistration(session, number.value()));
+    collections.run();
+    collections.grid()->selectRow(0);
+    collections.setFocus();
+    keys.press(Qt::Key_F8);
+    const QList<ui::PreviewDialog *> previews = test::visiblePreviews();
+    ASSERT_EQ(previews.size(), 1);
+    EXPECT_EQ(previews.first()->windowTitle(),
+        QStringLiteral("打印预览 - 客户收款单 ") + number.value());
+    const QString text = previews.first()->report().allText();
+    EXPECT_TRUE(text.contains(QStringLiteral("1,500.40"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("壹仟伍佰元肆角整"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("收三月货款")));
 }
 
 } // namespace
