@@ -115,6 +115,33 @@ TEST_F(PrintCommands, ASalePrintsToAPdfWithEverythingTheCustomerReads)
         EXPECT_TRUE(test::pdfHas(receiptText, expected)) << expected;
 }
 
+// A collection saved and checked through the command line prints on 客户收款单; asked for on
+// the entry's form it is refused and no file is written.
+TEST_F(PrintCommands, ACollectionPrintsOnItsFormAndNotOnTheEntrys)
+{
+    ASSERT_EQ(saveAndCheck(R"({"kind":"SK","k_ghskh":"100002","k_rq":"2025-03-14",
+            "k_sfje":"1500.4","k_mlje":0.6,"k_fkfs":"现金","k_note":"收三月货款",
+            "gl_djh2":"XS25031410001"})"),
+        QStringLiteral("SK25031410001"));
+    const QString pdf = out(QStringLiteral("collection.pdf"));
+    const CliResult printed = run({ QStringLiteral("print"), QStringLiteral("ysyfskd"),
+        QStringLiteral("SK25031410001"), QStringLiteral("--pdf"), pdf });
+    ASSERT_EQ(printed.status, 0) << printed.err.toStdString();
+    EXPECT_EQ(test::pdfInfo(pdf, QStringLiteral("Title")),
+        QStringLiteral("客户收款单 SK25031410001"));
+    const QString text = test::pdfText(pdf);
+    for (const char *expected : { "康宁大药房", "客户收款单", "华康药店", "2025-03-14",
+             "1,500.40", "壹仟伍佰元肆", "现金", "XS25031410001", "收三月货款",
+             "审核：admin" })
+        EXPECT_TRUE(test::pdfHas(text, expected)) << expected << "\n" << text.toStdString();
+
+    const CliResult wrong = run({ QStringLiteral("print"), QStringLiteral("ysyfysk"),
+        QStringLiteral("SK25031410001"), QStringLiteral("--pdf"), out(QStringLiteral("x.pdf")) });
+    EXPECT_EQ(wrong.status, 1);
+    EXPECT_EQ(wrong.err, QStringLiteral("单据：SK25031410001不存在！\n"));
+    EXPECT_FALSE(QFileInfo::exists(out(QStringLiteral("x.pdf"))));
+}
+
 TEST_F(PrintCommands, AStyleIsChosenByNameAndAWrongOneIsRefused)
 {
     const QString pdf = out(QStringLiteral("noprices.pdf"));
