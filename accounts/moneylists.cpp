@@ -54,7 +54,7 @@ LedgerRow readLedgerRow(const QSqlQuery &q)
 {
     return { q.value(0).toLongLong(), text(q, 1), text(q, 2), text(q, 3), text(q, 4), text(q, 5),
         figure(q, 6), figure(q, 7), figure(q, 8), figure(q, 9), figure(q, 10), text(q, 11),
-        text(q, 12), text(q, 13), text(q, 14) };
+        text(q, 12), text(q, 13), text(q, 14), text(q, 15) };
 }
 
 Query ledgerQuery(PartyKind kind, const MoneyFilter &filter)
@@ -62,9 +62,10 @@ Query ledgerQuery(PartyKind kind, const MoneyFilter &filter)
     Query query;
     query.add(QStringLiteral("select a.id,a.k_rq,a.gl_djh,a.k_djtxt,a.k_ghskh,%1,a.k_qcje,"
                              "a.k_yfje,a.k_sfje,a.k_yhje,a.k_ljje,a.k_fkfs,a.gl_djh2,a.k_note,"
-                             "a.a_name from jxc_ysyfk a")
+                             "a.a_name,u.u_name from jxc_ysyfk a")
                   .arg(partyNameColumn(kind))
-            + partyJoin(kind, QStringLiteral("a.k_ghskh")) + QStringLiteral(" where a.k_type=?"),
+            + partyJoin(kind, QStringLiteral("a.k_ghskh"))
+            + QStringLiteral(" left join jxc_user u on u.u_sn=a.u_sn where a.k_type=?"),
         { partyKindCode(kind) });
     query.whereEqual(QStringLiteral("a.k_ghskh"), filter.party);
     whereDates(query, QStringLiteral("a.k_rq"), filter);

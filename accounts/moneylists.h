@@ -81,6 +81,7 @@ struct LedgerRow
     QString link; // gl_djh2
     QString note;
     QString operatorName;
+    QString salesmanName; // u_name of the row's u_sn
 };
 // The party's ledger rows in the range (every party when the filter names none), in ledger order.
 QList<LedgerRow> ledgerRows(

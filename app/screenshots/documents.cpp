@@ -10,6 +10,7 @@
 #include "stock/documents/openingstock.h"
 #include "ui/common/codenamefield.h"
 #include "ui/common/datefield.h"
+#include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/documents/documentlist.h"
 #include "ui/documents/documentscreen.h"
@@ -19,14 +20,17 @@
 #include "ui/documents/uncheckeddialog.h"
 #include "ui/purchasing/checkdialog.h"
 #include "ui/purchasing/purchasekinds.h"
+#include "ui/reports/previewdialog.h"
 #include "ui/shell/mainwindow.h"
 #include "ui/stock/ledgerscreen.h"
 #include "ui/stock/openingkind.h"
 #include "ui/stock/stockqueryscreen.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDate>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
@@ -223,6 +227,19 @@ void shootOpening(const Shots &shots, ui::MainWindow &window, ui::Workspace &wor
 }
 
 } // namespace
+
+ui::PreviewDialog *printFrom(QWidget *screen)
+{
+    for (QPushButton *button : screen->findChildren<QPushButton *>())
+        if (button->text() == ui::texts::printButton() && !button->isHidden()
+            && button->isEnabled())
+            button->click();
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
+            preview && preview->isVisible())
+            return preview;
+    return nullptr;
+}
 
 void shootDocuments(const Shots &shots, ui::MainWindow &window, ui::Workspace &workspace)
 {

@@ -8,6 +8,7 @@ class QWidget;
 
 namespace medistock::ui {
 class MainWindow;
+class PreviewDialog;
 struct Workspace;
 } // namespace medistock::ui
 
@@ -18,6 +19,9 @@ struct Shots
     std::function<void(QWidget *, const QString &)> shoot;
     std::function<void(QWidget *window, QWidget *dialog, const QString &)> shootOver;
 };
+
+// Clicks the print button of `screen` and returns the preview it opened; nullptr when none did.
+medistock::ui::PreviewDialog *printFrom(QWidget *screen);
 
 // Renders the purchasing and stock screens on documents posted through the operations: the
 // receipt filled (and with the goods picker open), the check dialog, the return taken from a

@@ -188,6 +188,10 @@ void shootMoney(const Shots &shots, ui::MainWindow &window, ui::Workspace &works
     auto *ledger = current<ui::LedgerScreen>(window, 0);
     ledger->grid()->selectRow(1);
     shots.shoot(&window, QStringLiteral("%1-receivables-ledger").arg(n++));
+    if (ui::PreviewDialog *statement = printFrom(ledger)) {
+        shots.shoot(statement, QStringLiteral("225-preview-khdzd"));
+        statement->close();
+    }
     current<ui::WrittenOffScreen>(window, 1)->run();
     shots.shoot(&window, QStringLiteral("%1-written-off").arg(n++));
     window.openOperation(area, 6);

@@ -112,20 +112,6 @@ void shootTill(
     handover.hide();
 }
 
-// The preview a print button of `screen` opened; nullptr when none did.
-ui::PreviewDialog *printFrom(QWidget *screen)
-{
-    for (QPushButton *button : screen->findChildren<QPushButton *>())
-        if (button->text() == ui::texts::printButton() && !button->isHidden()
-            && button->isEnabled())
-            button->click();
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        if (auto *preview = qobject_cast<ui::PreviewDialog *>(widget);
-            preview && preview->isVisible())
-            return preview;
-    return nullptr;
-}
-
 // The receipt of the sample sale, the handover of the morning's shift (100 left in the drawer) and
 // its slip on both rolls, the list of handovers, and four POS reports in their print previews.
 void shootPosPrints(

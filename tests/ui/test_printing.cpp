@@ -6,7 +6,10 @@
 #include "tests/ui/keyboard.h"
 #include "tests/ui/previews.h"
 #include "tests/ui/uitest.h"
+#include "ui/accounts/ledgerscreen.h"
 #include "ui/accounts/registrationscreen.h"
+#include "ui/common/datefield.h"
+#include "ui/common/texts.h"
 #include "ui/reports/designer.h"
 #include "ui/reports/designscene.h"
 #include "ui/reports/pageview.h"
@@ -392,6 +395,135 @@ TEST_F(PrintingScreens, F8OnARegistrationListPrintsTheCurrentRowOnItsForm)
     EXPECT_TRUE(text.contains(QStringLiteral("1,500.40"))) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("壹仟伍佰元肆角整"))) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("收三月货款")));
+}
+
+} // namespace
+
+namespace {
+
+// 仁和诊所 owes 1000 from an entry, pays 400 and has 0.5 written off, all checked on 2025-03-14.
+class StatementPrints : public PrintingScreens
+{
+protected:
+    void SetUp() override
+    {
+        PrintingScreens::SetUp();
+        ui::installPrinting(workspace());
+        db().exec(QStringLiteral("insert into jxc_khxx (kh_sn,kh_name,kh_lwje,kh_forbid) values "
+                                 "('100009','仁和诊所',0,0)"));
+        register_(accounts::RegistrationKind::Receivable, 1000, 0, 0, QStringLiteral("上月欠款"));
+        register_(accounts::RegistrationKind::Collection, 0, 400, 0.5, QStringLiteral("收货款"));
+        db().exec(QStringLiteral("insert into jxc_ghsxx (ghs_sn,ghs_name,ghs_lwje,ghs_forbid) "
+                                 "values ('100009','华北制药',0,0)"));
+        register_(accounts::RegistrationKind::Payable, 5600, 0, 0, QStringLiteral("期初应付"));
+    }
+
+    void register_(accounts::RegistrationKind kind, double due, double paid, double change,
+        const QString &note)
+    {
+        accounts::RegistrationDraft draft;
+        draft.kind = kind;
+        draft.party = QStringLiteral("100009");
+        draft.date = QStringLiteral("2025-03-14");
+        draft.due = due;
+        draft.paid = paid;
+        draft.changeWrittenOff = change;
+        draft.account = QStringLiteral("现金");
+        draft.note = note;
+        const Result<QString> number = accounts::saveRegistration(workspace().session, draft);
+        ASSERT_TRUE(number.ok()) << number.message().toStdString();
+        ASSERT_TRUE(accounts::checkRegistration(workspace().session, number.value()));
+    }
+
+    // The texts of the objects named `prefix`N on the page, N = 1..9, row by row.
+    static QStringList cells(const reports::PreparedPage &page)
+    {
+        QStringList texts;
+        for (const reports::PreparedItem &item : page.items)
+            if (item.source.startsWith(QLatin1String("Cell")))
+                texts.append(item.text);
+        return texts;
+    }
+};
+
+// The statement prints the chosen customer's ledger rows of the range, each cell filled, with
+// his name and the range in the heading; F8 from the list of balances prints the same.
+TEST_F(StatementPrints, TheCustomersStatementPrintsHisLedgerRowsOfTheRange)
+{
+    ui::LedgerScreen ledger(workspace(), accounts::PartyKind::Customer);
+    ledger.show();
+    ledger.ledger()->fromField()->setText(QStringLiteral("2025-03-01"));
+    ledger.ledger()->toField()->setText(QStringLiteral("2025-03-31"));
+    ledger.run();
+    for (int r = 0; r < ledger.model()->dataRows(); ++r)
+        if (ledger.model()->text(r, 0) == QStringLiteral("100009"))
+            ledger.grid()->selectRow(r);
+    ASSERT_EQ(ledger.ledger()->model()->dataRows(), 3);
+    ledger.grid()->setFocus();
+    test::Keyboard keys;
+    keys.setWindow(&ledger);
+    keys.press(Qt::Key_F8);
+    const QList<ui::PreviewDialog *> previews = test::visiblePreviews();
+    ASSERT_EQ(previews.size(), 1);
+    const reports::PreparedReport &report = previews.first()->report();
+    ASSERT_EQ(report.pages.size(), 1);
+    const QString text = report.allText();
+    EXPECT_TRUE(text.contains(QStringLiteral("客户：仁和诊所"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("2025-03-01"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("合计：3条"))) << text.toStdString();
+    const QStringList printed = cells(report.pages.first());
+    ASSERT_EQ(printed.size(), 27);
+    // Date, number, kind, due, paid, balance, account, salesman, note.
+    EXPECT_EQ(printed.mid(0, 9),
+        (QStringList { "2025-03-14", "YS25031410001", "增加应收款", "1,000.00", "0.00",
+            "1,000.00", "现金", "默认员工", "上月欠款" }));
+    EXPECT_EQ(printed.mid(9, 9),
+        (QStringList { "2025-03-14", "SK25031410001", "收款单", "0.00", "400.00", "600.00",
+            "现金", "默认员工", "收货款" }));
+    EXPECT_EQ(printed.mid(18, 3), (QStringList { "2025-03-14", "YS25031410002", "增加应收款(抹零)" }));
+    EXPECT_EQ(printed.mid(21, 3), (QStringList { "-0.50", "0.00", "599.50" }));
+    EXPECT_EQ(printed[25], QStringLiteral("默认员工"));
+    QStringList blank;
+    for (int i = 0; i < printed.size(); ++i)
+        if (printed[i].isEmpty())
+            blank.append(QString::number(i));
+    EXPECT_EQ(blank, QStringList());
+    delete previews.first();
+
+    // A range without his rows prints an empty statement, still with his name.
+    ledger.ledger()->fromField()->setText(QStringLiteral("2025-04-01"));
+    ledger.ledger()->toField()->setText(QStringLiteral("2025-04-30"));
+    ledger.ledger()->run();
+    for (QPushButton *button : ledger.findChildren<QPushButton *>())
+        if (button->text() == ui::texts::printButton() && button->isVisible())
+            button->click();
+    ASSERT_EQ(test::visiblePreviews().size(), 1);
+    EXPECT_TRUE(cells(test::visiblePreviews().first()->report().pages.first()).isEmpty());
+    EXPECT_TRUE(test::visiblePreviews().first()->report().allText().contains(
+        QStringLiteral("仁和诊所")));
+}
+
+// The supplier's statement is its own form, with his payable rows.
+TEST_F(StatementPrints, TheSuppliersStatementPrintsHisPayableRows)
+{
+    ui::LedgerScreen ledger(workspace(), accounts::PartyKind::Supplier);
+    ledger.show();
+    ledger.ledger()->fromField()->setText(QStringLiteral("2025-03-01"));
+    ledger.run();
+    for (int r = 0; r < ledger.model()->dataRows(); ++r)
+        if (ledger.model()->text(r, 0) == QStringLiteral("100009"))
+            ledger.grid()->selectRow(r);
+    ledger.grid()->setFocus();
+    test::Keyboard keys;
+    keys.setWindow(&ledger);
+    keys.press(Qt::Key_F8);
+    ASSERT_EQ(test::visiblePreviews().size(), 1);
+    const reports::PreparedReport &report = test::visiblePreviews().first()->report();
+    EXPECT_TRUE(report.allText().contains(QStringLiteral("供货商对帐单")));
+    EXPECT_TRUE(report.allText().contains(QStringLiteral("华北制药")));
+    EXPECT_EQ(cells(report.pages.first()),
+        (QStringList { "2025-03-14", "YF25031410001", "增加应付款", "5,600.00", "0.00",
+            "5,600.00", "现金", "默认员工", "期初应付" }));
 }
 
 } // namespace

@@ -13,15 +13,21 @@
 #include <QComboBox>
 #include <QDate>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QTabWidget>
 
 namespace medistock::ui {
 
 namespace {
 
-QueryColumn money(const QString &caption, bool summed = true)
+QueryColumn money(const QString &caption, bool summed = true, const QString &field = {})
 {
-    return { caption, QueryColumn::Kind::Number, 2, summed };
+    return { caption, QueryColumn::Kind::Number, 2, summed, 0, field };
+}
+
+QueryColumn text(const QString &caption, const QString &field, int width = 0)
+{
+    return { caption, QueryColumn::Kind::Text, 0, false, width, field };
 }
 
 QString ledgerTitle(accounts::PartyKind kind)
@@ -40,21 +46,39 @@ LedgerRowsScreen::LedgerRowsScreen(Workspace &workspace, accounts::PartyKind kin
     fromField()->setText(session().clock().today().addYears(-1).toString(Qt::ISODate));
     setRunKey(QKeySequence());
     namespace t = accounts::texts;
-    setColumns({ { QStringLiteral("日期") },
-                   { QStringLiteral("单据号"), QueryColumn::Kind::Text, 0, false, 120 },
-                   { QStringLiteral("摘要"), QueryColumn::Kind::Text, 0, false, 130 },
-                   money(QStringLiteral("期初金额")), money(t::dueField(kind)),
-                   money(t::paidField(kind)), money(t::discountField()),
-                   money(QStringLiteral("余额"), false), { QStringLiteral("账户") },
-                   { QStringLiteral("关联单据") }, { QStringLiteral("操作员") },
-                   { QStringLiteral("备注"), QueryColumn::Kind::Text, 0, false, 160 } },
+    // The fields are those the statement prints the rows as.
+    setColumns({ text(QStringLiteral("日期"), QStringLiteral("k_rq")),
+                   text(QStringLiteral("单据号"), QStringLiteral("gl_djh"), 120),
+                   text(QStringLiteral("摘要"), QStringLiteral("k_djtxt"), 130),
+                   money(QStringLiteral("期初金额"), true, QStringLiteral("k_qcje")),
+                   money(t::dueField(kind), true, QStringLiteral("k_yfje")),
+                   money(t::paidField(kind), true, QStringLiteral("k_sfje")),
+                   money(t::discountField(), true, QStringLiteral("k_yhje")),
+                   money(QStringLiteral("余额"), false, QStringLiteral("k_ljje")),
+                   text(QStringLiteral("账户"), QStringLiteral("k_fkfs")),
+                   text(QStringLiteral("关联单据"), QStringLiteral("gl_djh2")),
+                   text(QStringLiteral("业务员"), QStringLiteral("u_name")),
+                   text(QStringLiteral("操作员"), QStringLiteral("a_name")),
+                   text(QStringLiteral("备注"), QStringLiteral("k_note"), 160) },
         QStringLiteral("ledger-rows-") + accounts::partyKindCode(kind));
 }
 
-void LedgerRowsScreen::showParty(const QString &party)
+void LedgerRowsScreen::showParty(const QString &party, const QString &name)
 {
     m_party = party;
+    m_partyName = name;
     run();
+}
+
+PrintRequest LedgerRowsScreen::printRequest() const
+{
+    if (m_party.isEmpty())
+        return {};
+    PrintRequest request = MoneyListScreen::printRequest();
+    request.key = m_kind == accounts::PartyKind::Customer ? QStringLiteral("khdzd")
+                                                          : QStringLiteral("ghsdzd");
+    request.variables = { { QStringLiteral("partyName"), m_partyName } };
+    return request;
 }
 
 void LedgerRowsScreen::fetch()
@@ -65,7 +89,7 @@ void LedgerRowsScreen::fetch()
         filter.party = m_party;
         for (const accounts::LedgerRow &r : accounts::ledgerRows(session().db(), m_kind, filter))
             rows.append({ r.date, r.number, r.text, r.opening, r.due, r.paid, r.discount, r.balance,
-                r.account, r.link, r.operatorName, r.note });
+                r.account, r.link, r.salesmanName, r.operatorName, r.note });
     }
     setRows(rows);
 }
@@ -89,8 +113,26 @@ LedgerScreen::LedgerScreen(Workspace &workspace, accounts::PartyKind kind, QWidg
                                                                : QStringLiteral("应付余额")) },
         QStringLiteral("ledger-balances-") + accounts::partyKindCode(kind));
     setDetail(m_ledger);
-    connect(this, &QueryScreen::currentRowChanged, this,
-        [this](int) { m_ledger->showParty(currentParty()); });
+    connect(this, &QueryScreen::currentRowChanged, this, [this](int) { showCurrentParty(); });
+    setPrintKey(m_kind == accounts::PartyKind::Customer ? QStringLiteral("khdzd")
+                                                        : QStringLiteral("ghsdzd"));
+    // One F8 for the window: the ledger's own would make the key ambiguous inside it.
+    for (QShortcut *shortcut : m_ledger->findChildren<QShortcut *>())
+        if (shortcut->key() == QKeySequence(Qt::Key_F8))
+            shortcut->setEnabled(false);
+}
+
+void LedgerScreen::showCurrentParty()
+{
+    const int row = currentRow();
+    const bool chosen = row >= 0 && row < m_rows.size();
+    m_ledger->showParty(
+        chosen ? m_rows[row].party : QString(), chosen ? m_rows[row].name : QString());
+}
+
+PrintRequest LedgerScreen::printRequest() const
+{
+    return m_ledger->printRequest();
 }
 
 QString LedgerScreen::currentParty() const
@@ -107,7 +149,7 @@ void LedgerScreen::fetch()
     for (const accounts::PartyBalance &p : m_rows)
         rows.append({ p.party, p.name, p.balance });
     setRows(rows);
-    m_ledger->showParty(currentParty());
+    showCurrentParty();
 }
 
 void LedgerScreen::recalculate()

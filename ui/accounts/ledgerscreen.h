@@ -17,7 +17,11 @@ class LedgerRowsScreen : public MoneyListScreen
     Q_OBJECT
 public:
     LedgerRowsScreen(Workspace &workspace, accounts::PartyKind kind, QWidget *parent = nullptr);
-    void showParty(const QString &party);
+    void showParty(const QString &party, const QString &name);
+
+    // The party's statement ("客户对帐单" khdzd, "供货商对帐单" ghsdzd): the rows shown, the
+    // range as the heading's filter and the party's name; nothing without a party.
+    PrintRequest printRequest() const override;
 
 protected:
     void fetch() override;
@@ -25,12 +29,14 @@ protected:
 private:
     accounts::PartyKind m_kind;
     QString m_party;
+    QString m_partyName;
 };
 
 // "应收帐表" / "应付帐表": every customer (supplier) with the balance its record keeps, filtered
 // by a text and, when ticked, to those with a balance; the chosen party's running ledger below.
 // "重新计算(F6)" recalculates all parties or the chosen one from a date, after the operation's
-// question.
+// question. "打印(F8)", anywhere in the window, prints the chosen party's statement of the range
+// its ledger shows.
 class LedgerScreen : public MoneyListScreen
 {
     Q_OBJECT
@@ -46,8 +52,11 @@ public slots:
 
 protected:
     void fetch() override;
+    PrintRequest printRequest() const override;
 
 private:
+    void showCurrentParty();
+
     accounts::PartyKind m_kind;
     QLineEdit *m_search;
     QCheckBox *m_owingOnly;

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 class QAbstractItemModel;
 class QPushButton;
@@ -25,6 +26,7 @@ struct PrintRequest
     QStringList fields {}; // the template's field of each grid column; empty: not printed
     int gridRows = 0; // the grid's rows without the totals row
     QString filter {}; // the query's filters as shown ("仓库：主仓库  查找：阿莫"), for the heading
+    QList<std::pair<QString, QString>> variables {}; // further variables a grid's template reads
 };
 
 // Prints with preview (Workspace::print). `parent` is the screen, for the preview to centre on.

@@ -128,10 +128,13 @@ void printRequested(Workspace &workspace, QWidget *parent, const PrintRequest &r
 {
     if (!request.number.isEmpty())
         printWithPreview(workspace, request.key, request.number, parent);
-    else if (request.grid)
-        printRowsWithPreview(workspace, request.key,
-            gridData(workspace, *request.grid, request.fields, request.filter, request.gridRows),
-            parent);
+    else if (request.grid) {
+        reports::ReportData data
+            = gridData(workspace, *request.grid, request.fields, request.filter, request.gridRows);
+        for (const auto &[name, value] : request.variables)
+            data.setText(name, value);
+        printRowsWithPreview(workspace, request.key, data, parent);
+    }
 }
 
 void installPrinting(Workspace &workspace)
