@@ -189,6 +189,7 @@ void shootMoney(const Shots &shots, ui::MainWindow &window, ui::Workspace &works
     ledger->grid()->selectRow(1);
     shots.shoot(&window, QStringLiteral("%1-receivables-ledger").arg(n++));
     if (ui::PreviewDialog *statement = printFrom(ledger)) {
+        statement->setZoom(0.8); // the landscape form whole across the window
         shots.shoot(statement, QStringLiteral("225-preview-khdzd"));
         statement->close();
     }
