@@ -43,6 +43,7 @@ struct HeaderSource
     const char *balanceDate = ""; // set for the customer documents that print khqk, ljqkje, yf2
     bool positive = false; // amounts stored negative print positive
     bool byId = false; // the number is the row's id (the handover), bound as an integer
+    const char *kind = ""; // bound as a second "?" when set: the registration kind of the form
 };
 
 #define CUSTOMER                                                                                   \
@@ -226,23 +227,23 @@ const HeaderSource headerSources[] = {
     { "ysyfysk",
         "select a.*,a.k_yfje as je,c.u_name,d.kh_name as party_name from jxc_ysyfk_dj a left join "
         "jxc_user c on a.u_sn=c.u_sn left join jxc_khxx d on a.k_ghskh=d.kh_sn where a.gl_djh=? "
-        "and a.k_djlx='YS' order by a.id limit 1",
-        "", registration, Total::Columns, "je", "k_sfje" },
+        "and a.k_djlx=? order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje", "", false, false, "YS" },
     { "ysyfskd",
         "select a.*,a.k_sfje as je,c.u_name,d.kh_name as party_name from jxc_ysyfk_dj a left join "
         "jxc_user c on a.u_sn=c.u_sn left join jxc_khxx d on a.k_ghskh=d.kh_sn where a.gl_djh=? "
-        "and a.k_djlx='SK' order by a.id limit 1",
-        "", registration, Total::Columns, "je", "k_sfje" },
+        "and a.k_djlx=? order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje", "", false, false, "SK" },
     { "ysyfyfk",
         "select a.*,a.k_yfje as je,c.u_name,d.ghs_name as party_name from jxc_ysyfk_dj a left "
         "join jxc_user c on a.u_sn=c.u_sn left join jxc_ghsxx d on a.k_ghskh=d.ghs_sn where "
-        "a.gl_djh=? and a.k_djlx='YF' order by a.id limit 1",
-        "", registration, Total::Columns, "je", "k_sfje" },
+        "a.gl_djh=? and a.k_djlx=? order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje", "", false, false, "YF" },
     { "ysyffkd",
         "select a.*,a.k_sfje as je,c.u_name,d.ghs_name as party_name from jxc_ysyfk_dj a left "
         "join jxc_user c on a.u_sn=c.u_sn left join jxc_ghsxx d on a.k_ghskh=d.ghs_sn where "
-        "a.gl_djh=? and a.k_djlx='FK' order by a.id limit 1",
-        "", registration, Total::Columns, "je", "k_sfje" },
+        "a.gl_djh=? and a.k_djlx=? order by a.id limit 1",
+        "", registration, Total::Columns, "je", "k_sfje", "", false, false, "FK" },
 };
 
 // xshh prints a customer return, the receipts print a POS document.
@@ -369,7 +370,10 @@ HeaderRow readHeader(const shell::Session &session, const QString &key, const QS
         if (!isId)
             return header;
     }
-    header.row = session.db().firstRow(QString::fromUtf8(source->sql), { bound });
+    QVariantList params { bound };
+    if (*source->kind)
+        params.append(QString::fromLatin1(source->kind));
+    header.row = session.db().firstRow(QString::fromUtf8(source->sql), params);
     if (*source->status && !header.row.isEmpty())
         header.status = header.row.value(QString::fromLatin1(source->status)).toString();
     return header;

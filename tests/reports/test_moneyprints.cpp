@@ -20,9 +20,10 @@ protected:
     void SetUp() override
     {
         PrintTest::SetUp();
-        db().exec(QStringLiteral("insert into jxc_ghsxx (ghs_sn,ghs_name) values "
-                                 "('100002','华东医药')"));
-        db().exec(QStringLiteral("insert into jxc_user (u_sn,u_name) values ('100099','王芳')"));
+        db().exec(QStringLiteral("insert into jxc_ghsxx (ghs_sn,ghs_name) values (?,?)"),
+            { QStringLiteral("100002"), QStringLiteral("华东医药") });
+        db().exec(QStringLiteral("insert into jxc_user (u_sn,u_name) values (?,?)"),
+            { QStringLiteral("100099"), QStringLiteral("王芳") });
     }
 
     // Saves (and checks when asked) a registration of the kind with every field filled.
