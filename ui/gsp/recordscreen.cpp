@@ -5,12 +5,14 @@
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "ui/common/grid.h"
+#include "ui/common/printing.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 #include "ui/gsp/tablemodel.h"
 #include "ui/gsp/texts.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDialog>
@@ -85,7 +87,7 @@ RecordScreen::RecordScreen(
     , m_count(new QLabel(this))
     , m_caption(new QLabel(this))
     , m_export(new QPushButton(texts::exportButton(), this))
-    , m_print(new QPushButton(texts::printButton(), this))
+    , m_print(makePrintButton(workspace, this, [this] { return printRequest(); }))
 {
     m_grid->setModel(m_model);
     m_grid->installEventFilter(this);
@@ -106,10 +108,6 @@ RecordScreen::RecordScreen(
     m_bar->addWidget(query);
     m_bar->addStretch(1);
 
-    // The records' columns are not matched to their templates' fields yet: printing stays off.
-    m_print->setAutoDefault(false);
-    m_print->setEnabled(false);
-    m_print->setToolTip(texts::printingNotBuilt());
     m_export->setAutoDefault(false);
     connect(m_export, &QPushButton::clicked, this, &RecordScreen::chooseExportFile);
     m_bar->addWidget(m_export);
@@ -170,6 +168,7 @@ void RecordScreen::addFilter(const QString &label, QWidget *field)
     const int at = m_query ? m_bar->indexOf(m_query) : m_bar->count();
     if (!label.isEmpty())
         m_bar->insertWidget(at, new QLabel(label, this));
+    m_filterFields.append({ label, field });
     m_bar->insertWidget(m_query ? m_bar->indexOf(m_query) : m_bar->count(), field);
     field->installEventFilter(this);
 }
@@ -250,8 +249,14 @@ void RecordScreen::reload()
         return;
     m_model->setTable(table.value());
     m_count->setText(texts::rowCount(m_model->recordCount()));
-    // A record without a report template offers no printing.
+    // A record without a report template offers no printing; one whose template prints what the
+    // grid does not show (a record's lines) says so.
     m_print->setVisible(!m_model->table().printKey.isEmpty());
+    if (m_workspace.print) {
+        const bool printable = !m_model->table().printFields.isEmpty();
+        m_print->setEnabled(printable);
+        m_print->setToolTip(printable ? QString() : texts::printingNotBuilt());
+    }
     // Widths fit the contents the first time, and again when the grid shows other columns (the
     // restricted ledger's summary); the first layout is the one kept per operator.
     if (m_model->table().headers != m_headers) {
@@ -268,6 +273,31 @@ void RecordScreen::reload()
     else if (m_model->recordCount() > 0)
         m_grid->selectRow(0);
     emit currentRowChanged(currentRow());
+}
+
+PrintRequest RecordScreen::printRequest() const
+{
+    const gsp::RecordTable &table = m_model->table();
+    if (table.printFields.isEmpty())
+        return {};
+    return { table.printKey, {}, m_model, table.printFields, m_model->recordCount(), filterText() };
+}
+
+QString RecordScreen::filterText() const
+{
+    QStringList parts;
+    for (const auto &[label, field] : m_filterFields) {
+        QString shown;
+        if (auto *box = qobject_cast<QComboBox *>(field))
+            shown = box->currentText();
+        else if (auto *spin = qobject_cast<QAbstractSpinBox *>(field))
+            shown = spin->text();
+        else if (auto *edit = qobject_cast<QLineEdit *>(field))
+            shown = edit->text();
+        if (!label.isEmpty() && !shown.trimmed().isEmpty())
+            parts.append(label + QStringLiteral("：") + shown.trimmed());
+    }
+    return parts.join(QStringLiteral("  "));
 }
 
 void RecordScreen::chooseExportFile()
