@@ -229,8 +229,8 @@ RecordTable restrictedSummaryTable(const QList<RestrictedSummaryRow> &rows)
     return t;
 }
 
-// The display check and the expiry tracking print their goods lines (clypjcjl, jxqjcjl), which
-// these tables of records do not show: no printFields, so their screens do not print yet.
+// The display check and the expiry tracking print their goods lines (clypjcjl, jxqjcjl, see
+// filledLinesTable), not these tables of records: no printFields here.
 RecordTable inspectionTable(const QList<InspectionRecord> &records)
 {
     RecordTable t = startTable(texts::inspectionTitle(), QStringLiteral("clypjcjl"),
@@ -273,15 +273,21 @@ RecordTable trackingTable(const QList<TrackingRecord> &records)
 
 RecordTable filledLinesTable(FilledKind kind, const QList<FilledLine> &lines)
 {
-    RecordTable t = startTable(titleOf(kind), QString(),
+    RecordTable t = startTable(titleOf(kind),
+        kind == FilledKind::Inspection ? QStringLiteral("clypjcjl") : QStringLiteral("jxqjcjl"),
         { QStringLiteral("单据号"), QStringLiteral("商品编号"), QStringLiteral("商品名称"),
             QStringLiteral("规格"), QStringLiteral("单位"), QStringLiteral("生产厂商"),
             QStringLiteral("产品批号"), QStringLiteral("生产日期"), QStringLiteral("有效期至"),
-            QStringLiteral("数量+"), QStringLiteral("质量状况"), QStringLiteral("处理情况") });
+            QStringLiteral("数量+"), QStringLiteral("质量状况"), QStringLiteral("处理情况"),
+            QStringLiteral("检查日期"), QStringLiteral("操作员") });
     for (const FilledLine &l : lines)
         addRow(t, l.id,
             { l.number, l.goods, l.goodsName, l.packing, l.unit, l.manufacturer, l.batch,
-                l.produced, l.expiry, l.quantity, l.quality, l.handling });
+                l.produced, l.expiry, l.quantity, l.quality, l.handling, l.date, l.operatorName });
+    t.printFields = { QStringLiteral("gl_djh"), {}, QStringLiteral("g_name"),
+        QStringLiteral("gg_name"), {}, {}, QStringLiteral("t_ph"), QStringLiteral("t_scrq"),
+        QStringLiteral("t_yxq"), QStringLiteral("t_sl"), QStringLiteral("t_zlzk"),
+        QStringLiteral("t_clqk"), QStringLiteral("rq"), QStringLiteral("a_name") };
     return t;
 }
 

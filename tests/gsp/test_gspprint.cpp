@@ -1,12 +1,15 @@
 // What the GSP record screens print: the rows listed, through the record's template, each column
 // as the field its table names, and every field a template reads fed by some column.
 #include "gsp/derived.h"
+#include "gsp/displaycheck.h"
+#include "gsp/picking.h"
 #include "tests/gsp/gsptest.h"
 #include "tests/ui/previews.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
+#include "ui/gsp/filledscreen.h"
 #include "ui/gsp/recordscreen.h"
 #include "ui/gsp/tablemodel.h"
 #include "ui/reports/printing.h"
@@ -171,13 +174,15 @@ TEST_F(GspPrint, ThePrescriptionSalesRecordPrintsThePatientAndThePrescription)
 
 // Every record with a template, printed from a row whose every cell holds something: no cell
 // of the template is left blank but the training record's post, which no column carries. The
-// display check and the expiry tracking print their goods lines, which their tables do not
-// show: their print stays disabled and says so.
+// display check and the expiry tracking print their records' goods lines, not their lists: a
+// plain screen of the list leaves print disabled and says so.
 TEST_F(GspPrint, EveryTemplateFieldOfEveryRecordIsFed)
 {
     const QList<gsp::RecordTable> tables { gsp::acceptanceTable({}), gsp::prescriptionTable({}),
         gsp::prescriptionSalesTable({}), gsp::splittingTable({}), gsp::staffTable({}),
-        gsp::planTable({}), gsp::trainingTable({}), gsp::inspectionTable({}),
+        gsp::planTable({}), gsp::trainingTable({}),
+        gsp::filledLinesTable(gsp::FilledKind::Inspection, {}),
+        gsp::filledLinesTable(gsp::FilledKind::Tracking, {}), gsp::inspectionTable({}),
         gsp::trackingTable({}) };
     QStringList printedKeys;
     QStringList blank;
@@ -210,7 +215,41 @@ TEST_F(GspPrint, EveryTemplateFieldOfEveryRecordIsFed)
         delete preview;
     }
     EXPECT_EQ(printedKeys,
-        (QStringList {
-            "gspysjl", "gspyfgljl", "gspcfxsjl", "ypcljl", "gspyghmc", "gspygpxjh", "gspygpxjl" }));
+        (QStringList { "gspysjl", "gspyfgljl", "gspcfxsjl", "ypcljl", "gspyghmc", "gspygpxjh",
+            "gspygpxjl", "clypjcjl", "jxqjcjl" }));
     EXPECT_EQ(blank, QStringList { "gspygpxjl.Cell3" });
+}
+
+// Two display checks: the screen's F8 prints the lines of the one chosen, each with its
+// record's date and who entered it.
+TEST_F(GspPrint, TheDisplayCheckPrintsTheLinesOfTheChosenRecord)
+{
+    batch(QStringLiteral("200001"), QStringLiteral("100001"), QStringLiteral("A1"),
+        QStringLiteral("2025-05-31"), 12, QStringLiteral("2023-06-01"));
+    batch(QStringLiteral("200003"), QStringLiteral("100001"), QStringLiteral("C1"),
+        QStringLiteral("2025-04-15"), 8);
+    QStringList numbers;
+    for (const char *goods : { "200001", "200003" }) {
+        const auto offered = gsp::pickableBatches(session(),
+            { .warehouse = QStringLiteral("100001"), .key = QString::fromLatin1(goods) });
+        ASSERT_EQ(offered->size(), 1);
+        ASSERT_TRUE(gsp::pickBatch(
+            session(), gsp::FilledKind::Inspection, QStringLiteral("100001"), offered->first())
+                        .value());
+        gsp::InspectionHeader header = gsp::proposedInspection(session(), QStringLiteral("100001"));
+        header.employee = QStringLiteral("100001");
+        const auto number = gsp::saveInspection(session(), header);
+        ASSERT_TRUE(number.ok());
+        numbers.append(number.value());
+    }
+    ui::FilledScreen checks(*workspace, gsp::FilledKind::Inspection);
+    ASSERT_EQ(checks.model()->recordCount(), 2);
+    const int row = int(checks.model()->table().keys.indexOf(numbers.first()));
+    checks.grid()->selectRow(row);
+    ui::PreviewDialog *preview = printed(checks);
+    ASSERT_NE(preview, nullptr);
+    EXPECT_TRUE(preview->windowTitle().contains(QStringLiteral("陈列药品维护检查记录")));
+    EXPECT_EQ(printedRows(*preview, 11),
+        QStringList { "2025-03-14|" + numbers.first()
+            + "|阿莫西林胶囊|0.25g*24粒|A1|2023-06-01|2025-05-31|12|良好||admin" });
 }

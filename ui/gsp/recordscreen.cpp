@@ -249,14 +249,8 @@ void RecordScreen::reload()
         return;
     m_model->setTable(table.value());
     m_count->setText(texts::rowCount(m_model->recordCount()));
-    // A record without a report template offers no printing; one whose template prints what the
-    // grid does not show (a record's lines) says so.
+    // A record without a report template offers no printing.
     m_print->setVisible(!m_model->table().printKey.isEmpty());
-    if (m_workspace.print) {
-        const bool printable = !m_model->table().printFields.isEmpty();
-        m_print->setEnabled(printable);
-        m_print->setToolTip(printable ? QString() : texts::printingNotBuilt());
-    }
     // Widths fit the contents the first time, and again when the grid shows other columns (the
     // restricted ledger's summary); the first layout is the one kept per operator.
     if (m_model->table().headers != m_headers) {
@@ -273,6 +267,12 @@ void RecordScreen::reload()
     else if (m_model->recordCount() > 0)
         m_grid->selectRow(0);
     emit currentRowChanged(currentRow());
+    // Asked once the screen's panels follow the current row (a record's lines print).
+    if (m_workspace.print) {
+        const bool printable = !printRequest().key.isEmpty();
+        m_print->setEnabled(printable);
+        m_print->setToolTip(printable ? QString() : texts::printingNotBuilt());
+    }
 }
 
 PrintRequest RecordScreen::printRequest() const

@@ -67,7 +67,7 @@ public:
     QPushButton *exportButton() const { return m_export; }
     QPushButton *printButton() const { return m_print; }
     // What F8 prints: the listed rows under the record's template; no key when it cannot print.
-    PrintRequest printRequest() const;
+    virtual PrintRequest printRequest() const;
     // The filters with what they hold, for the printed heading: "仓库：所有仓库  关键字：阿莫".
     QString filterText() const;
     // The record row under the cursor, -1 when none (or the totals row).
