@@ -12,7 +12,6 @@
 #include "ui/gsp/tablemodel.h"
 #include "ui/gsp/texts.h"
 
-#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDialog>
@@ -166,9 +165,10 @@ void RecordScreen::addFilter(const QString &label, QWidget *field)
 {
     // Filters go before the query button once it is there.
     const int at = m_query ? m_bar->indexOf(m_query) : m_bar->count();
-    if (!label.isEmpty())
+    if (!label.isEmpty()) {
         m_bar->insertWidget(at, new QLabel(label, this));
-    m_filterFields.append({ label, field });
+        m_filterFields.append({ label, field });
+    }
     m_bar->insertWidget(m_query ? m_bar->indexOf(m_query) : m_bar->count(), field);
     field->installEventFilter(this);
 }
@@ -285,19 +285,7 @@ PrintRequest RecordScreen::printRequest() const
 
 QString RecordScreen::filterText() const
 {
-    QStringList parts;
-    for (const auto &[label, field] : m_filterFields) {
-        QString shown;
-        if (auto *box = qobject_cast<QComboBox *>(field))
-            shown = box->currentText();
-        else if (auto *spin = qobject_cast<QAbstractSpinBox *>(field))
-            shown = spin->text();
-        else if (auto *edit = qobject_cast<QLineEdit *>(field))
-            shown = edit->text();
-        if (!label.isEmpty() && !shown.trimmed().isEmpty())
-            parts.append(label + QStringLiteral("：") + shown.trimmed());
-    }
-    return parts.join(QStringLiteral("  "));
+    return filterHeading(m_filterFields);
 }
 
 void RecordScreen::chooseExportFile()

@@ -117,7 +117,7 @@ private:
     QLabel *m_caption;
     QPushButton *m_export;
     QPushButton *m_print;
-    QList<std::pair<QString, QWidget *>> m_filterFields;
+    QList<QPair<QString, QWidget *>> m_filterFields; // label and field
     QStringList m_headers; // of the table the columns were laid out for
 };
 
