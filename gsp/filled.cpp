@@ -38,6 +38,7 @@ FilledLine filledLineOf(const QSqlQuery &q)
     line.packing = c.text();
     line.unit = c.text();
     line.manufacturer = c.text();
+    line.date = c.text();
     return line;
 }
 
@@ -59,9 +60,10 @@ QList<FilledLine> filledLines(const shell::Session &session, FilledKind kind, co
     QList<FilledLine> lines;
     session.db().forEach(
         QStringLiteral("select a.id,a.gl_djh,a.g_sn,a.t_sl,a.t_zlzk,a.t_clqk,a.t_ph,a.t_scrq,"
-                       "a.t_yxq,a.a_name,b.g_name,b.gg_name,b.dw_name,b.g_sccs from %1 a left join "
-                       "jxc_goods b on a.g_sn=b.g_sn where a.gl_djh=? order by a.id")
-            .arg(table(infoOf(kind).lineTable)),
+                       "a.t_yxq,a.a_name,b.g_name,b.gg_name,b.dw_name,b.g_sccs,h.t_rq from %1 a "
+                       "left join jxc_goods b on a.g_sn=b.g_sn left join %2 h on h.gl_djh=a.gl_djh "
+                       "where a.gl_djh=? order by a.id")
+            .arg(table(infoOf(kind).lineTable), table(infoOf(kind).headerTable)),
         { number }, [&](const QSqlQuery &q) { lines.append(filledLineOf(q)); });
     return lines;
 }

@@ -48,6 +48,7 @@ struct FilledLine
     QString produced;
     QString expiry;
     QString operatorName; // a_name
+    QString date; // the record's t_rq
 };
 QList<FilledLine> filledLines(
     const shell::Session &session, FilledKind kind, const QString &number);

@@ -101,6 +101,11 @@ RecordTable acceptanceTable(const QList<AcceptanceRow> &rows)
                 r.expiry, r.quantity, r.result, r.packaging, r.certificate, r.handling, r.checker,
                 r.number, r.goods, yesOrEmpty(r.imported), r.unit, r.price, r.amount, r.produced,
                 r.warehouseName, r.checkDate });
+    t.printFields = { QStringLiteral("j_jhrq"), QStringLiteral("ghs_name"),
+        QStringLiteral("g_name"), QStringLiteral("gg_name"), QStringLiteral("g_yjlx"),
+        QStringLiteral("color_name"), QStringLiteral("t_ph"), QStringLiteral("t_yxq"),
+        QStringLiteral("jh_sl"), QStringLiteral("ysjg"), QStringLiteral("bzjc"),
+        QStringLiteral("hgz"), QStringLiteral("clyj"), QStringLiteral("j_checker") };
     return t;
 }
 
@@ -111,14 +116,19 @@ RecordTable prescriptionTable(const QList<PrescriptionRow> &rows)
             QStringLiteral("姓名"), QStringLiteral("身份证号"), QStringLiteral("住址"),
             QStringLiteral("手机号码"), QStringLiteral("处方号码"), QStringLiteral("处方说明"),
             QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("规格"),
-            QStringLiteral("药剂类型"), QStringLiteral("单位"), QStringLiteral("数量+"),
-            QStringLiteral("产品批号"), QStringLiteral("有效期至"), QStringLiteral("药师"),
-            QStringLiteral("审核人"), QStringLiteral("审核日期") });
+            QStringLiteral("药剂类型"), QStringLiteral("注册证号"), QStringLiteral("单位"),
+            QStringLiteral("数量+"), QStringLiteral("产品批号"), QStringLiteral("有效期至"),
+            QStringLiteral("药师"), QStringLiteral("审核人"), QStringLiteral("审核日期") });
     for (const PrescriptionRow &r : rows)
         addRow(t, r.id,
             { r.date, r.number, r.customerName, r.patient, r.idCard, r.address, r.mobile,
                 r.prescriptionNumber, r.instructions, r.goods, r.goodsName, r.packing, r.dosage,
-                r.unit, r.quantity, r.batch, r.expiry, r.pharmacist, r.checker, r.checkDate });
+                r.registration, r.unit, r.quantity, r.batch, r.expiry, r.pharmacist, r.checker,
+                r.checkDate });
+    t.printFields = { QStringLiteral("ls_xsrq"), {}, QStringLiteral("kh_name"), {}, {}, {}, {},
+        QStringLiteral("t_cfhm"), QStringLiteral("t_cfsm"), {}, QStringLiteral("g_name"),
+        QStringLiteral("gg_name"), QStringLiteral("g_yjlx"), QStringLiteral("g_zczh"), {},
+        QStringLiteral("ls_sl"), {}, {}, {}, QStringLiteral("ls_checker") };
     return t;
 }
 
@@ -126,18 +136,25 @@ RecordTable prescriptionSalesTable(const QList<PrescriptionRow> &rows)
 {
     RecordTable t = startTable(texts::prescriptionSalesTitle(), QStringLiteral("gspcfxsjl"),
         { QStringLiteral("销售日期"), QStringLiteral("单据号"), QStringLiteral("客户"),
-            QStringLiteral("商品编号"), QStringLiteral("商品名称"), QStringLiteral("规格"),
-            QStringLiteral("药剂类型"), QStringLiteral("药品类型"), QStringLiteral("注册证号"),
-            QStringLiteral("进口药品"), QStringLiteral("生产厂商"), QStringLiteral("单位"),
-            QStringLiteral("数量+"), QStringLiteral("单价"), QStringLiteral("金额+"),
-            QStringLiteral("产品批号"), QStringLiteral("生产日期"), QStringLiteral("有效期至"),
-            QStringLiteral("仓库"), QStringLiteral("审核人"), QStringLiteral("审核日期") });
+            QStringLiteral("姓名"), QStringLiteral("身份证号"), QStringLiteral("处方号码"),
+            QStringLiteral("药师"), QStringLiteral("商品编号"), QStringLiteral("商品名称"),
+            QStringLiteral("规格"), QStringLiteral("药剂类型"), QStringLiteral("药品类型"),
+            QStringLiteral("注册证号"), QStringLiteral("进口药品"), QStringLiteral("生产厂商"),
+            QStringLiteral("单位"), QStringLiteral("数量+"), QStringLiteral("单价"),
+            QStringLiteral("金额+"), QStringLiteral("产品批号"), QStringLiteral("生产日期"),
+            QStringLiteral("有效期至"), QStringLiteral("仓库"), QStringLiteral("审核人"),
+            QStringLiteral("审核日期") });
     for (const PrescriptionRow &r : rows)
         addRow(t, r.id,
-            { r.date, r.number, r.customerName, r.goods, r.goodsName, r.packing, r.dosage,
-                r.category, r.registration, yesOrEmpty(r.imported), r.manufacturer, r.unit,
-                r.quantity, r.price, r.amount, r.batch, r.produced, r.expiry, r.warehouseName,
-                r.checker, r.checkDate });
+            { r.date, r.number, r.customerName, r.patient, r.idCard, r.prescriptionNumber,
+                r.pharmacist, r.goods, r.goodsName, r.packing, r.dosage, r.category, r.registration,
+                yesOrEmpty(r.imported), r.manufacturer, r.unit, r.quantity, r.price, r.amount,
+                r.batch, r.produced, r.expiry, r.warehouseName, r.checker, r.checkDate });
+    t.printFields = { QStringLiteral("ls_xsrq"), {}, {}, QStringLiteral("ls_xm"),
+        QStringLiteral("ls_cardno"), QStringLiteral("t_cfhm"), QStringLiteral("t_yaoshi"), {},
+        QStringLiteral("g_name"), QStringLiteral("gg_name"), {}, {}, {}, {}, {}, {},
+        QStringLiteral("ls_sl"), {}, {}, QStringLiteral("t_ph"), {}, {}, QStringLiteral("ck_name"),
+        QStringLiteral("ls_checker") };
     return t;
 }
 
@@ -156,6 +173,10 @@ RecordTable splittingTable(const QList<SplittingRow> &rows)
                 r.packing, r.unit, r.splitFactor, r.batch, r.expiry, r.purchased, r.sold,
                 optional(r.batchStock), r.checker, r.price, r.partyName, r.warehouseName, r.goods,
                 r.produced });
+    t.printFields = { QStringLiteral("gl_kdrq"), QStringLiteral("gl_djh"), {},
+        QStringLiteral("g_name"), QStringLiteral("gg_name"), {}, {}, QStringLiteral("t_ph"),
+        QStringLiteral("t_yxq"), QStringLiteral("jh_sl"), QStringLiteral("xs_sl"),
+        QStringLiteral("t_sl"), QStringLiteral("fhr") };
     return t;
 }
 
@@ -208,6 +229,8 @@ RecordTable restrictedSummaryTable(const QList<RestrictedSummaryRow> &rows)
     return t;
 }
 
+// The display check and the expiry tracking print their goods lines (clypjcjl, jxqjcjl, see
+// filledLinesTable), not these tables of records: no printFields here.
 RecordTable inspectionTable(const QList<InspectionRecord> &records)
 {
     RecordTable t = startTable(texts::inspectionTitle(), QStringLiteral("clypjcjl"),
@@ -250,15 +273,21 @@ RecordTable trackingTable(const QList<TrackingRecord> &records)
 
 RecordTable filledLinesTable(FilledKind kind, const QList<FilledLine> &lines)
 {
-    RecordTable t = startTable(titleOf(kind), QString(),
+    RecordTable t = startTable(titleOf(kind),
+        kind == FilledKind::Inspection ? QStringLiteral("clypjcjl") : QStringLiteral("jxqjcjl"),
         { QStringLiteral("单据号"), QStringLiteral("商品编号"), QStringLiteral("商品名称"),
             QStringLiteral("规格"), QStringLiteral("单位"), QStringLiteral("生产厂商"),
             QStringLiteral("产品批号"), QStringLiteral("生产日期"), QStringLiteral("有效期至"),
-            QStringLiteral("数量+"), QStringLiteral("质量状况"), QStringLiteral("处理情况") });
+            QStringLiteral("数量+"), QStringLiteral("质量状况"), QStringLiteral("处理情况"),
+            QStringLiteral("检查日期"), QStringLiteral("操作员") });
     for (const FilledLine &l : lines)
         addRow(t, l.id,
             { l.number, l.goods, l.goodsName, l.packing, l.unit, l.manufacturer, l.batch,
-                l.produced, l.expiry, l.quantity, l.quality, l.handling });
+                l.produced, l.expiry, l.quantity, l.quality, l.handling, l.date, l.operatorName });
+    t.printFields = { QStringLiteral("gl_djh"), {}, QStringLiteral("g_name"),
+        QStringLiteral("gg_name"), {}, {}, QStringLiteral("t_ph"), QStringLiteral("t_scrq"),
+        QStringLiteral("t_yxq"), QStringLiteral("t_sl"), QStringLiteral("t_zlzk"),
+        QStringLiteral("t_clqk"), QStringLiteral("rq"), QStringLiteral("a_name") };
     return t;
 }
 
@@ -294,6 +323,11 @@ RecordTable staffTable(const QList<StaffRow> &rows)
                 e.duty, e.post, e.title, e.qualification, e.qualifiedBy, yesOrEmpty(e.pharmacist),
                 e.joined, e.fileNumber, r.departmentName, r.branchName, yesOrEmpty(e.left) });
     }
+    t.printFields = { QStringLiteral("u_sn"), QStringLiteral("u_name"), QStringLiteral("u_sex"),
+        QStringLiteral("u_csrq"), {}, {}, QStringLiteral("u_xl"), QStringLiteral("u_zy"), {},
+        QStringLiteral("u_duty"), QStringLiteral("u_gw"), QStringLiteral("u_jszc"),
+        QStringLiteral("u_zyzg"), {}, QStringLiteral("u_isys"), QStringLiteral("u_gsny"),
+        QStringLiteral("u_dabh"), QStringLiteral("de_name") };
     return t;
 }
 
@@ -312,6 +346,10 @@ RecordTable planTable(const QList<PlanRow> &rows)
                 p.teacher, p.audience, p.assessment, p.method, p.note, r.submitted,
                 r.operatorName });
     }
+    t.printFields
+        = { QStringLiteral("u_ydsj"), QStringLiteral("u_pxzt"), {}, QStringLiteral("u_name"),
+              QStringLiteral("u_pxmd"), QStringLiteral("u_pxnr"), QStringLiteral("u_dd"),
+              QStringLiteral("u_js"), QStringLiteral("u_pxdx"), QStringLiteral("u_khfs") };
     return t;
 }
 
@@ -328,6 +366,10 @@ RecordTable trainingTable(const QList<TrainingRow> &rows)
             { x.held, r.topic, r.planned, r.employee, r.employeeName, x.performance, x.result,
                 x.score, x.assessor, x.note, r.operatorName });
     }
+    // The template's "岗位" (u_gw) has no column: a training row does not carry the post.
+    t.printFields = { QStringLiteral("u_pxsj"), QStringLiteral("u_pxzt"), {}, {},
+        QStringLiteral("u_name"), QStringLiteral("u_pxbx"), QStringLiteral("u_khjg"),
+        QStringLiteral("u_cj"), QStringLiteral("u_pdr"), QStringLiteral("u_bz") };
     return t;
 }
 

@@ -36,6 +36,9 @@ struct RecordTable
     QList<QVariantList> rows;
     QVariantList keys; // the line id, entry id, record number or employee code of each row
     QList<int> summed; // columns added up in the totals row
+    // The template's "Lines" field each column is printed as (empty: not printed); empty when the
+    // record's template prints something the table does not show (a record's lines).
+    QStringList printFields {};
 };
 
 // The totals row: "合计" first, the sums of the summed columns, the rest empty.

@@ -20,15 +20,19 @@
 #include "ui/common/workspace.h"
 #include "ui/gsp/batchpicker.h"
 #include "ui/gsp/filleddialog.h"
+#include "ui/gsp/recordscreen.h"
 #include "ui/gsp/registration.h"
 #include "ui/gsp/restrictedscreen.h"
 #include "ui/gsp/staffscreen.h"
 #include "ui/gsp/tablemodel.h"
 #include "ui/gsp/temperaturescreen.h"
 #include "ui/gsp/trainingscreens.h"
+#include "ui/reports/previewdialog.h"
 #include "ui/shell/mainwindow.h"
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSqlRecord>
 #include <QTabWidget>
 #include <QTableView>
@@ -267,6 +271,33 @@ void seedFilledRecords(shell::Session &s)
     }
 }
 
+// The records' print previews: F8 on the acceptance record, the splitting record and the staff
+// register, each with the rows the screen lists.
+void shootGspPrints(
+    const std::function<void(QWidget *, const QString &)> &shoot, ui::MainWindow &window)
+{
+    const std::pair<int, const char *> records[] = { { 1, "220-preview-gspysjl" },
+        { 4, "221-preview-ypcljl" }, { 8, "222-preview-gspyghmc" } };
+    for (const auto &[position, name] : records) {
+        window.openOperation(QStringLiteral("gspgl"), position);
+        auto *screen = qobject_cast<ui::RecordScreen *>(window.tabs()->currentWidget());
+        if (!screen || !screen->printButton()->isEnabled())
+            continue;
+        screen->printButton()->click();
+        // Found first, shot after: shooting lets the previous preview's deletion happen.
+        ui::PreviewDialog *preview = nullptr;
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (auto *open = qobject_cast<ui::PreviewDialog *>(widget); open && open->isVisible())
+                preview = open;
+        if (!preview)
+            continue;
+        if (preview->report().pages.first().sizeMm.width() > 250)
+            preview->setZoom(0.8);
+        shoot(preview, QString::fromLatin1(name));
+        preview->close();
+    }
+}
+
 } // namespace
 
 void shootGsp(const std::function<void(QWidget *, const QString &)> &shoot, ui::MainWindow &window,
@@ -303,6 +334,7 @@ void shootGsp(const std::function<void(QWidget *, const QString &)> &shoot, ui::
             document.hide();
         }
     }
+    shootGspPrints(shoot, window);
     window.openOperation(QStringLiteral("kcgl"), 16);
     shoot(&window, QStringLiteral("60-expiry-query"));
 

@@ -67,8 +67,8 @@ TEST_F(GspCommands, AnInspectionIsEnteredAndListedWithItsLines)
         QStringLiteral("--number"), QStringLiteral("JC25031410001") });
     ASSERT_EQ(lines.status, 0);
     EXPECT_EQ(lines.out.split(QLatin1Char('\n')).value(1),
-        QStringLiteral(
-            "JC25031410001\t200001\t阿莫西林胶囊\t\t盒\t\tA2\t\t2026-01-31\t10\t良好\t"));
+        QStringLiteral("JC25031410001\t200001\t阿莫西林胶囊\t\t盒\t\tA2\t\t2026-01-31\t10\t良好\t\t"
+                       "2025-03-14\tadmin"));
     const QString sheet = QDir(folder()).filePath(QStringLiteral("jc.xlsx"));
     ASSERT_EQ(run({ QStringLiteral("gsp"), QStringLiteral("inspections"),
                       QStringLiteral("--export"), sheet })

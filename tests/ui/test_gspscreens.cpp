@@ -167,7 +167,7 @@ TEST_F(GspScreens, AnEmployeeIsTypedIntoTheRegister)
 {
     ui::StaffScreen screen(workspace());
     EXPECT_EQ(screen.countLabel()->text(), QStringLiteral("记录数：0"));
-    // The register has a report template: its print button waits, disabled, for printing.
+    // The register has a report template; a workspace that cannot print shows it disabled.
     EXPECT_TRUE(screen.printButton()->isVisibleTo(&screen));
     EXPECT_FALSE(screen.printButton()->isEnabled());
     EXPECT_EQ(screen.printButton()->toolTip(), ui::texts::printingNotBuilt());

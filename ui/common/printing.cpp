@@ -3,6 +3,9 @@
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -28,6 +31,25 @@ QPushButton *makePrintButton(
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     QObject::connect(shortcut, &QShortcut::activated, screen, print);
     return button;
+}
+
+QString filterHeading(const QList<QPair<QString, QWidget *>> &filters)
+{
+    QStringList parts;
+    for (const auto &[label, field] : filters) {
+        QString shown;
+        if (auto *box = qobject_cast<QComboBox *>(field))
+            shown = box->currentText();
+        else if (auto *spin = qobject_cast<QAbstractSpinBox *>(field))
+            shown = spin->text();
+        else if (auto *edit = qobject_cast<QLineEdit *>(field))
+            shown = edit->text();
+        else if (auto *inner = field->findChild<QLineEdit *>())
+            shown = inner->text();
+        if (!shown.trimmed().isEmpty())
+            parts.append(label + QStringLiteral("：") + shown.trimmed());
+    }
+    return parts.join(QStringLiteral("  "));
 }
 
 } // namespace medistock::ui

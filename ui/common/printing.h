@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 
@@ -42,5 +43,9 @@ using PrintAllHandler
 // handler (a screen test) leaves it disabled, with the tooltip printingNotBuilt.
 QPushButton *makePrintButton(
     Workspace &workspace, QWidget *screen, std::function<PrintRequest()> request);
+
+// A query's filters with what they hold, for a printed heading: "仓库：主仓库  查找：阿莫" (a
+// field left empty is left out).
+QString filterHeading(const QList<QPair<QString, QWidget *>> &filters);
 
 } // namespace medistock::ui

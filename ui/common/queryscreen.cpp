@@ -338,21 +338,7 @@ PrintRequest QueryScreen::printRequest() const
 
 QString QueryScreen::filterText() const
 {
-    QStringList parts;
-    for (const auto &[label, field] : m_filterFields) {
-        QString shown;
-        if (auto *box = qobject_cast<QComboBox *>(field))
-            shown = box->currentText();
-        else if (auto *spin = qobject_cast<QAbstractSpinBox *>(field))
-            shown = spin->text();
-        else if (auto *edit = qobject_cast<QLineEdit *>(field))
-            shown = edit->text();
-        else if (auto *inner = field->findChild<QLineEdit *>())
-            shown = inner->text();
-        if (!shown.trimmed().isEmpty())
-            parts.append(label + QStringLiteral("：") + shown.trimmed());
-    }
-    return parts.join(QStringLiteral("  "));
+    return filterHeading(m_filterFields);
 }
 
 bool QueryScreen::eventFilter(QObject *watched, QEvent *event)

@@ -62,6 +62,13 @@ void FilledScreen::showLines()
     m_lines->resizeColumnsToContents();
 }
 
+PrintRequest FilledScreen::printRequest() const
+{
+    const gsp::RecordTable &lines = m_linesModel->table();
+    return { lines.printKey, {}, m_linesModel, lines.printFields, m_linesModel->recordCount(),
+        filterText() };
+}
+
 void FilledScreen::addRecord()
 {
     FilledDialog dialog(m_workspace, m_kind, this);

@@ -7,6 +7,7 @@ namespace medistock::ui {
 
 // The list of "陈列药品维护检查记录" or "近效期跟踪记录" with the lines of the chosen record below;
 // new records are entered through their dialog, and a record is deleted whole or line by line.
+// F8 prints the chosen record's lines (what the record's template lays out), not the list.
 class FilledScreen : public RecordScreen
 {
     Q_OBJECT
@@ -15,6 +16,7 @@ public:
 
     QTableView *linesGrid() const { return m_lines; }
     RecordTableModel *linesModel() const { return m_linesModel; }
+    PrintRequest printRequest() const override;
 
 public slots:
     void addRecord();

@@ -5,6 +5,7 @@
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "ui/common/grid.h"
+#include "ui/common/printing.h"
 #include "ui/common/reading.h"
 #include "ui/common/texts.h"
 #include "ui/common/workspace.h"
@@ -85,7 +86,7 @@ RecordScreen::RecordScreen(
     , m_count(new QLabel(this))
     , m_caption(new QLabel(this))
     , m_export(new QPushButton(texts::exportButton(), this))
-    , m_print(new QPushButton(texts::printButton(), this))
+    , m_print(makePrintButton(workspace, this, [this] { return printRequest(); }))
 {
     m_grid->setModel(m_model);
     m_grid->installEventFilter(this);
@@ -106,10 +107,6 @@ RecordScreen::RecordScreen(
     m_bar->addWidget(query);
     m_bar->addStretch(1);
 
-    // The records' columns are not matched to their templates' fields yet: printing stays off.
-    m_print->setAutoDefault(false);
-    m_print->setEnabled(false);
-    m_print->setToolTip(texts::printingNotBuilt());
     m_export->setAutoDefault(false);
     connect(m_export, &QPushButton::clicked, this, &RecordScreen::chooseExportFile);
     m_bar->addWidget(m_export);
@@ -168,8 +165,10 @@ void RecordScreen::addFilter(const QString &label, QWidget *field)
 {
     // Filters go before the query button once it is there.
     const int at = m_query ? m_bar->indexOf(m_query) : m_bar->count();
-    if (!label.isEmpty())
+    if (!label.isEmpty()) {
         m_bar->insertWidget(at, new QLabel(label, this));
+        m_filterFields.append({ label, field });
+    }
     m_bar->insertWidget(m_query ? m_bar->indexOf(m_query) : m_bar->count(), field);
     field->installEventFilter(this);
 }
@@ -268,6 +267,25 @@ void RecordScreen::reload()
     else if (m_model->recordCount() > 0)
         m_grid->selectRow(0);
     emit currentRowChanged(currentRow());
+    // Asked once the screen's panels follow the current row (a record's lines print).
+    if (m_workspace.print) {
+        const bool printable = !printRequest().key.isEmpty();
+        m_print->setEnabled(printable);
+        m_print->setToolTip(printable ? QString() : texts::printingNotBuilt());
+    }
+}
+
+PrintRequest RecordScreen::printRequest() const
+{
+    const gsp::RecordTable &table = m_model->table();
+    if (table.printFields.isEmpty())
+        return {};
+    return { table.printKey, {}, m_model, table.printFields, m_model->recordCount(), filterText() };
+}
+
+QString RecordScreen::filterText() const
+{
+    return filterHeading(m_filterFields);
 }
 
 void RecordScreen::chooseExportFile()

@@ -2,6 +2,7 @@
 
 #include "core/outcome.h"
 #include "gsp/tables.h"
+#include "ui/common/printing.h"
 
 #include <QKeySequence>
 #include <QWidget>
@@ -27,9 +28,10 @@ class RecordTableModel;
 // The screen of one GSP record or query: the filters on top (a date range defaulting to
 // 2000-01-01 .. 9999-12-31, a warehouse, a keyword, and where the record has them the days or
 // the sex), Enter or F5 runs the query, the grid below with a totals row, "记录数：N" at the
-// bottom, export of the grid to .xlsx, and "打印(F8)" where the record has a report template
-// (disabled until report printing is built). A screen that enters records adds its buttons;
-// double-click or Enter on a row activates it.
+// bottom, export of the grid to .xlsx, and "打印(F8)" where the record has a report template:
+// the rows listed (not the totals row, the template sums itself) through the template, each
+// column as the field the table names, the filters as the heading. A screen that enters records
+// adds its buttons; double-click or Enter on a row activates it.
 class RecordScreen : public QWidget
 {
     Q_OBJECT
@@ -64,6 +66,10 @@ public:
     QLabel *captionLabel() const { return m_caption; }
     QPushButton *exportButton() const { return m_export; }
     QPushButton *printButton() const { return m_print; }
+    // What F8 prints: the listed rows under the record's template; no key when it cannot print.
+    virtual PrintRequest printRequest() const;
+    // The filters with what they hold, for the printed heading: "仓库：所有仓库  关键字：阿莫".
+    QString filterText() const;
     // The record row under the cursor, -1 when none (or the totals row).
     int currentRow() const;
     // The key of the current record row; invalid when none.
@@ -111,6 +117,7 @@ private:
     QLabel *m_caption;
     QPushButton *m_export;
     QPushButton *m_print;
+    QList<QPair<QString, QWidget *>> m_filterFields; // label and field
     QStringList m_headers; // of the table the columns were laid out for
 };
 

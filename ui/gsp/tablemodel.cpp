@@ -73,6 +73,8 @@ QVariant RecordTableModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return text(value, kind);
+    case Qt::EditRole: // the value itself, numbers as numbers: what a printed grid hands on
+        return value;
     case Qt::TextAlignmentRole:
         return isNumber(value) ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                                : QVariant(Qt::AlignLeft | Qt::AlignVCenter);

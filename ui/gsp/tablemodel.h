@@ -12,7 +12,7 @@ namespace medistock::ui {
 
 // A record's table for a grid: its rows, then a bold totals row when it sums anything. Numbers
 // are right-aligned, quantities, prices and amounts at the parameters' decimals, and a negative
-// figure is red.
+// figure is red. The edit role gives each cell's value as it is, for printing.
 class RecordTableModel : public QAbstractTableModel
 {
     Q_OBJECT
