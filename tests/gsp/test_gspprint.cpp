@@ -5,6 +5,7 @@
 #include "gsp/picking.h"
 #include "tests/gsp/gsptest.h"
 #include "tests/ui/previews.h"
+#include "tests/ui/screenworkspace.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/texts.h"
@@ -35,15 +36,9 @@ protected:
         GspTest::SetUp();
         if (HasFatalFailure())
             return;
-        static bool prepared = false;
-        if (!prepared) {
-            ui::prepareApplication(*qApp);
-            prepared = true;
-        }
         qputenv("MEDISTOCK_REPORT_DIR", MEDISTOCK_SOURCE_DIR "/report");
-        layouts = std::make_unique<ui::GridLayouts>(
-            QDir(folder()).filePath(QStringLiteral("layout.ini")));
-        workspace.reset(new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts });
+        layouts = test::layoutStore(folder());
+        workspace = test::screenWorkspace(session(), db(), *layouts, folder());
         ui::installPrinting(*workspace);
     }
 

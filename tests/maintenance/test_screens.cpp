@@ -1,6 +1,7 @@
 // "库存核对" and "备份/恢复数据库" driven as a clerk drives them.
 #include "tests/support/accountset.h"
 #include "tests/support/books.h"
+#include "tests/ui/screenworkspace.h"
 #include "ui/common/workspace.h"
 #include "ui/maintenance/backupdialog.h"
 #include "ui/maintenance/verifyscreen.h"
@@ -29,10 +30,8 @@ protected:
         for (const QString &receipt : receipts)
             ASSERT_TRUE(toggleReceipt(session(), receipt));
         ui.clear();
-        layouts = std::make_unique<ui::GridLayouts>(
-            QDir(folder()).filePath(QStringLiteral("layout.ini")));
-        workspace = std::make_unique<ui::Workspace>(
-            ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts, folder() });
+        layouts = test::layoutStore(folder());
+        workspace = test::screenWorkspace(session(), db(), *layouts, folder());
     }
 
     QStringList gridTexts(const ui::QueryScreen &screen, int column)

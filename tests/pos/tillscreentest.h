@@ -2,6 +2,7 @@
 
 #include "core/interaction.h"
 #include "tests/pos/postest.h"
+#include "tests/ui/screenworkspace.h"
 #include "ui/common/application.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/workspace.h"
@@ -32,14 +33,8 @@ protected:
         PosTest::SetUp();
         if (HasFatalFailure())
             return;
-        static bool prepared = false;
-        if (!prepared) {
-            ui::prepareApplication(*qApp);
-            prepared = true;
-        }
-        layouts = std::make_unique<ui::GridLayouts>(
-            QDir(folder()).filePath(QStringLiteral("layout.ini")));
-        workspace.reset(new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts });
+        layouts = layoutStore(folder());
+        workspace = screenWorkspace(session(), db(), *layouts, folder());
         db().exec(QStringLiteral("update jxc_goods set g_lsj=12 where g_sn='200001'"));
         db().exec(QStringLiteral("update jxc_goods set g_lsj=8 where g_sn='200002'"));
         db().exec(QStringLiteral("update jxc_goods set g_lsj=3.5 where g_sn='200003'"));

@@ -3,6 +3,7 @@
 #include "statistics/texts.h"
 #include "tests/statistics/statisticstest.h"
 #include "tests/support/documentrows.h"
+#include "tests/ui/screenworkspace.h"
 #include "ui/common/gridlayouts.h"
 #include "ui/common/screenregistry.h"
 #include "ui/common/workspace.h"
@@ -43,8 +44,8 @@ protected:
         januaryBooks();
         receipt("2025-02-03", { { "200001", "30", "12" } });
         salesReturn("2025-02-10", { { "200001", "5", "15" } });
-        m_layouts = std::make_unique<ui::GridLayouts>(QDir(folder()).filePath("layout.ini"));
-        m_workspace.reset(new ui::Workspace { session(), db(), "主帐套", *m_layouts });
+        m_layouts = test::layoutStore(folder());
+        m_workspace = test::screenWorkspace(session(), db(), *m_layouts, folder());
         ui.clear();
     }
 
@@ -61,7 +62,7 @@ protected:
     void switchOperator(const QString &name)
     {
         loginAs(name);
-        m_workspace.reset(new ui::Workspace { session(), db(), "主帐套", *m_layouts });
+        m_workspace = test::screenWorkspace(session(), db(), *m_layouts, folder());
     }
 
     static void setRange(ReportScreen *screen, const QDate &from, const QDate &to)

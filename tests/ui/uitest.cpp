@@ -1,5 +1,7 @@
 #include "tests/ui/uitest.h"
 
+#include "tests/ui/screenworkspace.h"
+
 #include "masterdata/kinds.h"
 #include "masterdata/masterrows.h"
 #include "shell/operators.h"
@@ -17,15 +19,8 @@ void UiTest::SetUp()
     SessionTest::SetUp();
     if (HasFatalFailure())
         return;
-    static bool prepared = false;
-    if (!prepared) {
-        ui::prepareApplication(*qApp);
-        prepared = true;
-    }
-    layouts
-        = std::make_unique<ui::GridLayouts>(QDir(folder()).filePath(QStringLiteral("layout.ini")));
-    m_workspace.reset(
-        new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts, folder() });
+    layouts = layoutStore(folder());
+    m_workspace = screenWorkspace(session(), db(), *layouts, folder());
 }
 
 void UiTest::TearDown()
@@ -38,8 +33,7 @@ void UiTest::TearDown()
 void UiTest::switchOperator(const QString &name, const QString &password)
 {
     loginAs(name, password);
-    m_workspace.reset(
-        new ui::Workspace { session(), db(), QStringLiteral("主帐套"), *layouts, folder() });
+    m_workspace = screenWorkspace(session(), db(), *layouts, folder());
 }
 
 void UiTest::addOperatorWithRights(const QString &name, const QHash<QString, QString> &strings)
